@@ -1,0 +1,70 @@
+# The library. Its objects are built once and linked twice: into the shared library, with the export list, and into
+# the unit tests, without it.
+
+add_library(
+    routerdb_objects OBJECT
+    core/access.cpp
+    core/backoff.cpp
+    core/connection.cpp
+    core/doors.cpp
+    core/encoding.cpp
+    core/execute.cpp
+    core/id_list.cpp
+    core/lock_file.cpp
+    core/maintenance.cpp
+    core/query.cpp
+    core/random.cpp
+    core/report.cpp
+    core/row.cpp
+    core/shell.cpp
+    core/statement.cpp
+    core/text.cpp
+    core/time_of_day.cpp
+    rules/client_ops.cpp
+    rules/doors.cpp
+    rules/list_builder.cpp
+    rules/record_layout.cpp
+    rules/record_reader.cpp
+    rules/sql_builder.cpp
+    rules/tables/filter_url.cpp
+    rules/tables/user_timegroup.cpp
+    rules/time_span.cpp
+    sqlservice/client.cpp
+    sqlservice/doors.cpp
+    sqlservice/sigpipe_hold.cpp
+    sqlservice/socket.cpp)
+
+set_target_properties(
+    routerdb_objects
+    PROPERTIES POSITION_INDEPENDENT_CODE ON
+               CXX_VISIBILITY_PRESET hidden
+               VISIBILITY_INLINES_HIDDEN ON)
+target_include_directories(
+    routerdb_objects
+    PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
+# Fortified calls have other names, and programs put their own functions in front of the plain ones.
+target_compile_options(
+    routerdb_objects
+    PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections
+            -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0)
+
+add_library(routerdb SHARED)
+add_library(routerdb::routerdb ALIAS routerdb)
+target_link_libraries(routerdb PRIVATE routerdb_objects SQLite::SQLite3 Threads::Threads)
+target_include_directories(
+    routerdb
+    INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+set_target_properties(
+    routerdb
+    PROPERTIES VERSION ${PROJECT_VERSION}
+               SOVERSION ${PROJECT_VERSION_MAJOR}
+               LINKER_LANGUAGE C # so that no C++ runtime comes in
+               LINK_DEPENDS ${PROJECT_SOURCE_DIR}/routerdb.map)
+target_link_options(
+    routerdb
+    PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/routerdb.map
+            LINKER:--no-undefined-version
+            LINKER:-z,defs
+            LINKER:--gc-sections
+            LINKER:--as-needed)

@@ -1,0 +1,61 @@
+#include "core/access.h"
+
+#include "core/paths.h"
+#include "routerdb.h"
+
+namespace routerdb {
+
+MutexHold::~MutexHold() {
+    if (taken_) {
+        pthread_mutex_unlock(&db_mutex);
+    }
+}
+
+void MutexHold::take() {
+    pthread_mutex_lock(&db_mutex);
+    taken_ = true;
+}
+
+bool Access::open() {
+    return take_guard() && open_database();
+}
+
+bool Access::take_guard() {
+    const auto draw = [this] { backoff_ = Backoff(profile_.first_delay, profile_.scale, profile_.busy); };
+    if (profile_.guard == Guard::mutex_and_lock_file) {
+        mutex_.take();
+    }
+    if (profile_.draw == Draw::before_opening_lock_file) {
+        draw();
+    }
+    if (profile_.guard != Guard::none && !lock_file_.open()) {
+        report({profile_.lock_failure, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
+        return false;
+    }
+    if (profile_.draw == Draw::after_opening_lock_file) {
+        draw();
+    }
+    if (profile_.guard != Guard::none) {
+        lock_file_.lock();
+    }
+    return true;
+}
+
+bool Access::open_database() {
+    const int code = connection_.open(profile_.database, backoff_);
+    if (code == SQLITE_OK) {
+        return true;
+    }
+    report(profile_.open_failure, {path_of(profile_.database), code, sqlite3_errmsg(connection_.handle())});
+    if (profile_.failed_handle == FailedHandle::abandoned) {
+        connection_.abandon();  // Deliberate: callers that count connections see this one left open.
+    }
+    return false;
+}
+
+int Access::close() {
+    connection_.close();
+    return lock_file_.release();
+}
+
+}  // namespace routerdb

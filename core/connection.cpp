@@ -1,0 +1,28 @@
+#include "core/connection.h"
+
+#include "core/paths.h"
+#include "core/retry.h"
+
+namespace routerdb {
+
+const char *path_of(Database database) {
+    return database == Database::main ? paths::main_database : paths::catalogue_database;
+}
+
+int Connection::open(Database database, Backoff &backoff) {
+    return retry_while_busy(backoff, handle_, [&] {
+        close();  // a failed open may leave a handle behind, which the next attempt would overwrite
+        return sqlite3_open(path_of(database), &handle_);
+    });
+}
+
+int Connection::close() {
+    if (handle_ == nullptr) {
+        return SQLITE_OK;
+    }
+    const int code = sqlite3_close(handle_);
+    handle_ = nullptr;
+    return code;
+}
+
+}  // namespace routerdb

@@ -1,0 +1,127 @@
+// The exported functions of the database core. Each converts its arguments, calls, and converts the result.
+#include <cstring>
+
+#include "core/encoding.h"
+#include "core/execute.h"
+#include "core/id_list.h"
+#include "core/lock_file.h"
+#include "core/maintenance.h"
+#include "core/paths.h"
+#include "core/profiles.h"
+#include "core/query.h"
+#include "core/text.h"
+#include "core/time_of_day.h"
+#include "routerdb.h"
+
+using namespace routerdb;
+
+pthread_mutex_t db_mutex = PTHREAD_MUTEX_INITIALIZER;
+
+int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len) {
+    return set_record_lock(fd, cmd, type, offset, whence, len);
+}
+
+int get_db_lock() {
+    LockFile lock_file;
+    if (!lock_file.open()) {
+        report({Stream::standard_error, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
+        return -1;
+    }
+    lock_file.lock();
+    return lock_file.hand_over();
+}
+
+int free_db_lock(int fd) {
+    LockFile(fd).release();
+    return 0;
+}
+
+int DbSqlExec(char *sql) {
+    return execute_with_copy(or_empty(sql));
+}
+
+int backup_sqlite_db() {
+    return backup_main_database();
+}
+
+int restore_sqlite_db() {
+    return restore_main_database();
+}
+
+int reset_sqlite_db() {
+    return reset_main_database();
+}
+
+int DB_EXEC_SQL_CHAR(const char *sql) {
+    return execute(profiles::exec_char, or_empty(sql));
+}
+
+int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count) {
+    Destination destination;
+    destination.counter = count;
+    return query(profiles::exec_char_int, or_empty(sql), destination);
+}
+
+int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value) {
+    Destination destination;
+    destination.number = value;
+    return query(profiles::exec_char_long, or_empty(sql), destination);
+}
+
+int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out) {
+    Destination destination;
+    destination.text = out;
+    return query(profiles::exec_char_char, or_empty(sql), destination);
+}
+
+int GET_DB_SQL_INT_COUNT(const char *sql) {
+    return query(profiles::sql_int_count, or_empty(sql));
+}
+
+int GET_DB_SQL_INT(const char *sql) {
+    return query(profiles::sql_int, or_empty(sql));
+}
+
+int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql) {
+    return query(profiles::sql_int_count_route, or_empty(sql));
+}
+
+int GET_DB_SQL_INT_COUNT_DPI(const char *sql) {
+    return query(profiles::sql_int_count_dpi, or_empty(sql));
+}
+
+int GET_DB_SQLITE_SQL_INT(const char *sql) {
+    return query(profiles::sqlite_sql_int, or_empty(sql));
+}
+
+unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db) {
+    Destination destination;
+    destination.text = out;
+    Backoff backoff(profiles::sqlite_sql_str_n.access.first_delay);
+    return static_cast<unsigned int>(query(profiles::sqlite_sql_str_n, db, backoff, or_empty(sql), destination));
+}
+
+int muti_id_convert_int_array(char *text, int *ids) {
+    return read_ids(text, ids);
+}
+
+size_t generate_db_params(char *text, char *out, unsigned int size, int column) {
+    append_id_condition(text, out, size, column);
+    return std::strlen(out);
+}
+
+int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen) {
+    return convert_utf8_to_gb2312(in, inlen, out, outlen);
+}
+
+int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen) {
+    return convert_gb2312_to_utf8(in, inlen, out, outlen);
+}
+
+int change_time_to_int(const char *hhmm) {
+    return time_of_day(hhmm);
+}
+
+int check_time_one_day(const char *a, const char *b) {
+    return time_of_day(a) > time_of_day(b) ? 1 : 0;
+}

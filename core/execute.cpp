@@ -1,0 +1,82 @@
+#include "core/execute.h"
+
+#include <cstring>
+
+#include "core/paths.h"
+#include "core/profiles.h"
+#include "core/retry.h"
+#include "core/shell.h"
+
+namespace routerdb {
+
+namespace {
+
+/// Frees the message of one attempt. A null one is freed too.
+struct ErrorMessage {
+    ErrorMessage() = default;
+    ErrorMessage(const ErrorMessage &) = delete;
+    ErrorMessage &operator=(const ErrorMessage &) = delete;
+    ~ErrorMessage() { sqlite3_free(text); }
+
+    char *text = nullptr;
+};
+
+void tune_for_writing(sqlite3 *db) {
+    constexpr char pragmas[][32] = {
+        "PRAGMA synchronous = NORMAL; ",
+        "PRAGMA page_size = 12000; ",
+        "PRAGMA cache_size = 4000; ",
+    };
+    for (const char *pragma : pragmas) {
+        sqlite3_exec(db, pragma, nullptr, nullptr, nullptr);
+    }
+}
+
+/// Callers rely on the plain text search: "SELECT" does not count, and the word inside a value does.
+bool looks_like_a_query(const char *sql) {
+    return std::strstr(sql, "select") != nullptr;
+}
+
+}  // namespace
+
+int execute(Access &access, const char *sql) {
+    sqlite3 *const db = access.db();
+    const int code = retry_while_busy(access.backoff(), db, [&] {
+        ErrorMessage message;
+        const int result = sqlite3_exec(db, sql, nullptr, nullptr, &message.text);
+        if (result != SQLITE_OK && !is_busy(result)) {
+            report({Stream::standard_output, Wording::cannot_exec}, {nullptr, result, message.text});
+        }
+        return result;
+    });
+    return code == SQLITE_OK ? 0 : -1;
+}
+
+int execute(const ExecuteProfile &profile, const char *sql) {
+    Access access(profile.access);
+    if (!access.open()) {
+        return -1;
+    }
+    if (profile.pragmas == Pragmas::write_tuning) {
+        tune_for_writing(access.db());
+    }
+    return execute(access, sql);
+}
+
+int execute_with_copy(const char *sql) {
+    int result = -1;
+    {
+        Access access(profiles::guarded_execution.access);
+        if (!access.open()) {
+            return -1;
+        }
+        result = execute(access, sql);
+    }
+    if (!looks_like_a_query(sql)) {
+        // Deliberate: the file is copied onto itself, after the lock is released and also when the statement failed.
+        run_in_shell("cp -f %s %s >/dev/null 2>&1 &", paths::main_database, paths::main_database);
+    }
+    return result;
+}
+
+}  // namespace routerdb

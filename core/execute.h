@@ -1,0 +1,28 @@
+// Statements whose rows nobody wants.
+#pragma once
+
+#include "core/access.h"
+
+namespace routerdb {
+
+enum class Pragmas : std::uint8_t { none, write_tuning };
+
+struct ExecuteProfile {
+    AccessProfile access;
+    Pragmas pragmas;
+};
+
+/// Executes SQL on an open connection, retrying the whole text while the database is busy. A failure is written to
+/// standard output.
+/// @return 0 or -1
+[[nodiscard]] int execute(Access &access, const char *sql);
+
+/// Opens as the profile says, executes, closes.
+/// @return 0 or -1
+[[nodiscard]] int execute(const ExecuteProfile &profile, const char *sql);
+
+/// Executes SQL under the lock file and leaves the background copy of the database behind.
+/// @return 0 or -1
+[[nodiscard]] int execute_with_copy(const char *sql);
+
+}  // namespace routerdb

@@ -1,0 +1,45 @@
+#include "core/lock_file.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "core/paths.h"
+
+namespace routerdb {
+
+int set_record_lock(int fd, int cmd, int type, off_t offset, int whence, off_t len) {
+    struct flock lock {};
+    lock.l_type = static_cast<decltype(lock.l_type)>(type);
+    lock.l_whence = static_cast<decltype(lock.l_whence)>(whence);
+    lock.l_start = offset;
+    lock.l_len = len;
+    return fcntl(fd, cmd, &lock);
+}
+
+bool LockFile::open() {
+    // The mode has no effect, because the file is never created here.
+    fd_ = ::open(paths::lock_file, O_RDWR, 0644);
+    return fd_ >= 0;
+}
+
+void LockFile::lock() {
+    set_record_lock(fd_, F_SETLKW, F_WRLCK, 0, SEEK_SET, 0);
+}
+
+int LockFile::release() {
+    if (fd_ < 0) {
+        return 0;
+    }
+    set_record_lock(fd_, F_SETLK, F_UNLCK, 0, SEEK_SET, 0);
+    return close(hand_over());
+}
+
+int LockFile::hand_over() {
+    const int handle = fd_;
+    fd_ = -1;
+    return handle;
+}
+
+}  // namespace routerdb

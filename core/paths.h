@@ -1,0 +1,14 @@
+// The fixed paths. They are compiled in: nothing configures them.
+#pragma once
+
+namespace routerdb::paths {
+
+inline constexpr char main_database[] = "/etc/config/systemconf/database/myrouter.db";
+inline constexpr char catalogue_database[] = "/etc/config/systemconf/database/dpilib.db";
+inline constexpr char lock_file[] = "/var/databaselock";
+inline constexpr char backup_directory[] = "/var/tmpconfig/database";
+inline constexpr char backup_database[] = "/var/tmpconfig/database/myrouter.db";
+inline constexpr char factory_database[] = "/rom/etc/config/systemconf/database/myrouter.db";
+inline constexpr char service_socket[] = "/var/sqlserver_socket";
+
+}  // namespace routerdb::paths

@@ -1,0 +1,47 @@
+// The engine of the statement helpers that read.
+#pragma once
+
+#include "core/access.h"
+
+namespace routerdb {
+
+/// What becomes of the rows.
+enum class Rows : std::uint8_t {
+    counted_up,       // each adds 1 to the caller's counter
+    counted,          // the result is their number
+    summed_diagonal,  // the result is the sum of column k of row k
+    last_diagonal,    // column k of the last row k
+    first_number,     // the result is the first column of the first row
+    first_text,       // that column as text, "0" for NULL
+    last_text,        // the first column of every row, so that the last one stays; NULL leaves what was there
+};
+
+enum class StandardInput : std::uint8_t { kept, closed };
+
+/// One statement helper.
+struct QueryProfile {
+    AccessProfile access;
+    Rows rows;
+    Message prepare_failure;
+    std::int8_t failed_prepare_result;
+    StandardInput standard_input;
+};
+
+/// The caller's variable, where the rows go into one. Which member counts follows from the profile's rows.
+union Destination {
+    unsigned int *counter;
+    unsigned long *number;
+    char *text;
+};
+
+/// Opens as the profile says, runs a query, closes.
+/// @return the number, for rows that give one; 0 for rows that go to the destination; the profile's result when the
+///         text cannot be prepared; -1 when the database cannot be opened
+[[nodiscard]] int query(const QueryProfile &profile, const char *sql, Destination destination = {nullptr});
+
+/// Runs a query on an open connection.
+/// @return as above
+[[nodiscard]] int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql,
+                        Destination destination);
+
+}  // namespace routerdb

@@ -1,0 +1,11 @@
+// The one way a random number is drawn.
+#pragma once
+
+namespace routerdb {
+
+/// Reseeds rand() with the microseconds of the time of day and draws once. Two calls in the same microsecond draw
+/// the same number.
+/// @return 0 to limit - 1
+unsigned random_below(unsigned limit);
+
+}  // namespace routerdb

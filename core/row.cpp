@@ -1,0 +1,37 @@
+#include "core/row.h"
+
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+namespace routerdb {
+
+const char *Row::text(int column, const char *null_text) const {
+    const unsigned char *text = sqlite3_column_text(statement_, column);
+    return text != nullptr ? reinterpret_cast<const char *>(text) : null_text;
+}
+
+int Row::number(int column) const {
+    // An integer that fits is what atoi would make of its text; anything else goes through the text, so that digits
+    // beyond the range of int come out as atoi has them on this platform.
+    if (sqlite3_column_type(statement_, column) == SQLITE_INTEGER) {
+        const sqlite3_int64 value = sqlite3_column_int64(statement_, column);
+        if (value >= INT_MIN && value <= INT_MAX) {
+            return static_cast<int>(value);
+        }
+    }
+    return std::atoi(text(column));  // NOLINT(cert-err34-c): callers rely on its reading of odd texts
+}
+
+unsigned long Row::unsigned_number(int column) const {
+    return std::strtoul(text(column), nullptr, 10);
+}
+
+void Row::copy(int column, char *field, std::size_t width) const {
+    const char *value = text(column);
+    const std::size_t length = strnlen(value, width - 1);
+    std::memcpy(field, value, length);
+    field[length] = '\0';
+}
+
+}  // namespace routerdb

@@ -1,0 +1,26 @@
+#include "core/statement.h"
+
+#include "core/retry.h"
+
+namespace routerdb {
+
+Statement::~Statement() {
+    if (statement_ != nullptr) {
+        sqlite3_finalize(statement_);
+    }
+}
+
+int Statement::prepare(const char *sql, Backoff &backoff) {
+    return retry_while_busy(backoff, db_, [&] { return sqlite3_prepare_v2(db_, sql, -1, &statement_, nullptr); });
+}
+
+bool Statement::first_row(Backoff &backoff) {
+    return statement_ != nullptr &&
+           retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); }) == SQLITE_ROW;
+}
+
+bool Statement::next_row() {
+    return sqlite3_step(statement_) == SQLITE_ROW;
+}
+
+}  // namespace routerdb

@@ -1,0 +1,40 @@
+// A prepared statement and its owner.
+#pragma once
+
+#include <sqlite3.h>
+
+#include "core/backoff.h"
+#include "core/row.h"
+
+namespace routerdb {
+
+/// Owns one statement on a connection that outlives it, and finalises it.
+class Statement {
+public:
+    explicit Statement(sqlite3 *db) : db_(db) {}
+    Statement(const Statement &) = delete;
+    Statement &operator=(const Statement &) = delete;
+    ~Statement();
+
+    /// Prepares the first statement of a text, retrying while the database is busy. A text that holds no statement
+    /// prepares to nothing and has no rows.
+    /// @return the result code of SQLite
+    [[nodiscard]] int prepare(const char *sql, Backoff &backoff);
+
+    /// Steps to the first row, retrying while the database is busy: nothing has been delivered yet, and a reader
+    /// beside a writer would come back empty otherwise.
+    /// @return whether there is one
+    [[nodiscard]] bool first_row(Backoff &backoff);
+
+    /// Steps on. Any result other than a row ends the rows.
+    /// @return whether there is another one
+    [[nodiscard]] bool next_row();
+
+    Row row() const { return Row(statement_); }
+
+private:
+    sqlite3 *db_;
+    sqlite3_stmt *statement_ = nullptr;
+};
+
+}  // namespace routerdb

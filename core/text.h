@@ -1,0 +1,62 @@
+// Texts that grow and are never cut.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace routerdb {
+
+/// Reads a null pointer as the empty text.
+constexpr const char *or_empty(const char *text) {
+    return text != nullptr ? text : "";
+}
+
+/// The text in a field of a record, terminated or not.
+std::string_view field_text(const char *field, std::size_t width);
+
+/// A text under construction. It starts in a buffer on the stack and moves to the heap when it outgrows that. Where
+/// memory runs out it remembers so: whoever uses the text asks complete() first.
+class Text {
+public:
+    Text(const Text &) = delete;
+    Text &operator=(const Text &) = delete;
+
+    Text &append(std::string_view piece);
+    Text &append(long number);
+
+    /// Appends a value between single quotes, as it stands.
+    Text &append_quoted(std::string_view value) { return append("'").append(value).append("'"); }
+    Text &append_quoted(long value) { return append("'").append(value).append("'"); }
+
+    [[nodiscard]] bool complete() const { return !out_of_memory_; }
+    const char *c_str() const { return data_; }
+    std::size_t length() const { return length_; }
+
+protected:
+    Text(char *buffer, std::size_t capacity) : data_(buffer), buffer_(buffer), capacity_(capacity) { *data_ = '\0'; }
+    ~Text();
+
+private:
+    bool make_room(std::size_t length);
+
+    char *data_;
+    char *buffer_;
+    std::size_t capacity_;
+    std::size_t length_ = 0;
+    bool out_of_memory_ = false;
+};
+
+/// A text that needs no heap up to `size` - 1 bytes.
+template <std::size_t size>
+class StackText : public Text {
+public:
+    StackText() : Text(buffer_, size) {}
+
+private:
+    char buffer_[size];
+};
+
+/// A statement: 2560 bytes hold most of them.
+using SqlText = StackText<2560>;
+
+}  // namespace routerdb

@@ -1,0 +1,739 @@
+/// @file
+/// routerdb: access to the configuration databases of the router.
+///
+/// The library works over two SQLite files, the main database (rule tables, static DHCP bindings, access points,
+/// WLAN groups) and the application catalogue. Two roads lead there. On the direct road a function opens the file
+/// itself and retries while SQLite reports it busy; writers hold the database lock file meanwhile. On the service
+/// road a function sends one SQL statement to the SQL service over a local socket and gets records back.
+///
+/// What holds for every function, unless its own comment says otherwise:
+///
+/// 1. Results. 0 is success and -1 is failure. Functions that return nothing report nothing to the caller.
+/// 2. Ownership. The caller owns every buffer that it passes, and the library keeps no pointer to it after the call.
+///    Sizes are stated here and not checked there: a buffer must have the size that the comment gives.
+/// 3. Texts. Character arrays hold NUL-terminated UTF-8; a width counts the terminator. A value from the database
+///    that is longer than its field is cut at the field's width. A null pointer where SQL is expected is read as
+///    the empty text; every other pointer must be valid.
+/// 4. SQL. Values are put between single quotes as they stand: callers keep apostrophes out of them.
+/// 5. Messages. They go to standard output, standard error or the system log (LOG_ERR), as each function says. None
+///    of them is meant for the caller's program.
+/// 6. Busy databases. While SQLite answers 5 (busy), 6 (locked) or 10 (I/O error) a call sleeps and tries again,
+///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR).
+/// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
+///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
+///    own, or write through DB_EXEC_SQL_CHAR, which takes db_mutex. Functions with a random first delay reseed the
+///    process-wide generator of rand().
+/// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache.
+/// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
+///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
+#ifndef ROUTERDB_H
+#define ROUTERDB_H
+
+#include <pthread.h>
+#include <stddef.h>
+#include <stdint.h>
+#include <sys/types.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/// Marks what the library exports.
+#define ROUTERDB_API __attribute__((visibility("default")))
+
+/// An SQLite connection, as <sqlite3.h> declares it.
+typedef struct sqlite3 sqlite3;
+
+/// @name Database core: lock file, guarded execution, maintenance
+/// @{
+
+/// The mutex that DB_EXEC_SQL_CHAR holds, before the lock file, for its whole duration. A program that holds it
+/// keeps its own threads from writing that way.
+extern ROUTERDB_API pthread_mutex_t db_mutex;
+
+/// Applies a record lock to a descriptor with fcntl.
+/// @param fd      an open descriptor
+/// @param cmd     F_SETLK, F_SETLKW or F_GETLK
+/// @param type    F_RDLCK, F_WRLCK or F_UNLCK
+/// @param offset  first byte, relative to `whence`
+/// @param whence  SEEK_SET, SEEK_CUR or SEEK_END
+/// @param len     length in bytes; 0 means up to the end of the file, however long it grows
+/// @return the result of fcntl, with errno as it left it
+/// @note Thread-safe; the lock belongs to the process.
+ROUTERDB_API int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len);
+
+/// Opens the database lock file, which must exist, and waits for a write lock on the whole of it.
+/// @return the lock handle, a descriptor to be given to free_db_lock; -1 if the file cannot be opened, after
+///         "cannot open %s!\n" on standard error
+/// @note Any thread may call it, yet two threads of one process do not exclude each other.
+ROUTERDB_API int get_db_lock(void);
+
+/// Releases a lock handle and closes it.
+/// @param fd  a handle from get_db_lock
+/// @return 0
+/// @note Thread-safe. It releases every other lock that the process holds on the lock file.
+ROUTERDB_API int free_db_lock(int fd);
+
+/// Executes SQL on the main database under the lock file and discards any rows.
+///
+/// After a text that does not contain "select" (in lower case, anywhere) a background shell command copies the
+/// database file, whether the statement succeeded or not; an insert whose value contains "select" gets no copy.
+/// @param sql  one or more statements; only read
+/// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
+/// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
+///       cmdline, Error: %s\n" on standard output. The first delay is random, 51 to 150 microseconds. A connection
+///       that SQLite could not open stays allocated.
+/// @note Does not take db_mutex: threads of one process must take turns.
+ROUTERDB_API int DbSqlExec(char *sql);
+
+/// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first.
+/// @return 0, whatever became of the copy; -1 if the lock file cannot be opened ("cannot open %s!\n" on standard
+///         error)
+/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns.
+ROUTERDB_API int backup_sqlite_db(void);
+
+/// Copies the backup over the main database. Without a backup the main database stays as it is.
+/// @return as backup_sqlite_db
+/// @note Locks as backup_sqlite_db.
+ROUTERDB_API int restore_sqlite_db(void);
+
+/// Replaces the main database with the factory copy on the read-only file system.
+/// @return as backup_sqlite_db
+/// @note Locks as backup_sqlite_db.
+ROUTERDB_API int reset_sqlite_db(void);
+
+/// @}
+/// @name Database core: statement helpers
+///
+/// Each runs one SQL text on a connection of its own (GET_DB_SQLITE_SQL_STR_N on the caller's). Database, lock,
+/// messages and the meaning of the rows differ from one to the next and are stated with each. Only
+/// DB_EXEC_SQL_CHAR excludes other threads; the others are safe in any thread because they share nothing.
+/// @{
+
+/// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows.
+/// @param sql  one or more statements
+/// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
+/// @note Errors: as DbSqlExec. The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds
+///       for the first one, 500 more for each next one.
+/// @note Excludes the other threads that call it, and other processes.
+ROUTERDB_API int DB_EXEC_SQL_CHAR(const char *sql);
+
+/// Counts the rows of a query on the main database.
+/// @param sql    the query
+/// @param count  increased by one for each row; set it first
+/// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
+/// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log,
+///       there also "sql busy/locked cmdline, Error: %s\n" after each sleep. First sleep 155 microseconds. A
+///       connection that SQLite could not open stays allocated.
+/// @note Thread-safe; takes no lock.
+ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
+
+/// Reads a number from a query on the main database. Row k is read at its column k, both counted from 0, and the
+/// last row wins: a query with one row gives its first column.
+/// @param sql    the query
+/// @param value  receives the number, as strtoul reads the column's text; untouched without a row
+/// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
+/// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
+///       First sleep 55 microseconds.
+/// @note Thread-safe; takes no lock.
+ROUTERDB_API int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value);
+
+/// Reads the first column of a query on the main database as text; the last row wins.
+/// @param sql  the query
+/// @param out  receives the text with its terminator, whatever its length; untouched without a row or for NULL
+/// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
+/// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
+///       standard output. First sleep 55 microseconds.
+/// @note Thread-safe; takes no lock.
+ROUTERDB_API int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out);
+
+/// Adds up numbers from a query on the main database, under the lock file. Row k is read at its column k, both
+/// counted from 0; a column that is NULL or does not exist counts 0.
+/// @param sql  the query
+/// @return the sum; -1 if the lock file or the database cannot be opened or the query cannot be prepared
+/// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
+///       cmdline, Error: (null)\n" on standard output. Random first delay.
+/// @note Takes the lock file, not db_mutex: a thread that returns drops the lock of the others.
+ROUTERDB_API int GET_DB_SQL_INT_COUNT(const char *sql);
+
+/// Counts the rows of a query on the main database, under the lock file.
+/// @param sql  the query
+/// @return the number of rows; -1, messages and locks as GET_DB_SQL_INT_COUNT
+ROUTERDB_API int GET_DB_SQL_INT(const char *sql);
+
+/// Reads the first column of the first row of a query on the main database as a number.
+/// @param sql  the query
+/// @return the number, 0 for NULL and without a row; -1 if the database cannot be opened (without a message; the
+///         connection stays allocated) or the query cannot be prepared ("Error: %s" on standard output)
+/// @note Random first delay. Thread-safe; takes no lock.
+ROUTERDB_API int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql);
+
+/// As GET_DB_SQL_INT_COUNT_ROUTE, on the application catalogue.
+/// @param sql  the query
+/// @return as GET_DB_SQL_INT_COUNT_ROUTE
+ROUTERDB_API int GET_DB_SQL_INT_COUNT_DPI(const char *sql);
+
+/// As GET_DB_SQL_INT_COUNT_DPI, and closes descriptor 0 before it returns, whatever the result. A program that
+/// still wants its standard input reads it first.
+/// @param sql  the query
+/// @return as GET_DB_SQL_INT_COUNT_ROUTE
+ROUTERDB_API int GET_DB_SQLITE_SQL_INT(const char *sql);
+
+/// Reads the first column of the first row of a query as text, on the caller's connection.
+/// @param sql  the query
+/// @param out  receives the text with its terminator, whatever its length; "0" for NULL; untouched without a row
+/// @param db   an open connection, left open
+/// @return 0; all bits set if the query cannot be prepared ("Webserver Error: %s" on standard output)
+/// @note Random first delay. As thread-safe as the connection.
+ROUTERDB_API unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db);
+
+/// @}
+/// @name Database core: identifier lists
+/// @{
+
+/// Columns that generate_db_params can test.
+enum {
+    ROUTERDB_COLUMN_ID = 0,           ///< "id"
+    ROUTERDB_COLUMN_IPGROUP_ID = 1,   ///< "ipgroup_id"
+    ROUTERDB_COLUMN_TIMEGROUP_ID = 2  ///< "timegroup_id"
+};
+
+/// Most identifiers that are read from one list.
+#define ROUTERDB_MAX_IDS 128
+
+/// Reads identifiers separated by '#', such as "3#7#12". Empty fields vanish; a field that is not a number counts
+/// as 0; a text without any '#' is one identifier, also when it is empty.
+/// @param text  the list; its separators are overwritten. Null reads as no identifier
+/// @param ids   room for ROUTERDB_MAX_IDS numbers
+/// @return the number of identifiers stored, 0 to ROUTERDB_MAX_IDS; those behind are not read
+/// @note Thread-safe.
+ROUTERDB_API int muti_id_convert_int_array(char *text, int *ids);
+
+/// Appends a condition such as "id='3' or id='7'" for the identifiers of a list. Nothing is appended for a list
+/// without identifiers.
+/// @param text    the list, as muti_id_convert_int_array takes it
+/// @param out     a text; the condition is appended and cut where the buffer ends
+/// @param size    size of the whole buffer `out` in bytes, the terminator included
+/// @param column  ROUTERDB_COLUMN_ID, _IPGROUP_ID or _TIMEGROUP_ID; nothing is appended for another value
+/// @return the length of `out` afterwards, in bytes
+/// @note Thread-safe.
+ROUTERDB_API size_t generate_db_params(char *text, char *out, unsigned int size, int column);
+
+/// @}
+/// @name Database core: text encoding and time of day
+/// @{
+
+/// Room that either conversion takes for granted in its output, in bytes.
+#define ROUTERDB_CONVERSION_ROOM 2048
+
+/// Converts UTF-8 to GB2312.
+/// @param in      the text
+/// @param inlen   bytes of it to convert
+/// @param out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the result where that is known to be shorter
+/// @param outlen  bytes of `out` that are set to zero first; they supply the terminator
+/// @return 0; -1 if the text cannot be converted, `out` then holding what was converted up to there. The converter
+///         of a failed conversion stays allocated
+/// @note Logs "error1\n" when no converter can be made, `out` then being untouched. Thread-safe.
+ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen);
+
+/// Converts GB2312 to UTF-8.
+/// @param in      the text, NUL-terminated
+/// @param inlen   bytes of it to convert
+/// @param out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the text and for the result where that is
+///                known to be shorter
+/// @param outlen  bytes of `out` that are set to zero first
+/// @return 0; -1 if the text cannot be converted, `out` then holding the input. The converter of a failed
+///         conversion stays allocated
+/// @note Logs "gb2312toutf8 error1\n" when no converter can be made, `out` then being untouched. Thread-safe.
+ROUTERDB_API int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen);
+
+/// Turns a time of day into a number, 745 for "07:45".
+/// @param hhmm  a text of the form HH:MM; the character between is not looked at, nor is what follows
+/// @return the number HHMM; reading stops at the first character that is not a digit
+/// @note Thread-safe.
+ROUTERDB_API int change_time_to_int(const char *hhmm);
+
+/// Compares two times of day of the form HH:MM.
+/// @param a  a time of day
+/// @param b  a time of day
+/// @return 1 if `a` is later than `b`, else 0
+/// @note Thread-safe.
+ROUTERDB_API int check_time_one_day(const char *a, const char *b);
+
+/// @}
+/// @name SQL service
+/// @{
+
+/// What a request asks for.
+enum {
+    ROUTERDB_QUERY = 1,   ///< rows are wanted
+    ROUTERDB_EXECUTE = 2  ///< insert, update or delete
+};
+
+/// One request to the SQL service. Its first twelve bytes are what travels ahead of the text.
+typedef struct SqlRequest {
+    uint32_t table_id;   ///< one of ROUTERDB_TABLE_...
+    uint32_t operation;  ///< ROUTERDB_QUERY or ROUTERDB_EXECUTE
+    uint32_t length;     ///< bytes of SQL, the terminator not counted
+    const char *text;    ///< the SQL, owned by the caller; the terminator is not sent
+} SqlRequest;
+
+/// One reply of the SQL service.
+typedef struct SqlReply {
+    uint32_t word0;  ///< as received; routerdb-sqld echoes the table id
+    uint32_t word1;  ///< as received; routerdb-sqld echoes the operation
+    int32_t size;    ///< bytes of data announced; below 1 there are none
+    void *data;      ///< heap block of `size` bytes (4 if `size` is below 1), to be released with free
+} SqlReply;
+
+/// Sends one request to the SQL service at "/var/sqlserver_socket" and receives its reply.
+///
+/// Time-outs are 10 seconds for each send and receive. A service that closes early leaves a block of the announced
+/// size whose missing part is zero, and the call succeeds all the same.
+/// @param request  the request; only read
+/// @param reply    untouched while the request is on its way; cleared before the reply is read
+/// @return 0, and the caller releases reply->data with free; -1 on failure, nothing being allocated
+/// @note Each failure is written to standard error with perror and to the system log with "!\n" behind it: "cannot
+///       create sql socket client", "cannot connect sql socket client", "send header to sql socket server fail",
+///       "send data to sql socket server fail", "recv header from sql socket server fail", "sql client malloc data
+///       buffer fail", "recv data from sql socket server fail". SIGPIPE is held back from the caller.
+/// @note Thread-safe: each call has its own connection.
+ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
+
+/// @}
+/// @name Rule tables: identifiers and records
+///
+/// A record is one row. Numbers are 32 bits wide in host byte order, and every byte that carries nothing is zero. A
+/// list is a count and that many records; the buffer has room for ROUTERDB_LIST_CAPACITY of them, and whoever adds
+/// rows keeps the table at that size: lists are not cut. Members marked "derived" are filled by the list builders
+/// and never written to a table.
+/// @{
+
+/// Table ids, the first word of each request.
+enum {
+    ROUTERDB_TABLE_DHCP_STATIC = 1,
+    ROUTERDB_TABLE_URL_FILTER = 2,
+    ROUTERDB_TABLE_MAC_FILTER = 3,
+    ROUTERDB_TABLE_IP_FILTER = 4,
+    ROUTERDB_TABLE_TIME_GROUP = 5,
+    ROUTERDB_TABLE_IP_GROUP = 6,
+    ROUTERDB_TABLE_SMART_QOS = 7,
+    ROUTERDB_TABLE_USER_URL = 8,
+    ROUTERDB_TABLE_FAMLIY_MEMBER = 11,
+    ROUTERDB_TABLE_PORT_FORWARD = 12,
+    ROUTERDB_TABLE_QOS = 13,
+    ROUTERDB_TABLE_BEHAVIOR = 14,
+    ROUTERDB_TABLE_ACL0 = 15,
+    ROUTERDB_TABLE_ACL1 = 16,
+    ROUTERDB_TABLE_ACL2 = 17,
+    ROUTERDB_TABLE_DOMAIN_IP = 18,
+    ROUTERDB_TABLE_SCALAR = 100  ///< not a table: the reply is the first column of the first row as text
+};
+
+/// Table ids of the three Wi-Fi access lists, by their number.
+extern ROUTERDB_API const uint32_t acl_wifi_id[3];
+
+/// Records that fit a list buffer.
+#define ROUTERDB_LIST_CAPACITY 128
+
+/// Values of `timecontrol`.
+enum {
+    ROUTERDB_TIME_OWN = 1,   ///< the rule's own weekdays and times
+    ROUTERDB_TIME_GROUP = 2  ///< those of the time group it references
+};
+
+/// A row of `dhcpserverstaticbind`.
+typedef struct DhcpStaticItem {
+    int32_t id;
+    char reserved[152];
+    int32_t devtype;
+    char mac[20];
+    char ip[20];
+    char mark[152];
+} DhcpStaticItem;
+
+/// A list of DhcpStaticItem records.
+typedef struct DhcpStaticItemList {
+    uint32_t count;
+    DhcpStaticItem items[ROUTERDB_LIST_CAPACITY];
+} DhcpStaticItemList;
+
+/// A row of `user_timegroup`.
+typedef struct TimeGroupItem {
+    int32_t id;
+    char name[152];
+    int32_t weekday[7];  ///< `weekday1` to `weekday7`, each 0 or 1
+    char start_time[20];
+    char end_time[20];
+    char mark[156];
+} TimeGroupItem;
+
+/// A list of TimeGroupItem records.
+typedef struct TimeGroupItemList {
+    uint32_t count;
+    TimeGroupItem items[ROUTERDB_LIST_CAPACITY];
+} TimeGroupItemList;
+
+/// The first 376 bytes of a time group, as `filter_url` carries them.
+typedef struct TimeGroupItemCut {
+    int32_t id;
+    char name[152];
+    int32_t weekday[7];
+    char start_time[20];
+    char end_time[20];
+    char mark[152];  ///< without a terminator when the group's own mark has more than 151 bytes
+} TimeGroupItemCut;
+
+/// A row of `user_ipgroup`.
+typedef struct IpGroupItem {
+    int32_t id;
+    char name[150];
+    char startip[30];
+    char endip[30];
+    char mark[154];
+} IpGroupItem;
+
+/// A list of IpGroupItem records.
+typedef struct IpGroupItemList {
+    uint32_t count;
+    IpGroupItem items[ROUTERDB_LIST_CAPACITY];
+} IpGroupItemList;
+
+/// A row of `filter_url`.
+typedef struct UrlFilterItem {
+    int32_t id;
+    char name[150];
+    char url[1030];
+    TimeGroupItemCut timegroup;  ///< derived: the referenced group
+    int32_t time_valid;          ///< derived: 1 when the rule's time span is known
+    int32_t timecontrol;         ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
+    int32_t timegroup_id;
+    char timegroup_name[152];  ///< derived: name of the referenced group
+    int32_t weekday[7];
+    char start_time[20];
+    char end_time[20];
+    int32_t status;
+    int32_t reserved;
+    char mark[152];
+} UrlFilterItem;
+
+/// A list of UrlFilterItem records.
+typedef struct UrlFilterItemList {
+    uint32_t count;
+    UrlFilterItem items[ROUTERDB_LIST_CAPACITY];
+} UrlFilterItemList;
+
+/// A row of `filter_mac`.
+typedef struct MacFilterItem {
+    int32_t id;
+    char name[150];
+    char hostname[150];  ///< derived: host name of `devmac`
+    char devmac[20];
+    int32_t timecontrol;
+    int32_t timegroup_id;
+    char timegroup_name[152];  ///< derived
+    int32_t weekday[7];
+    char start_time[20];
+    char end_time[20];
+    int32_t status;
+    char mark[152];
+    TimeGroupItem timegroup;  ///< derived
+} MacFilterItem;
+
+/// A list of MacFilterItem records.
+typedef struct MacFilterItemList {
+    uint32_t count;
+    MacFilterItem items[ROUTERDB_LIST_CAPACITY];
+} MacFilterItemList;
+
+/// A row of `filter_ipport`.
+typedef struct IpFilterItem {
+    int32_t id;
+    char name[300];
+    int32_t ipcontrol;
+    int32_t ipgroup_id;
+    char ipgroup_name[152];  ///< derived
+    int32_t timecontrol;
+    int32_t timegroup_id;
+    char timegroup_name[152];  ///< derived
+    TimeGroupItem timegroup;   ///< derived
+    IpGroupItem ipgroup;       ///< derived: name and range
+    int32_t weekday[7];
+    char start_time[20];
+    char end_time[20];
+    char devstartip[20];
+    char devendip[20];
+    int32_t devfromport;
+    int32_t devtoport;
+    int32_t protocol;
+    char mark[152];
+    int32_t status;
+    int32_t reserved;
+} IpFilterItem;
+
+/// A list of IpFilterItem records.
+typedef struct IpFilterItemList {
+    uint32_t count;
+    IpFilterItem items[ROUTERDB_LIST_CAPACITY];
+} IpFilterItemList;
+
+/// A row of `smartqos_whitelist`.
+typedef struct SmartQosItem {
+    int32_t id;
+    char reserved[150];
+    char devmac[20];
+    char mark[154];
+} SmartQosItem;
+
+/// A list of SmartQosItem records.
+typedef struct SmartQosItemList {
+    uint32_t count;
+    SmartQosItem items[ROUTERDB_LIST_CAPACITY];
+} SmartQosItemList;
+
+/// A row of `user_urlinfo`.
+typedef struct UserUrlItem {
+    int32_t id;
+    char name[150];
+    char url[512];
+    char mark[154];
+} UserUrlItem;
+
+/// A list of UserUrlItem records.
+typedef struct UserUrlItemList {
+    uint32_t count;
+    UserUrlItem items[ROUTERDB_LIST_CAPACITY];
+} UserUrlItemList;
+
+/// A row of `famliymember`.
+typedef struct FamliyMemberItem {
+    int32_t id;
+    char name[150];
+    char mac[20];
+    char reserved[2];
+    int32_t devtype;
+    char mark[156];
+} FamliyMemberItem;
+
+/// A list of FamliyMemberItem records.
+typedef struct FamliyMemberItemList {
+    uint32_t count;
+    FamliyMemberItem items[ROUTERDB_LIST_CAPACITY];
+} FamliyMemberItemList;
+
+/// A row of `forword_ipport`. The order of the members is not that of the columns.
+typedef struct PortFwItem {
+    int32_t id;
+    char name[300];
+    int32_t protocol;
+    char devip[20];
+    int32_t devexternfromport;
+    int32_t devexterntoport;
+    int32_t devinnerfromport;
+    int32_t devinnertoport;
+    int32_t status;
+    char mark[152];
+    int32_t wanid;
+    int32_t reserved;
+} PortFwItem;
+
+/// A list of PortFwItem records.
+typedef struct PortFwItemList {
+    uint32_t count;
+    PortFwItem items[ROUTERDB_LIST_CAPACITY];
+} PortFwItemList;
+
+/// A row of `qos_rule`.
+typedef struct QosItem {
+    int32_t id;
+    char name[300];
+    int32_t control_type;
+    int32_t ipcontrol;
+    int32_t ipgroup_id;
+    char ipgroup_name[152];  ///< derived
+    IpGroupItem ipgroup;     ///< derived: name and range
+    int32_t timecontrol;
+    int32_t timegroup_id;
+    char timegroup_name[152];  ///< derived
+    TimeGroupItem timegroup;   ///< derived
+    char devmac[20];
+    char devstartip[20];
+    char devendip[20];
+    int32_t bw_up;
+    int32_t bw_down;
+    int32_t bw_shared_mode;
+    int32_t weekday[7];
+    char start_time[20];
+    char end_time[20];
+    int32_t status;
+    int32_t reserved;
+    char mark[152];
+} QosItem;
+
+/// A list of QosItem records.
+typedef struct QosItemList {
+    uint32_t count;
+    QosItem items[ROUTERDB_LIST_CAPACITY];
+} QosItemList;
+
+/// A row of `behavior_rule`. The column `behavior_type` is always written as 0 and not carried here.
+typedef struct BehaviorItem {
+    int32_t id;
+    int32_t control_type;
+    char hostname[152];  ///< derived: host name of `devmac`
+    int32_t ipcontrol;
+    int32_t ipgroup_id;
+    IpGroupItem ipgroup;     ///< derived: name and range
+    char ipgroup_name[152];  ///< derived
+    int32_t timecontrol;
+    int32_t timegroup_id;
+    char timegroup_name[152];  ///< derived
+    TimeGroupItem timegroup;   ///< derived
+    char devmac[20];
+    char devstartip[30];
+    char devendip[30];
+    char behavior_info[2048];      ///< classes and features by number, such as "3:f1?f2AND7:f9"
+    char behavior_names[2048];     ///< derived: the same as names
+    char behavior_names_en[2048];  ///< derived: the same as English names
+    int32_t weekday[7];
+    char start_time[20];
+    char end_time[20];
+    char mark[152];
+    int32_t status;
+    int32_t reserved;
+} BehaviorItem;
+
+/// A list of BehaviorItem records.
+typedef struct BehaviorItemList {
+    uint32_t count;
+    BehaviorItem items[ROUTERDB_LIST_CAPACITY];
+} BehaviorItemList;
+
+/// A row of one of the Wi-Fi access lists `wifi0acl`, `wifi1acl` and `wifi2acl`.
+typedef struct AclItem {
+    int32_t id;
+    char name[300];
+    char mac[20];
+    char mark[152];
+    int32_t status;
+} AclItem;
+
+/// A list of AclItem records.
+typedef struct AclItemList {
+    uint32_t count;
+    AclItem items[ROUTERDB_LIST_CAPACITY];
+} AclItemList;
+
+/// A row of `domain_ip`.
+typedef struct DomainIpItem {
+    int32_t id;
+    char name[300];
+    char domain[150];
+    char ip[64];
+    char mark[150];
+    int32_t status;
+    int32_t reserved;
+} DomainIpItem;
+
+/// A list of DomainIpItem records.
+typedef struct DomainIpItemList {
+    uint32_t count;
+    DomainIpItem items[ROUTERDB_LIST_CAPACITY];
+} DomainIpItemList;
+
+/// @}
+/// @name Rule tables: list builders
+///
+/// The SQL service calls a builder to answer a query. It runs the query on the main database under the lock file
+/// and fills a list, the derived members included. The list is cleared first and its count set last; the result
+/// has no meaning. A query without rows, and every failure, leaves the list cleared. Messages: "cannot open %s!\n"
+/// (lock file) and "Error: %s" on standard output. Random first delay. Threads of one process must take turns, since
+/// a builder that returns drops the process's lock.
+/// @{
+
+/// Builds the list of URL filters. The columns are read by position.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from filter_url order by Id;"
+/// @return no meaning
+ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql);
+
+/// Builds the list of time groups. The columns are read by position.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from user_timegroup order by id;"
+/// @return no meaning
+ROUTERDB_API int GetTimeGroupItemListInServer(TimeGroupItemList *list, const char *sql);
+
+/// @}
+/// @name Rule tables: client operations
+///
+/// Each sends one statement to the SQL service with sqlclient_cmd, whose messages are the only report: when the
+/// service cannot be reached a list comes back empty, a record cleared, and a change has no effect. Members beyond
+/// the table's own columns are not read. Thread-safe.
+/// @{
+
+/// Lists all URL filters in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetUrlFilterItemList(UrlFilterItemList *list);
+
+/// Reads one URL filter.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetUrlFilterItem(int id, UrlFilterItem *item);
+
+/// Inserts a URL filter. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddUrlFilterItem(const UrlFilterItem *item);
+
+/// Writes every column of one URL filter.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyUrlFilterItem(const UrlFilterItem *item);
+
+/// Deletes URL filters.
+/// @param condition  an SQL condition, such as generate_db_params makes
+ROUTERDB_API void DelUrlFilterItem(const char *condition);
+
+/// Deletes URL filters, exactly as DelUrlFilterItem does.
+/// @param condition  an SQL condition
+/// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+ROUTERDB_API void DelUrlFilterItemById(const char *condition, int kind);
+
+/// Lists all time groups in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetTimeGroupItemList(TimeGroupItemList *list);
+
+/// Reads one time group.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetTimeGroupItem(int id, TimeGroupItem *item);
+
+/// Inserts a time group. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddTimeGroupItem(const TimeGroupItem *item);
+
+/// Writes every column of one time group.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyTimeGroupItem(const TimeGroupItem *item);
+
+/// Deletes time groups.
+/// @param condition  an SQL condition, such as generate_db_params makes
+ROUTERDB_API void DelTimeGroupItem(const char *condition);
+
+/// @}
+/// @name Rule tables: lookups
+/// @{
+
+/// Reads one time group on a connection that the caller holds open.
+/// @param db     a connection to the main database
+/// @param id     id of the group
+/// @param group  filled; cleared when there is no such group
+/// @note Errors: "cannot prepare sql cmdline, Error: %s\n" on standard output. Random first delay. As thread-safe as
+///       the connection.
+ROUTERDB_API void GetTimeControlById(sqlite3 *db, int id, TimeGroupItem *group);
+
+/// @}
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,24 @@
+// The statements of the client operations, made from a table's fields.
+#pragma once
+
+#include "core/text.h"
+#include "rules/rule_table.h"
+
+namespace routerdb {
+
+/// "select * from filter_url order by Id;"
+void append_list_query(Text &sql, const RuleTable &table);
+
+/// "select * from filter_url where id='7';"
+void append_select(Text &sql, const RuleTable &table, int id);
+
+/// "insert into filter_url(name,url,...) values('...','...',...);"
+void append_insert(Text &sql, const RuleTable &table, const void *record);
+
+/// "update filter_url set name='...',url='...',... where id='7';"
+void append_update(Text &sql, const RuleTable &table, const void *record);
+
+/// "delete from filter_url where id='7';", the condition being the caller's
+void append_delete(Text &sql, const RuleTable &table, const char *condition);
+
+}  // namespace routerdb

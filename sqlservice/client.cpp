@@ -1,0 +1,112 @@
+#include "sqlservice/client.h"
+
+#include <syslog.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "sqlservice/sigpipe_hold.h"
+#include "sqlservice/socket.h"
+#include "sqlservice/wire.h"
+
+namespace routerdb {
+
+namespace {
+
+enum class Step : std::uint8_t { create, connect, send_header, send_text, receive_header, allocate, receive_data };
+
+constexpr char failures[][40] = {
+    "cannot create sql socket client",         "cannot connect sql socket client",
+    "send header to sql socket server fail",   "send data to sql socket server fail",
+    "recv header from sql socket server fail", "sql client malloc data buffer fail",
+    "recv data from sql socket server fail",
+};
+
+/// Each failure is reported twice, with the system's reason on standard error.
+int fail(Step step) {
+    const char *failure = failures[static_cast<unsigned>(step)];
+    std::perror(failure);
+    syslog(LOG_ERR, "%s!\n", failure);
+    return -1;
+}
+
+/// Connects and sends the request.
+int send_request(Socket &socket, const SqlRequest &request) {
+    if (!socket.create()) {
+        return fail(Step::create);
+    }
+    if (!socket.connect()) {
+        return fail(Step::connect);
+    }
+    SigpipeHold hold;
+    const bool header_sent = socket.send(&request, wire::header_size);
+    if (header_sent && socket.send(request.text, request.length)) {
+        return 0;
+    }
+    hold.note_failure();
+    hold.lift();  // before the report, whose streams are the caller's
+    return fail(header_sent ? Step::send_text : Step::send_header);
+}
+
+/// Receives the data behind the header. The service may end it early: what is missing then reads as zero.
+int receive_data(Socket &socket, SqlReply &reply) {
+    char *data = static_cast<char *>(std::malloc(static_cast<std::size_t>(reply.size)));
+    if (data == nullptr) {
+        return fail(Step::allocate);
+    }
+    std::size_t received = 0;
+    while (received < static_cast<std::size_t>(reply.size)) {
+        const std::size_t missing = static_cast<std::size_t>(reply.size) - received;
+        const ssize_t count = socket.receive(data + received, missing);
+        if (count < 0) {
+            std::free(data);
+            return fail(Step::receive_data);
+        }
+        if (count == 0) {
+            std::memset(data + received, 0, missing);
+            break;
+        }
+        received += static_cast<std::size_t>(count);
+    }
+    reply.data = data;
+    return 0;
+}
+
+int receive_reply(Socket &socket, SqlReply &reply) {
+    reply = {};
+    if (socket.receive(&reply, wire::header_size) != static_cast<ssize_t>(wire::header_size)) {
+        return fail(Step::receive_header);
+    }
+    if (reply.size >= 1) {
+        return receive_data(socket, reply);
+    }
+    reply.data = std::malloc(4);  // so that a caller can always free it
+    return reply.data != nullptr ? 0 : fail(Step::allocate);
+}
+
+}  // namespace
+
+int exchange(const SqlRequest &request, SqlReply &reply) {
+    Socket socket;
+    const int sent = send_request(socket, request);
+    return sent == 0 ? receive_reply(socket, reply) : sent;
+}
+
+Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement) {
+    if (statement.complete()) {
+        const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
+                                 statement.c_str()};
+        exchange(request, reply_);
+    }
+}
+
+Reply::~Reply() {
+    std::free(reply_.data);
+}
+
+std::size_t Reply::size() const {
+    return reply_.data != nullptr && reply_.size > 0 ? static_cast<std::size_t>(reply_.size) : 0;
+}
+
+}  // namespace routerdb

@@ -1,0 +1,41 @@
+// What the library asked of the platform and of SQLite, and what it got.
+//
+// A test program defines usleep, system, syslog, sqlite3_open and so on itself, in front of the real ones. While a
+// Recorder lives, each such call made on its thread is noted as one line, and a planned answer replaces the real one.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace support {
+
+class Recorder {
+public:
+    Recorder();
+    Recorder(const Recorder &) = delete;
+    Recorder &operator=(const Recorder &) = delete;
+    ~Recorder();
+
+    /// Answers that the next calls of `function` give without being made, one each; after them the real one answers.
+    /// For "sqlite3_..." and "usleep" the number is the result code, for "socket", "connect", "send", "recv", "open"
+    /// and "fcntl" it is the errno that goes with -1.
+    void answer(std::string_view function, std::initializer_list<int> results);
+
+    /// Commands for the shell are noted and not run.
+    void keep_commands_from_running();
+
+    /// All calls, as "usleep 155", "sqlite3_open /etc/...", "system cp -f ...", "syslog 3 cannot open ...".
+    /// Of open, fcntl and close only those on the database lock file are noted, as "open lock file", "lock",
+    /// "unlock", "close lock file", and close(0) as "close 0".
+    const std::vector<std::string> &calls() const;
+
+    /// The calls that start with one of the words, such as {"usleep", "system"}.
+    std::vector<std::string> calls(std::initializer_list<std::string_view> words) const;
+
+    /// The lengths of all sleeps.
+    std::vector<unsigned> sleeps() const;
+};
+
+}  // namespace support
