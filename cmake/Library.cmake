@@ -21,14 +21,16 @@ add_library(
     core/text.cpp
     core/time_of_day.cpp
     rules/client_ops.cpp
+    rules/columns.cpp
+    rules/derived.cpp
     rules/doors.cpp
     rules/list_builder.cpp
     rules/record_layout.cpp
     rules/record_reader.cpp
+    rules/references.cpp
     rules/sql_builder.cpp
     rules/tables/filter_url.cpp
     rules/tables/user_timegroup.cpp
-    rules/time_span.cpp
     sqlservice/client.cpp
     sqlservice/doors.cpp
     sqlservice/sigpipe_hold.cpp

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] bool next_row();
 
     Row row() const { return Row(statement_); }
+    sqlite3_stmt *handle() const { return statement_; }
 
 private:
     sqlite3 *db_;

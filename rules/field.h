@@ -13,23 +13,29 @@ enum class Kind : std::uint8_t {
     zero,      // written as 0, never read, not in the record
 };
 
-/// When a builder reads the column. The control columns stand before those that depend on them.
-enum class Source : std::uint8_t {
+/// When a builder reads a column: always, or depending on a control member of the record, such as `timecontrol`. The
+/// control column stands before the columns that depend on it.
+enum class When : std::uint8_t {
     always,
-    own_time,    // the rule has its own weekdays and times
-    time_group,  // the rule references a time group: this is its id
+    own,             // the control is 1: the rule has values of its own
+    referenced,      // the control is 2: this is the id of the group that has them
+    not_referenced,  // the control is anything but 2
 };
 
-/// Position of a column that a statement's column names have to tell.
+inline constexpr std::int32_t control_own = 1;
+inline constexpr std::int32_t control_referenced = 2;
+
+/// Position of a column that is found by its name in each statement.
 inline constexpr std::int8_t by_name = -1;
 
 struct Field {
     char column[18];
     Kind kind;
-    Source source;
-    std::int8_t position;  // in the rows of "select *"; of weekdays, the first one
+    When when;
+    std::uint16_t control;  // offset of the control member; no meaning with When::always
     std::uint16_t offset;
     std::uint16_t width;
+    std::int8_t position;  // in the rows of "select *"; of weekdays, the first one
 
     constexpr unsigned columns() const { return kind == Kind::weekdays ? 7 : 1; }
 };
@@ -38,15 +44,22 @@ struct Field {
 
 // A row of a table's field list: the member of `Record` gives column name, offset and width, none of which is typed
 // a second time.
-#define ROUTERDB_FIELD(kind, source, member, position)                                               \
-    {                                                                                                \
-#member, routerdb::Kind::kind, routerdb::Source::source, position, offsetof(Record, member), \
-            sizeof(Record::member)                                                                   \
+#define ROUTERDB_FIELD(kind, when, control, member, position)                                                     \
+    {                                                                                                             \
+#member, routerdb::Kind::kind, routerdb::When::when, offsetof(Record, control), offsetof(Record, member), \
+            sizeof(Record::member), position                                                                      \
     }
 
-#define NUMBER(member, position) ROUTERDB_FIELD(number, always, member, position)
-#define TEXT(member, position) ROUTERDB_FIELD(text, always, member, position)
-#define WEEKDAYS(position) ROUTERDB_FIELD(weekdays, always, weekday, position)
-#define OWN_WEEKDAYS(position) ROUTERDB_FIELD(weekdays, own_time, weekday, position)
-#define OWN_TIME(member, position) ROUTERDB_FIELD(text, own_time, member, position)
-#define TIME_GROUP_ID(position) ROUTERDB_FIELD(number, time_group, timegroup_id, position)
+#define NUMBER(member, position) ROUTERDB_FIELD(number, always, id, member, position)
+#define TEXT(member, position) ROUTERDB_FIELD(text, always, id, member, position)
+#define WEEKDAYS(position) ROUTERDB_FIELD(weekdays, always, id, weekday, position)
+
+#define OWN_WEEKDAYS(position) ROUTERDB_FIELD(weekdays, own, timecontrol, weekday, position)
+#define OWN_TIME(member, position) ROUTERDB_FIELD(text, own, timecontrol, member, position)
+#define TIME_GROUP_ID(position) ROUTERDB_FIELD(number, referenced, timecontrol, timegroup_id, position)
+
+#define OWN_RANGE(member, position) ROUTERDB_FIELD(text, not_referenced, ipcontrol, member, position)
+#define IP_GROUP_ID(position) ROUTERDB_FIELD(number, referenced, ipcontrol, ipgroup_id, position)
+
+#define ZERO(column) \
+    { #column, routerdb::Kind::zero, routerdb::When::always, 0, 0, 0, routerdb::by_name }

@@ -6,6 +6,7 @@
 #include "core/statement.h"
 #include "rules/record.h"
 #include "rules/record_reader.h"
+#include "rules/references.h"
 
 namespace routerdb {
 
@@ -18,11 +19,17 @@ struct BuilderProfile {
 
 constexpr Message error_on_output{Stream::standard_output, Wording::error};
 
+// The rows of BuilderMessages. The first delay is drawn before anything else.
 // clang-format off
-constexpr BuilderProfile builder{
-    {Database::main, Guard::lock_file, FirstDelay::random, Draw::before_opening_lock_file, 1,
-     Stream::nowhere, Stream::standard_output, error_on_output, FailedHandle::closed},
-    error_on_output};
+constexpr BuilderProfile profiles[] = {
+    {{Database::main, Guard::lock_file, FirstDelay::random, Draw::before_opening_lock_file, 1,
+      Stream::nowhere, Stream::standard_output, error_on_output, FailedHandle::closed},
+     error_on_output},
+    {{Database::main, Guard::lock_file, FirstDelay::random, Draw::before_opening_lock_file, 1,
+      Stream::nowhere, Stream::standard_error, {Stream::standard_error, Wording::cannot_open_code},
+      FailedHandle::closed},
+     {Stream::standard_output, Wording::cannot_prepare}},
+};
 // clang-format on
 
 /// The place of record `index` in a list. The list is cleared, what lies behind its capacity is cleared here.
@@ -34,18 +41,25 @@ void *next_record(const RuleTable &table, void *list, std::size_t index) {
     return record;
 }
 
-std::size_t read_rows(const RuleTable &table, Access &access, void *list, const char *sql) {
+/// @return the number of rows
+std::size_t read_rows(const RuleTable &table, const BuilderProfile &profile, Access &access, void *list,
+                      const char *sql) {
     Statement statement(access.db());
     const int code = statement.prepare(sql, access.backoff());
     if (code != SQLITE_OK) {
-        report(builder.prepare_failure, {nullptr, code, sqlite3_errmsg(access.db())});
+        report(profile.prepare_failure, {nullptr, code, sqlite3_errmsg(access.db())});
         return 0;
     }
+    const Columns columns(table, statement.handle());
+    References references(access.db());
     std::size_t count = 0;
     // There is no limit to the rows: the caller's buffer is sized for the table.
     for (bool more = statement.first_row(access.backoff()); more; more = statement.next_row()) {
-        read_record(table, access.db(), statement.row(), next_record(table, list, count));
-        ++count;
+        void *record = next_record(table, list, count++);
+        read_record(table, columns, statement.row(), record);
+        if (table.derive != nullptr) {
+            table.derive(references, record);
+        }
     }
     return count;
 }
@@ -54,11 +68,12 @@ std::size_t read_rows(const RuleTable &table, Access &access, void *list, const 
 
 int build_item_list(const RuleTable &table, void *list, const char *sql) {
     std::memset(list, 0, table.list_size());
-    Access access(builder.access);
+    const BuilderProfile &profile = profiles[static_cast<unsigned>(table.messages)];
+    Access access(profile.access);
     if (!access.open()) {
         return -1;
     }
-    put_number(list, 0, static_cast<std::int32_t>(read_rows(table, access, list, sql)));
+    put_number(list, 0, static_cast<std::int32_t>(read_rows(table, profile, access, list, sql)));
     return access.close();
 }
 

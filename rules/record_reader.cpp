@@ -1,53 +1,50 @@
 #include "rules/record_reader.h"
 
 #include "rules/record.h"
-#include "rules/time_span.h"
 
 namespace routerdb {
 
 namespace {
 
-/// Whether the control columns, which have been read by now, let this column count.
-bool counts(const Field &field, const RuleTable &table, const void *record) {
-    switch (field.source) {
-        case Source::always:
+/// Whether the control member, which has been read by now, lets this field count.
+bool counts(const Field &field, const void *record) {
+    if (field.kind == Kind::zero) {
+        return false;
+    }
+    const std::int32_t control = number_at(record, field.control);
+    switch (field.when) {
+        case When::always:
             return true;
-        case Source::own_time:
-            return number_at(record, table.time_span.control) == ROUTERDB_TIME_OWN;
-        case Source::time_group:
-            return number_at(record, table.time_span.control) == ROUTERDB_TIME_GROUP;
+        case When::own:
+            return control == control_own;
+        case When::referenced:
+            return control == control_referenced;
+        case When::not_referenced:
+            return control != control_referenced;
     }
     return false;
 }
 
-void read_field(const Field &field, const Row &row, void *record) {
-    switch (field.kind) {
-        case Kind::number:
-        case Kind::weekdays:
-            for (unsigned index = 0; index < field.columns(); ++index) {
-                put_number(record, field.offset + index * sizeof(std::int32_t),
-                           row.number(field.position + static_cast<int>(index)));
-            }
-            return;
-        case Kind::text:
-            row.copy(field.position, member(record, field.offset), field.width);
-            return;
-        case Kind::zero:
-            return;
+void read_field(const Field &field, const std::uint8_t *columns, const Row &row, void *record) {
+    if (field.kind == Kind::text) {
+        row.copy(columns[0], member(record, field.offset), field.width);
+        return;
+    }
+    for (unsigned index = 0; index < field.columns(); ++index) {
+        put_number(record, field.offset + index * sizeof(std::int32_t), row.number(columns[index]));
     }
 }
 
 }  // namespace
 
-void read_record(const RuleTable &table, sqlite3 *db, const Row &row, void *record) {
-    put_number(record, id_offset, row.number(0));
+void read_record(const RuleTable &table, const Columns &columns, const Row &row, void *record) {
+    put_number(record, id_offset, row.number(columns.id()));
+    const std::uint8_t *next = columns.of_fields();
     for (const Field *field = table.fields; field != table.fields + table.field_count; ++field) {
-        if (counts(*field, table, record)) {
-            read_field(*field, row, record);
+        if (counts(*field, record)) {
+            read_field(*field, next, row, record);
         }
-    }
-    if (table.has_time_span()) {
-        settle_time_span(table.time_span, db, record);
+        next += field->columns();
     }
 }
 

@@ -1,15 +1,13 @@
 // From a row to a rule record.
 #pragma once
 
-#include <sqlite3.h>
-
 #include "core/row.h"
-#include "rules/rule_table.h"
+#include "rules/columns.h"
 
 namespace routerdb {
 
-/// Reads a row into a record that has been cleared. Columns that the rule's control columns rule out are not read.
-/// @param db  where the groups are looked up that the rule references
-void read_record(const RuleTable &table, sqlite3 *db, const Row &row, void *record);
+/// Reads the columns of a row into a record that has been cleared. Columns that a control member rules out are not
+/// read, and derived members are not filled.
+void read_record(const RuleTable &table, const Columns &columns, const Row &row, void *record);
 
 }  // namespace routerdb

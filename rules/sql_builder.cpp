@@ -8,13 +8,6 @@ namespace {
 
 enum class Part : std::uint8_t { names, values, assignments };
 
-void append_name(Text &sql, const Field &field, unsigned index) {
-    sql.append(field.column);
-    if (field.kind == Kind::weekdays) {
-        sql.append(static_cast<long>(index) + 1);
-    }
-}
-
 void append_value(Text &sql, const Field &field, unsigned index, const void *record) {
     switch (field.kind) {
         case Kind::text:
@@ -38,7 +31,7 @@ void append_columns(Text &sql, Part part, const RuleTable &table, const void *re
             sql.append(separator);
             separator = ",";
             if (part != Part::values) {
-                append_name(sql, *field, index);
+                append_column_name(sql, *field, index);
             }
             if (part == Part::assignments) {
                 sql.append("=");
@@ -51,6 +44,13 @@ void append_columns(Text &sql, Part part, const RuleTable &table, const void *re
 }
 
 }  // namespace
+
+void append_column_name(Text &text, const Field &field, unsigned index) {
+    text.append(field.column);
+    if (field.kind == Kind::weekdays) {
+        text.append(static_cast<long>(index) + 1);
+    }
+}
 
 void append_list_query(Text &sql, const RuleTable &table) {
     sql.append("select * from ").append(table.name).append(" order by ").append(table.order_column).append(";");
@@ -72,6 +72,10 @@ void append_update(Text &sql, const RuleTable &table, const void *record) {
     sql.append("update ").append(table.name).append(" set ");
     append_columns(sql, Part::assignments, table, record);
     sql.append(" where id=").append_quoted(long{number_at(record, id_offset)}).append(";");
+}
+
+void append_delete_all(Text &sql, const RuleTable &table) {
+    sql.append("delete from ").append(table.name).append(";");
 }
 
 void append_delete(Text &sql, const RuleTable &table, const char *condition) {

@@ -1,6 +1,7 @@
 // URL filters.
 #include "core/text.h"
 #include "rules/client_ops.h"
+#include "rules/derived.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
@@ -22,10 +23,16 @@ constexpr Field fields[] = {
     TEXT(mark, 15),
 };
 
-constexpr RuleTable table{
-    "filter_url", "Id", ROUTERDB_TABLE_URL_FILTER, sizeof(Record), FIELDS(fields),
-    TIME_SPAN(offsetof(Record, time_valid))};
 // clang-format on
+
+constexpr TimeSpan time_span = TIME_SPAN(offsetof(Record, time_valid));
+
+void derive(References &references, void *record) {
+    derive_time_span(time_span, references, record);
+}
+
+constexpr RuleTable table =
+    rule_table<Record>("filter_url", ROUTERDB_TABLE_URL_FILTER, fields).ordered_by("Id").deriving(derive);
 
 }  // namespace
 

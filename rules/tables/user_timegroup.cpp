@@ -22,11 +22,7 @@ constexpr Field fields[] = {
 
 }  // namespace
 
-// clang-format off
-constexpr RuleTable routerdb::tables::user_timegroup{
-    "user_timegroup", "id", ROUTERDB_TABLE_TIME_GROUP, sizeof(Record), FIELDS(fields),
-    no_time_span};
-// clang-format on
+constexpr RuleTable tables::user_timegroup = rule_table<Record>("user_timegroup", ROUTERDB_TABLE_TIME_GROUP, fields);
 
 using tables::user_timegroup;
 
