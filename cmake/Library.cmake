@@ -20,6 +20,12 @@ add_library(
     core/statement.cpp
     core/text.cpp
     core/time_of_day.cpp
+    dhcp/doors.cpp
+    dhcp/host_name.cpp
+    dhcp/lease_file.cpp
+    dhcp/lease_list.cpp
+    rules/behavior_names.cpp
+    rules/catalogue_names.cpp
     rules/client_ops.cpp
     rules/columns.cpp
     rules/derived.cpp
@@ -29,8 +35,21 @@ add_library(
     rules/record_reader.cpp
     rules/references.cpp
     rules/sql_builder.cpp
+    rules/static_binding.cpp
+    rules/tables/acl.cpp
+    rules/tables/behavior_rule.cpp
+    rules/tables/dhcpserverstaticbind.cpp
+    rules/tables/domain_ip.cpp
+    rules/tables/famliymember.cpp
+    rules/tables/filter_ipport.cpp
+    rules/tables/filter_mac.cpp
     rules/tables/filter_url.cpp
+    rules/tables/forword_ipport.cpp
+    rules/tables/qos_rule.cpp
+    rules/tables/smartqos_whitelist.cpp
+    rules/tables/user_ipgroup.cpp
     rules/tables/user_timegroup.cpp
+    rules/tables/user_urlinfo.cpp
     sqlservice/client.cpp
     sqlservice/doors.cpp
     sqlservice/sigpipe_hold.cpp
@@ -46,9 +65,11 @@ target_include_directories(
     PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
 # Fortified calls have other names, and programs put their own functions in front of the plain ones.
+# Without exceptions nobody unwinds in the field; a debug build keeps what a debugger needs.
 target_compile_options(
     routerdb_objects
-    PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections
+    PRIVATE $<$<CONFIG:MinSizeRel>:-fno-asynchronous-unwind-tables>
+            -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
             -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0)
 
 add_library(routerdb SHARED)

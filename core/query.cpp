@@ -86,8 +86,8 @@ int query(const QueryProfile &profile, const char *sql, Destination destination)
 }
 
 int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql, Destination destination) {
-    Statement statement(db);
-    const int code = statement.prepare(sql, backoff);
+    Statement statement;
+    const int code = statement.prepare(db, sql, backoff);
     if (code != SQLITE_OK) {
         report(profile.prepare_failure, {nullptr, code, sqlite3_errmsg(db)});
         return profile.failed_prepare_result;

@@ -10,7 +10,8 @@ Statement::~Statement() {
     }
 }
 
-int Statement::prepare(const char *sql, Backoff &backoff) {
+int Statement::prepare(sqlite3 *db, const char *sql, Backoff &backoff) {
+    db_ = db;
     return retry_while_busy(backoff, db_, [&] { return sqlite3_prepare_v2(db_, sql, -1, &statement_, nullptr); });
 }
 

@@ -11,7 +11,7 @@ namespace routerdb {
 /// Owns one statement on a connection that outlives it, and finalises it.
 class Statement {
 public:
-    explicit Statement(sqlite3 *db) : db_(db) {}
+    Statement() = default;
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
     ~Statement();
@@ -19,7 +19,7 @@ public:
     /// Prepares the first statement of a text, retrying while the database is busy. A text that holds no statement
     /// prepares to nothing and has no rows.
     /// @return the result code of SQLite
-    [[nodiscard]] int prepare(const char *sql, Backoff &backoff);
+    [[nodiscard]] int prepare(sqlite3 *db, const char *sql, Backoff &backoff);
 
     /// Steps to the first row, retrying while the database is busy: nothing has been delivered yet, and a reader
     /// beside a writer would come back empty otherwise.
@@ -34,7 +34,7 @@ public:
     sqlite3_stmt *handle() const { return statement_; }
 
 private:
-    sqlite3 *db_;
+    sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
 };
 

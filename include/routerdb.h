@@ -342,6 +342,10 @@ enum {
     ROUTERDB_TIME_GROUP = 2  ///< those of the time group it references
 };
 
+/// Value of `ipcontrol` for a rule that takes its addresses from the IP group it references. With any other value it
+/// has a range of its own.
+#define ROUTERDB_IP_GROUP 2
+
 /// A row of `dhcpserverstaticbind`.
 typedef struct DhcpStaticItem {
     int32_t id;
@@ -646,30 +650,145 @@ typedef struct DomainIpItemList {
 ///
 /// The SQL service calls a builder to answer a query. It runs the query on the main database under the lock file
 /// and fills a list, the derived members included. The list is cleared first and its count set last; the result
-/// has no meaning. A query without rows, and every failure, leaves the list cleared. Messages: "cannot open %s!\n"
-/// (lock file) and "Error: %s" on standard output. Random first delay. Threads of one process must take turns, since
-/// a builder that returns drops the process's lock.
+/// has no meaning. A query without rows, and every failure, leaves the list cleared. Columns are read by position,
+/// where a comment does not say by name. Messages, unless said otherwise: "cannot open %s!\n" (lock file) and
+/// "Error: %s" on standard output. Random first delay. Threads of one process must take turns, since a builder that
+/// returns drops the process's lock.
 /// @{
 
-/// Builds the list of URL filters. The columns are read by position.
+/// Builds the list of static DHCP bindings.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from dhcpserverstaticbind order by id;"
+/// @return no meaning
+/// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql
+///       cmdline, Error: %s\n" on standard output.
+ROUTERDB_API int GetDhcpStaticItemListInServer(DhcpStaticItemList *list, const char *sql);
+
+/// Builds the list of URL filters. Looks the referenced time groups up.
 /// @param list  the list to fill
 /// @param sql   the query, normally "select * from filter_url order by Id;"
 /// @return no meaning
 ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql);
 
-/// Builds the list of time groups. The columns are read by position.
+/// Builds the list of MAC filters. Looks up the referenced time groups, and each host name
+/// with get_hostname_by_mac.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from filter_mac order by id;"
+/// @return no meaning
+/// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql
+///       cmdline, Error: %s\n" on standard output.
+ROUTERDB_API int GetMacFilterItemListInServer(MacFilterItemList *list, const char *sql);
+
+/// Builds the list of IP and port filters. Looks the referenced time groups and IP groups up; the
+/// range of an IP group replaces the rule's own.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from filter_ipport order by id;"
+/// @return no meaning
+ROUTERDB_API int GetIpFilterItemListInServer(IpFilterItemList *list, const char *sql);
+
+/// Builds the list of time groups.
 /// @param list  the list to fill
 /// @param sql   the query, normally "select * from user_timegroup order by id;"
 /// @return no meaning
 ROUTERDB_API int GetTimeGroupItemListInServer(TimeGroupItemList *list, const char *sql);
+
+/// Builds the list of IP groups. Columns are found by name.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from user_ipgroup order by id;"
+/// @return no meaning
+ROUTERDB_API int GetIpGroupItemListInServer(IpGroupItemList *list, const char *sql);
+
+/// Builds the list of entries of the smart-QoS white list. Columns are found by name.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from smartqos_whitelist order by id;"
+/// @return no meaning
+ROUTERDB_API int GetSmartQosItemListInServer(SmartQosItemList *list, const char *sql);
+
+/// Builds the list of user URLs. Columns are found by name.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from user_urlinfo order by id;"
+/// @return no meaning
+ROUTERDB_API int GetUserUrlItemListInServer(UserUrlItemList *list, const char *sql);
+
+/// Builds the list of family members.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from famliymember order by id;"
+/// @return no meaning
+ROUTERDB_API int GetFamliyMemberItemListInServer(FamliyMemberItemList *list, const char *sql);
+
+/// Builds the list of port forwardings.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from forword_ipport order by Id;"
+/// @return no meaning
+ROUTERDB_API int GetPortFwItemListInServer(PortFwItemList *list, const char *sql);
+
+/// Builds the list of QoS rules. Columns are found by name. Looks the referenced time groups and IP groups up; the
+/// rule's own range stays.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from qos_rule order by id;"
+/// @return no meaning
+ROUTERDB_API int GetQosItemListInServer(QosItemList *list, const char *sql);
+
+/// Builds the list of behaviour rules. Columns are found by name. Looks up the referenced time groups and IP groups
+/// (whose range replaces the rule's own), each host name with get_hostname_by_mac, and the names of classes and
+/// applications with GetBehaviorItemInfoTypeName.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from behavior_rule order by id;"
+/// @return no meaning
+ROUTERDB_API int GetBehaviorItemListInServer(BehaviorItemList *list, const char *sql);
+
+/// Builds the list of entries of a Wi-Fi access list. The query names the list: any of the three will do.
+/// @param list  the list to fill
+/// @param sql   the query, such as "select * from wifi0acl order by id;"
+/// @return no meaning
+ROUTERDB_API int Get2GAclItemListInServer(AclItemList *list, const char *sql);
+
+/// Builds the list of entries of a Wi-Fi access list. The query names the list: any of the three will do.
+/// @param list  the list to fill
+/// @param sql   the query, such as "select * from wifi0acl order by id;"
+/// @return no meaning
+ROUTERDB_API int Get5GAclItemListInServer(AclItemList *list, const char *sql);
+
+/// Builds the list of domain-to-IP entries.
+/// @param list  the list to fill
+/// @param sql   the query, normally "select * from domain_ip order by id;"
+/// @return no meaning
+ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char *sql);
 
 /// @}
 /// @name Rule tables: client operations
 ///
 /// Each sends one statement to the SQL service with sqlclient_cmd, whose messages are the only report: when the
 /// service cannot be reached a list comes back empty, a record cleared, and a change has no effect. Members beyond
-/// the table's own columns are not read. Thread-safe.
+/// the table's own columns are not read. Conditions are SQL, such as generate_db_params makes. Thread-safe.
 /// @{
+
+/// Lists all static DHCP bindings in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetDhcpStaticItemList(DhcpStaticItemList *list);
+
+/// Reads one static DHCP binding.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetDhcpStaticItem(int id, DhcpStaticItem *item);
+
+/// Inserts a static DHCP binding unless its addresses are taken. Two clients that add the same address at the same
+/// moment may both succeed.
+/// @param item  the values; `id` is not read
+/// @return 0 when the row was sent, also if the service could not be reached; 1 when the IP address is taken, 2 when
+/// the
+///         MAC address is
+ROUTERDB_API int AddDhcpStaticItem(const DhcpStaticItem *item);
+
+/// Writes every column of one static DHCP binding unless another row has its addresses.
+/// @param item  the values; `id` names the row
+/// @return 0 when the row was sent, also if the service could not be reached; 1 when another row has the IP address, 2
+///         when another one has the MAC address
+ROUTERDB_API int ModifyDhcpStaticItem(const DhcpStaticItem *item);
+
+/// Deletes static DHCP bindings.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelDhcpStaticItem(const char *condition);
 
 /// Lists all URL filters in order of their ids.
 /// @param list  filled whole: count, that many records, zero behind
@@ -689,13 +808,68 @@ ROUTERDB_API void AddUrlFilterItem(const UrlFilterItem *item);
 ROUTERDB_API void ModifyUrlFilterItem(const UrlFilterItem *item);
 
 /// Deletes URL filters.
-/// @param condition  an SQL condition, such as generate_db_params makes
+/// @param condition  an SQL condition
 ROUTERDB_API void DelUrlFilterItem(const char *condition);
 
 /// Deletes URL filters, exactly as DelUrlFilterItem does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
 ROUTERDB_API void DelUrlFilterItemById(const char *condition, int kind);
+
+/// Lists all MAC filters in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetMacFilterItemList(MacFilterItemList *list);
+
+/// Reads one MAC filter.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetMacFilterItem(int id, MacFilterItem *item);
+
+/// Inserts a MAC filter. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddMacFilterItem(const MacFilterItem *item);
+
+/// Writes every column of one MAC filter.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyMacFilterItem(const MacFilterItem *item);
+
+/// Deletes MAC filters.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelMacFilterItem(const char *condition);
+
+/// Deletes all MAC filters.
+ROUTERDB_API void DelMacFilterItemAll(void);
+
+/// Deletes MAC filters, exactly as DelMacFilterItem does.
+/// @param condition  an SQL condition
+/// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+ROUTERDB_API void DelMacFilterItemById(const char *condition, int kind);
+
+/// Lists all IP and port filters in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetIpFilterItemList(IpFilterItemList *list);
+
+/// Reads one IP and port filter.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetIpFilterItem(int id, IpFilterItem *item);
+
+/// Inserts an IP and port filter. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddIpFilterItem(const IpFilterItem *item);
+
+/// Writes every column of one IP and port filter.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyIpFilterItem(const IpFilterItem *item);
+
+/// Deletes IP and port filters.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelIpFilterItem(const char *condition);
+
+/// Deletes IP and port filters, exactly as DelIpFilterItem does.
+/// @param condition  an SQL condition
+/// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+ROUTERDB_API void DelIpFilterItemById(const char *condition, int kind);
 
 /// Lists all time groups in order of their ids.
 /// @param list  filled whole: count, that many records, zero behind
@@ -715,20 +889,348 @@ ROUTERDB_API void AddTimeGroupItem(const TimeGroupItem *item);
 ROUTERDB_API void ModifyTimeGroupItem(const TimeGroupItem *item);
 
 /// Deletes time groups.
-/// @param condition  an SQL condition, such as generate_db_params makes
+/// @param condition  an SQL condition
 ROUTERDB_API void DelTimeGroupItem(const char *condition);
+
+/// Lists all IP groups in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetIpGroupItemList(IpGroupItemList *list);
+
+/// Reads one IP group.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetIpGroupItem(int id, IpGroupItem *item);
+
+/// Inserts an IP group. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddIpGroupItem(const IpGroupItem *item);
+
+/// Writes every column of one IP group.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyIpGroupItem(const IpGroupItem *item);
+
+/// Deletes IP groups.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelIpGroupItem(const char *condition);
+
+/// Lists all entries of the smart-QoS white list in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetSmartQosItemList(SmartQosItemList *list);
+
+/// Reads one entry of the smart-QoS white list.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetSmartQosItem(int id, SmartQosItem *item);
+
+/// Inserts an entry of the smart-QoS white list. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddSmartQosItem(const SmartQosItem *item);
+
+/// Writes every column of one entry of the smart-QoS white list.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifySmartQosItem(const SmartQosItem *item);
+
+/// Deletes one entry of the smart-QoS white list.
+/// @param id  its id
+ROUTERDB_API void DelSmartQosItem(int id);
+
+/// Lists all user URLs in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetUserUrlItemList(UserUrlItemList *list);
+
+/// Reads one user URL.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetUserUrlItem(int id, UserUrlItem *item);
+
+/// Inserts a user URL. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddUserUrlItem(const UserUrlItem *item);
+
+/// Writes every column of one user URL.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyUserUrlItem(const UserUrlItem *item);
+
+/// Deletes one user URL.
+/// @param id  its id
+ROUTERDB_API void DelUserUrlItem(int id);
+
+/// Lists all family members in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetFamliyMemberItemList(FamliyMemberItemList *list);
+
+/// Reads one family member.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetFamliyMemberItem(int id, FamliyMemberItem *item);
+
+/// Inserts a family member. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddFamliyMemberItem(const FamliyMemberItem *item);
+
+/// Writes every column of one family member.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyFamliyMemberItem(const FamliyMemberItem *item);
+
+/// Deletes family members.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelFamliyMemberItem(const char *condition);
+
+/// Lists all port forwardings in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetPortFwItemList(PortFwItemList *list);
+
+/// Reads one port forwarding.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetPortFwItem(int id, PortFwItem *item);
+
+/// Inserts a port forwarding. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddPortFwItem(const PortFwItem *item);
+
+/// Writes every column of one port forwarding.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyPortFwItem(const PortFwItem *item);
+
+/// Deletes port forwardings.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelPortFwItem(const char *condition);
+
+/// Lists all QoS rules in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetQosItemList(QosItemList *list);
+
+/// Reads one QoS rule.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetQosItem(int id, QosItem *item);
+
+/// Inserts a QoS rule. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddQosItem(const QosItem *item);
+
+/// Writes every column of one QoS rule.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyQosItem(const QosItem *item);
+
+/// Deletes QoS rules.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelQosItem(const char *condition);
+
+/// Deletes QoS rules, exactly as DelQosItem does.
+/// @param condition  an SQL condition
+/// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+ROUTERDB_API void DelQosItemById(const char *condition, int kind);
+
+/// Lists all behaviour rules in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetBehaviorItemList(BehaviorItemList *list);
+
+/// Reads one behaviour rule.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetBehaviorItem(int id, BehaviorItem *item);
+
+/// Inserts a behaviour rule. The table chooses the id.
+/// @param item  the values; `id` is not read
+/// @note Writes "pinfo->behavior_info:%s" to the system log first, at LOG_INFO under the identity "AddBehaviortem". The
+///       column `behavior_type` becomes 0.
+ROUTERDB_API void AddBehaviortem(const BehaviorItem *item);
+
+/// Writes every column of one behaviour rule.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyBehaviorItem(const BehaviorItem *item);
+
+/// Deletes behaviour rules.
+/// @param condition  an SQL condition
+ROUTERDB_API void DelBehaviorItem(const char *condition);
+
+/// Deletes behaviour rules, exactly as DelBehaviorItem does.
+/// @param condition  an SQL condition
+/// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+ROUTERDB_API void DelBehaviorItemById(const char *condition, int kind);
+
+/// Lists all entries of a Wi-Fi access list in order of their ids.
+/// @param list    filled whole: count, that many records, zero behind
+/// @param number  of the access list, 0 to 2; with another one nothing is sent and the list is cleared
+ROUTERDB_API void GetAclItemList(AclItemList *list, int number);
+
+/// Reads one entry of a Wi-Fi access list.
+/// @param id      its id
+/// @param item    filled; cleared when there is no such row
+/// @param number  of the access list, 0 to 2; with another one nothing is sent and the record is cleared
+ROUTERDB_API void GetAclItem(int id, AclItem *item, int number);
+
+/// Inserts an entry into a Wi-Fi access list. The table chooses the id.
+/// @param item    the values; `id` is not read
+/// @param number  of the access list, 0 to 2; with another one nothing is sent
+ROUTERDB_API void AddAclItem(const AclItem *item, int number);
+
+/// Writes every column of one entry of a Wi-Fi access list.
+/// @param item    the values; `id` names the row
+/// @param number  of the access list, 0 to 2; with another one nothing is sent
+ROUTERDB_API void ModifyAclItem(const AclItem *item, int number);
+
+/// Deletes entries of a Wi-Fi access list.
+/// @param condition  an SQL condition
+/// @param number     of the access list, 0 to 2; with another one nothing is sent
+ROUTERDB_API void DelAclItem(const char *condition, int number);
+
+/// Deletes all entries of a Wi-Fi access list.
+/// @param number  of the access list, 0 to 2; with another one nothing is sent
+ROUTERDB_API void DelAclItemAll(int number);
+
+/// Deletes the entries of a MAC address from a Wi-Fi access list.
+/// @param mac     the address, as the table has it
+/// @param number  of the access list, 0 to 2; with another one nothing is sent
+ROUTERDB_API void DelAclItemByMac(const char *mac, int number);
+
+/// Lists all domain-to-IP entries in order of their ids.
+/// @param list  filled whole: count, that many records, zero behind
+ROUTERDB_API void GetDomainIpItemList(DomainIpItemList *list);
+
+/// Reads one domain-to-IP entry.
+/// @param id    its id
+/// @param item  filled; cleared when there is no such row
+ROUTERDB_API void GetDomainIpItem(int id, DomainIpItem *item);
+
+/// Inserts a domain-to-IP entry. The table chooses the id.
+/// @param item  the values; `id` is not read
+ROUTERDB_API void AddDomainIpItem(const DomainIpItem *item);
+
+/// Writes every column of one domain-to-IP entry.
+/// @param item  the values; `id` names the row
+ROUTERDB_API void ModifyDomainIpItem(const DomainIpItem *item);
+
+/// Deletes domain-to-IP entries.
+/// @param condition  an SQL condition
+/// @note The request carries the table id of the IP and port filters.
+ROUTERDB_API void DelDomainIpItem(const char *condition);
 
 /// @}
 /// @name Rule tables: lookups
+///
+/// Where nothing is found the outputs stay clear (groups) or as they were (names). Random first delay.
 /// @{
 
 /// Reads one time group on a connection that the caller holds open.
 /// @param db     a connection to the main database
 /// @param id     id of the group
 /// @param group  filled; cleared when there is no such group
-/// @note Errors: "cannot prepare sql cmdline, Error: %s\n" on standard output. Random first delay. As thread-safe as
-///       the connection.
+/// @note Errors: "cannot prepare sql cmdline, Error: %s\n" on standard output. As thread-safe as the connection.
 ROUTERDB_API void GetTimeControlById(sqlite3 *db, int id, TimeGroupItem *group);
+
+/// Reads name and range of one IP group on a connection that the caller holds open.
+/// @param db     a connection to the main database
+/// @param id     id of the group
+/// @param group  `name`, `startip` and `endip` are filled, the rest is cleared
+/// @note Errors: "Error: %s" on standard output. As thread-safe as the connection.
+ROUTERDB_API void GetIpGroup_IpRangeById(sqlite3 *db, int id, IpGroupItem *group);
+
+/// Reads the names of an application class from the application catalogue.
+/// @param id       number of the class
+/// @param name     receives the name whole; untouched when there is no such class
+/// @param name_en  receives the English name whole; untouched when there is no such class
+/// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
+ROUTERDB_API void GetClassNameByClassId(int id, char *name, char *name_en);
+
+/// Reads the names of an application from the application catalogue.
+/// @param class_id  number of its class
+/// @param feature   its feature text
+/// @param name      receives the name whole; untouched when there is no such application
+/// @param name_en   receives the English name whole; untouched when there is no such application
+/// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
+ROUTERDB_API void GetAppNameByClassIdAppfeature(int class_id, const char *feature, char *name, char *name_en);
+
+/// Turns the classes and features of a behaviour rule into names: "3:f1?f2AND7:f9" into "Class A:App 1?App 2ANDClass
+/// B:App 9". What the catalogue does not know, or has no two names for, is left out.
+/// @param info   `behavior_info` of the rule; without a ":" nothing is appended
+/// @param names  a text; the names are appended whole, whatever their length
+/// @param names_en  a text; the English names are appended whole, whatever their length
+/// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
+ROUTERDB_API void GetBehaviorItemInfoTypeName(const char *info, char *names, char *names_en);
+
+/// @}
+
+/// @name DHCP leases
+/// @{
+
+/// One lease of the binary lease file, as it stands there.
+typedef struct LeaseRecord {
+    uint32_t expiry;    ///< big-endian; 0 for a lease that does not count
+    uint32_t ip;        ///< network order
+    uint8_t mac[6];     ///< all zero for a record without a lease
+    char hostname[20];  ///< padded with NUL; without a terminator when it fills the field
+    uint8_t padding[2];
+} LeaseRecord;
+
+/// One lease in memory, a node of a list.
+typedef struct LeaseNode {
+    uint32_t unused;  ///< 0
+    char ip[40];      ///< dotted
+    char mac[32];     ///< "%02X:%02X:%02X:%02X:%02X:%02X"
+    char expiry[16];  ///< decimal
+    char hostname[152];
+    uint32_t address;  ///< network order
+    struct LeaseNode *next;
+} LeaseNode;
+
+/// Reads a process id.
+/// @param pidFile  path of a pid file
+/// @return the number on its first line; -1 if the file cannot be opened
+/// @note Thread-safe.
+ROUTERDB_API int getPid_sql(const char *pidFile);
+
+/// Allocates a block of zero bytes.
+/// @param size  in bytes
+/// @return the block, to be released with free_buffer_sql or free; null without memory
+/// @note Thread-safe.
+ROUTERDB_API void *get_buffer_sql(size_t size);
+
+/// Overwrites a block with zero bytes and frees it.
+/// @param p     the block; null is allowed
+/// @param size  of the block in bytes
+/// @return 0
+/// @note Thread-safe.
+ROUTERDB_API int free_buffer_sql(void *p, size_t size);
+
+/// Frees a list of leases, each node overwritten with zero bytes first.
+/// @param head  the head of the list, null afterwards
+/// @note As thread-safe as the list.
+ROUTERDB_API void free_leaselist_sql(LeaseNode **head);
+
+/// Fills a node from a lease. A null argument ends the process through an assertion.
+/// @param mac_ip_list  the node; its link and its first word stay
+/// @param lease        the lease
+/// @note Thread-safe.
+ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRecord *lease);
+
+/// Asks the DHCP server to write its leases (SIGUSR1), waits a millisecond, and reads a binary lease file into a list.
+/// @param head       must be null; receives the list, to be released with free_leaselist_sql
+/// @param leaseFile  path of the lease file
+/// @param pidFile    path of the server's pid file; without it no signal is sent
+/// @return the number of nodes; 0 if the lease file cannot be opened ("could not open input file" through perror).
+///         Without memory the list ends early
+/// @note Thread-safe.
+ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFile, const char *pidFile);
+
+/// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file.
+/// @param mac        the address in upper case, with colons
+/// @param hostname   room for 128 bytes; untouched when no line matches
+/// @param leaseFile  path of the lease file
+/// @param pidFile    path of the server's pid file
+/// @return 1 when the file was read, 0 if it cannot be opened ("could not open input file" through perror)
+/// @note Thread-safe. Each call leaves one stream of the lease file open.
+ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname, const char *leaseFile,
+                                                const char *pidFile);
+
+/// As get_hostname_by_mac_from_lease, with "/var/dhcp.leases" and "/var/run/dnsmasq/dnsmasq.pid".
+/// @param mac       the address; null or empty does nothing
+/// @param hostname  room for 128 bytes; null does nothing
+/// @param flag      not read
+/// @note Thread-safe. Each call leaves one stream of the lease file open.
+ROUTERDB_API void get_hostname_by_mac(const char *mac, char *hostname, int flag);
 
 /// @}
 

@@ -11,8 +11,13 @@ namespace routerdb {
 
 namespace {
 
-void send(const RuleTable &table, const Text &statement) {
-    const Reply reply(table.id, ROUTERDB_EXECUTE, statement);  // its data says nothing
+Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement) {
+    return table_id == no_table ? Reply() : Reply(table_id, operation, statement);
+}
+
+/// Sends a statement whose reply says nothing.
+void send(std::uint8_t table_id, const Text &statement) {
+    const Reply reply = request(table_id, ROUTERDB_EXECUTE, statement);
 }
 
 }  // namespace
@@ -20,7 +25,7 @@ void send(const RuleTable &table, const Text &statement) {
 void list_items(const RuleTable &table, void *list) {
     SqlText statement;
     append_list_query(statement, table);
-    const Reply reply(table.id, ROUTERDB_QUERY, statement);
+    const Reply reply = request(table.id, ROUTERDB_QUERY, statement);
 
     // Whole records only, and no limit to what the list holds: the caller's buffer is sized for the table.
     const std::size_t count = reply.size() / table.record_size;
@@ -37,7 +42,7 @@ void list_items(const RuleTable &table, void *list) {
 void get_item(const RuleTable &table, int id, void *record) {
     SqlText statement;
     append_select(statement, table, id);
-    const Reply reply(table.id, ROUTERDB_QUERY, statement);
+    const Reply reply = request(table.id, ROUTERDB_QUERY, statement);
     if (reply.size() >= table.record_size) {
         std::memcpy(record, reply.data(), table.record_size);
     } else {
@@ -48,19 +53,40 @@ void get_item(const RuleTable &table, int id, void *record) {
 void add_item(const RuleTable &table, const void *record) {
     SqlText statement;
     append_insert(statement, table, record);
-    send(table, statement);
+    send(table.id, statement);
 }
 
 void modify_item(const RuleTable &table, const void *record) {
     SqlText statement;
     append_update(statement, table, record);
-    send(table, statement);
+    send(table.id, statement);
 }
 
 void delete_items(const RuleTable &table, const char *condition) {
     SqlText statement;
-    append_delete(statement, table, or_empty(condition));
-    send(table, statement);
+    append_delete(statement, table);
+    statement.append(or_empty(condition)).append(";");
+    send(table.delete_id, statement);
+}
+
+void delete_item(const RuleTable &table, int id) {
+    SqlText statement;
+    append_delete(statement, table);
+    statement.append("id=").append_quoted(long{id}).append(";");
+    send(table.delete_id, statement);
+}
+
+void delete_items_of(const RuleTable &table, const char *mac) {
+    SqlText statement;
+    append_delete(statement, table);
+    statement.append("mac=").append_quoted(or_empty(mac)).append(";");
+    send(table.delete_id, statement);
+}
+
+void delete_all_items(const RuleTable &table) {
+    SqlText statement;
+    append_delete_all(statement, table);
+    send(table.delete_id, statement);
 }
 
 }  // namespace routerdb

@@ -54,7 +54,7 @@ void derive_address_range(const AddressRange &range, References &references, voi
     references.find_ip_group(id, group);
     std::memcpy(member(record, range.group), &group, sizeof(group));
     std::memcpy(member(record, range.group_name), group.name, sizeof(group.name));
-    if (range.width != 0) {
+    if (range.width != own_range_stays) {
         copy_address(group.startip, member(record, range.start), range.width);
         copy_address(group.endip, member(record, range.end), range.width);
     }

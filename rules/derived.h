@@ -35,8 +35,11 @@ struct AddressRange {
     std::uint16_t group_name;
     std::uint16_t start;  // range that the group's replaces
     std::uint16_t end;
-    std::uint16_t width;  // of either address; 0 in a record whose own range stays
+    std::uint16_t width;  // of either address, or own_range_stays
 };
+
+/// Stands for the width in a record that keeps its own range beside the group's.
+inline constexpr std::uint16_t own_range_stays = 0;
 
 /// Looks a referenced IP group up and copies it, its name and, where it replaces the rule's own, its range.
 void derive_address_range(const AddressRange &range, References &references, void *record);

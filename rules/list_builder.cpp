@@ -44,8 +44,8 @@ void *next_record(const RuleTable &table, void *list, std::size_t index) {
 /// @return the number of rows
 std::size_t read_rows(const RuleTable &table, const BuilderProfile &profile, Access &access, void *list,
                       const char *sql) {
-    Statement statement(access.db());
-    const int code = statement.prepare(sql, access.backoff());
+    Statement statement;
+    const int code = statement.prepare(access.db(), sql, access.backoff());
     if (code != SQLITE_OK) {
         report(profile.prepare_failure, {nullptr, code, sqlite3_errmsg(access.db())});
         return 0;

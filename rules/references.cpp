@@ -14,7 +14,7 @@ namespace {
 /// @return whether there is one
 bool find(Statement &statement, sqlite3 *db, const Text &sql, Wording failure) {
     Backoff backoff(FirstDelay::random);
-    const int code = statement.prepare(sql.c_str(), backoff);
+    const int code = statement.prepare(db, sql.c_str(), backoff);
     if (code != SQLITE_OK) {
         report({Stream::standard_output, failure}, {nullptr, code, sqlite3_errmsg(db)});
         return false;
@@ -28,7 +28,7 @@ void References::find_time_group(int id, TimeGroupItem &group) {
     group = {};
     StackText<64> sql;
     append_select(sql, tables::user_timegroup, id);
-    Statement statement(db_);
+    Statement statement;
     if (find(statement, db_, sql, Wording::cannot_prepare)) {
         const Columns columns(tables::user_timegroup, statement.handle());
         read_record(tables::user_timegroup, columns, statement.row(), &group);
@@ -39,7 +39,7 @@ void References::find_ip_group(int id, IpGroupItem &group) {
     group = {};
     StackText<80> sql;
     sql.append("select name,startip,endip from user_ipgroup where Id=").append_quoted(long{id}).append(" ;");
-    Statement statement(db_);
+    Statement statement;
     if (find(statement, db_, sql, Wording::error)) {
         const Row row = statement.row();
         row.copy(0, group.name, sizeof(group.name));

@@ -78,8 +78,8 @@ void append_delete_all(Text &sql, const RuleTable &table) {
     sql.append("delete from ").append(table.name).append(";");
 }
 
-void append_delete(Text &sql, const RuleTable &table, const char *condition) {
-    sql.append("delete from ").append(table.name).append(" where ").append(condition).append(";");
+void append_delete(Text &sql, const RuleTable &table) {
+    sql.append("delete from ").append(table.name).append(" where ");
 }
 
 }  // namespace routerdb

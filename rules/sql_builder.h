@@ -24,7 +24,7 @@ void append_update(Text &sql, const RuleTable &table, const void *record);
 /// "delete from filter_url;"
 void append_delete_all(Text &sql, const RuleTable &table);
 
-/// "delete from filter_url where id='7';", the condition being the caller's
-void append_delete(Text &sql, const RuleTable &table, const char *condition);
+/// "delete from filter_url where ", the condition and ";" being the caller's
+void append_delete(Text &sql, const RuleTable &table);
 
 }  // namespace routerdb

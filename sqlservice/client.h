@@ -13,6 +13,9 @@ int exchange(const SqlRequest &request, SqlReply &reply);
 /// Owns the reply to one request. One that failed, or announced data and has no block, is empty.
 class Reply {
 public:
+    /// No reply, because nothing was asked.
+    Reply() = default;
+
     /// Sends a statement; an incomplete text is not sent.
     Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement);
     Reply(const Reply &) = delete;

@@ -1,0 +1,30 @@
+// A lease file that the DHCP server has just been asked to write.
+#pragma once
+
+#include <cstdio>
+
+namespace routerdb {
+
+/// The number on the first line of a file; -1 if it cannot be opened.
+int read_pid(const char *path);
+
+/// Opens a file and leaves it open.
+void hold_open(const char *path);
+
+/// Owns the stream of a lease file.
+class LeaseFile {
+public:
+    /// Signals the server, gives it a millisecond, and opens the file. A failure goes to standard error.
+    LeaseFile(const char *path, const char *pid_file);
+    LeaseFile(const LeaseFile &) = delete;
+    LeaseFile &operator=(const LeaseFile &) = delete;
+    ~LeaseFile();
+
+    bool is_open() const { return stream_ != nullptr; }
+    FILE *stream() const { return stream_; }
+
+private:
+    FILE *stream_;
+};
+
+}  // namespace routerdb

@@ -1,0 +1,107 @@
+#include "rules/behavior_names.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include "rules/catalogue_names.h"
+
+namespace routerdb {
+
+namespace {
+
+constexpr std::string_view group_separator = "AND";
+constexpr std::string_view feature_separator = "?";
+constexpr std::string_view class_separator = ":";
+
+void append(const NameField &field, std::string_view piece) {
+    const std::size_t length = std::strlen(field.text);
+    const std::size_t room = field.width - 1 - length;
+    const std::size_t size = piece.size() < room ? piece.size() : room;
+    std::memcpy(field.text + length, piece.data(), size);
+    field.text[length + size] = '\0';
+}
+
+/// Takes what stands before a separator off a text; all of it if there is none.
+std::string_view take_until(std::string_view &text, std::string_view separator) {
+    const std::size_t end = text.find(separator);
+    const std::string_view taken = text.substr(0, end);
+    text = end == std::string_view::npos ? std::string_view() : text.substr(end + separator.size());
+    return taken;
+}
+
+/// The names of one behaviour rule on their way into its two texts.
+class Writer {
+public:
+    Writer(NameField names, NameField names_en) : names_(names), names_en_(names_en) {}
+
+    /// Writes a group, such as "3:f1?f2". One without a class id is skipped.
+    void write_group(std::string_view group);
+
+private:
+    void write_class(int class_id);
+    void write_application(int class_id, std::string_view feature, bool &first);
+    void write_both(std::string_view piece) {
+        append(names_, piece);
+        append(names_en_, piece);
+    }
+
+    NameField names_;
+    NameField names_en_;
+    bool written_ = false;  // something of an earlier group
+};
+
+void Writer::write_group(std::string_view group) {
+    if (group.find(class_separator) == std::string_view::npos) {
+        return;
+    }
+    // The number ends at the separator, which is no digit. NOLINTNEXTLINE(cert-err34-c,
+    // bugprone-suspicious-stringview-data-usage)
+    const int class_id = std::atoi(group.data());
+    take_until(group, class_separator);
+    write_class(class_id);
+    bool first = true;
+    while (!group.empty()) {
+        write_application(class_id, take_until(group, feature_separator), first);
+    }
+}
+
+void Writer::write_class(int class_id) {
+    const CatalogueNames names(class_id);
+    if (!names.complete()) {
+        return;
+    }
+    if (written_) {
+        write_both(group_separator);
+    }
+    append(names_, names.name());
+    append(names_en_, names.name_en());
+    write_both(class_separator);
+    written_ = true;
+}
+
+void Writer::write_application(int class_id, std::string_view feature, bool &first) {
+    const CatalogueNames names(class_id, feature);
+    if (!names.complete()) {
+        return;
+    }
+    if (!first) {
+        write_both(feature_separator);
+    }
+    append(names_, names.name());
+    append(names_en_, names.name_en());
+    first = false;
+    written_ = true;
+}
+
+}  // namespace
+
+void append_behavior_names(const char *info, NameField names, NameField names_en) {
+    std::string_view rest = info;
+    Writer writer(names, names_en);
+    while (!rest.empty()) {
+        writer.write_group(take_until(rest, group_separator));
+    }
+}
+
+}  // namespace routerdb

@@ -1,0 +1,46 @@
+// User URLs.
+#include "core/text.h"
+#include "rules/client_ops.h"
+#include "rules/list_builder.h"
+
+using namespace routerdb;
+
+namespace {
+
+using Record = UserUrlItem;
+
+// clang-format off
+constexpr Field fields[] = {
+    TEXT(name, by_name),
+    TEXT(url, by_name),
+    TEXT(mark, by_name),
+};
+// clang-format on
+
+constexpr RuleTable table = rule_table<Record>("user_urlinfo", ROUTERDB_TABLE_USER_URL, fields);
+
+}  // namespace
+
+int GetUserUrlItemListInServer(UserUrlItemList *list, const char *sql) {
+    return build_item_list(table, list, or_empty(sql));
+}
+
+void GetUserUrlItemList(UserUrlItemList *list) {
+    list_items(table, list);
+}
+
+void GetUserUrlItem(int id, UserUrlItem *item) {
+    get_item(table, id, item);
+}
+
+void AddUserUrlItem(const UserUrlItem *item) {
+    add_item(table, item);
+}
+
+void ModifyUserUrlItem(const UserUrlItem *item) {
+    modify_item(table, item);
+}
+
+void DelUserUrlItem(int id) {
+    delete_item(table, id);
+}
