@@ -14,6 +14,7 @@ add_library(
     core/maintenance.cpp
     core/query.cpp
     core/random.cpp
+    core/reading.cpp
     core/report.cpp
     core/row.cpp
     core/shell.cpp

@@ -53,9 +53,4 @@ bool Access::open_database() {
     return false;
 }
 
-int Access::close() {
-    connection_.close();
-    return lock_file_.release();
-}
-
 }  // namespace routerdb

@@ -53,9 +53,10 @@ public:
     /// @return false after the profile's message; the destructor releases what was taken
     [[nodiscard]] bool open();
 
-    /// Closes the connection and releases the lock file now instead of at the end of the scope.
-    /// @return what closing the lock file returned; 0 when it was not open
-    int close();
+    /// Close and release now instead of at the end of the scope, in this order.
+    /// @return the result code of SQLite; what closing the lock file returned, 0 when it was not open
+    int close_connection() { return connection_.close(); }
+    int release_lock() { return lock_file_.release(); }
 
     sqlite3 *db() const { return connection_.handle(); }
     Backoff &backoff() { return backoff_; }

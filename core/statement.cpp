@@ -4,9 +4,10 @@
 
 namespace routerdb {
 
-Statement::~Statement() {
+void Statement::finalize() {
     if (statement_ != nullptr) {
         sqlite3_finalize(statement_);
+        statement_ = nullptr;
     }
 }
 

@@ -14,7 +14,7 @@ public:
     Statement() = default;
     Statement(const Statement &) = delete;
     Statement &operator=(const Statement &) = delete;
-    ~Statement();
+    ~Statement() { finalize(); }
 
     /// Prepares the first statement of a text, retrying while the database is busy. A text that holds no statement
     /// prepares to nothing and has no rows.
@@ -29,6 +29,9 @@ public:
     /// Steps on. Any result other than a row ends the rows.
     /// @return whether there is another one
     [[nodiscard]] bool next_row();
+
+    /// Finalises now instead of at the end of the scope.
+    void finalize();
 
     Row row() const { return Row(statement_); }
     sqlite3_stmt *handle() const { return statement_; }

@@ -25,8 +25,14 @@ void append(const NameField &field, std::string_view piece) {
 /// Takes what stands before a separator off a text; all of it if there is none.
 std::string_view take_until(std::string_view &text, std::string_view separator) {
     const std::size_t end = text.find(separator);
-    const std::string_view taken = text.substr(0, end);
-    text = end == std::string_view::npos ? std::string_view() : text.substr(end + separator.size());
+    std::string_view taken = text;
+    if (end == std::string_view::npos) {
+        text = std::string_view();
+    } else {
+        // substr would do, but it may throw, and so needs the C++ runtime.
+        taken.remove_suffix(text.size() - end);
+        text.remove_prefix(end + separator.size());
+    }
     return taken;
 }
 

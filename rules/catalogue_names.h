@@ -3,8 +3,7 @@
 
 #include <string_view>
 
-#include "core/access.h"
-#include "core/statement.h"
+#include "core/reading.h"
 #include "core/text.h"
 
 namespace routerdb {
@@ -25,14 +24,13 @@ public:
     /// Whether there is an entry that has both names.
     bool complete() const { return found_ && *name() != '\0' && *name_en() != '\0'; }
 
-    const char *name() const { return statement_.row().text(0); }
-    const char *name_en() const { return statement_.row().text(1); }
+    const char *name() const { return reading_.row().text(0); }
+    const char *name_en() const { return reading_.row().text(1); }
 
 private:
     void find(const Text &sql);
 
-    Access access_;
-    Statement statement_;
+    Reading reading_;
     bool found_ = false;
 };
 

@@ -2,8 +2,7 @@
 
 #include <cstring>
 
-#include "core/access.h"
-#include "core/statement.h"
+#include "core/reading.h"
 #include "rules/record.h"
 #include "rules/record_reader.h"
 #include "rules/references.h"
@@ -12,16 +11,11 @@ namespace routerdb {
 
 namespace {
 
-struct BuilderProfile {
-    AccessProfile access;
-    Message prepare_failure;
-};
-
 constexpr Message error_on_output{Stream::standard_output, Wording::error};
 
 // The rows of BuilderMessages. The first delay is drawn before anything else.
 // clang-format off
-constexpr BuilderProfile profiles[] = {
+constexpr ReadProfile profiles[] = {
     {{Database::main, Guard::lock_file, FirstDelay::random, Draw::before_opening_lock_file, 1,
       Stream::nowhere, Stream::standard_output, error_on_output, FailedHandle::closed},
      error_on_output},
@@ -42,21 +36,17 @@ void *next_record(const RuleTable &table, void *list, std::size_t index) {
 }
 
 /// @return the number of rows
-std::size_t read_rows(const RuleTable &table, const BuilderProfile &profile, Access &access, void *list,
-                      const char *sql) {
-    Statement statement;
-    const int code = statement.prepare(access.db(), sql, access.backoff());
-    if (code != SQLITE_OK) {
-        report(profile.prepare_failure, {nullptr, code, sqlite3_errmsg(access.db())});
+std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, const char *sql) {
+    if (!reading.prepare(sql)) {
         return 0;
     }
-    const Columns columns(table, statement.handle());
-    References references(access.db());
+    const Columns columns(table, reading.statement());
+    References references(reading.db());
     std::size_t count = 0;
     // There is no limit to the rows: the caller's buffer is sized for the table.
-    for (bool more = statement.first_row(access.backoff()); more; more = statement.next_row()) {
+    for (bool more = reading.first_row(); more; more = reading.next_row()) {
         void *record = next_record(table, list, count++);
-        read_record(table, columns, statement.row(), record);
+        read_record(table, columns, reading.row(), record);
         if (table.derive != nullptr) {
             table.derive(references, record);
         }
@@ -68,13 +58,12 @@ std::size_t read_rows(const RuleTable &table, const BuilderProfile &profile, Acc
 
 int build_item_list(const RuleTable &table, void *list, const char *sql) {
     std::memset(list, 0, table.list_size());
-    const BuilderProfile &profile = profiles[static_cast<unsigned>(table.messages)];
-    Access access(profile.access);
-    if (!access.open()) {
+    Reading reading(profiles[static_cast<unsigned>(table.messages)]);
+    if (!reading.open()) {
         return -1;
     }
-    put_number(list, 0, static_cast<std::int32_t>(read_rows(table, profile, access, list, sql)));
-    return access.close();
+    put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, sql)));
+    return reading.close().lock_file;
 }
 
 }  // namespace routerdb

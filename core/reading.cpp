@@ -1,0 +1,19 @@
+#include "core/reading.h"
+
+namespace routerdb {
+
+bool Reading::prepare(const char *sql) {
+    const int code = statement_.prepare(access_.db(), sql, access_.backoff());
+    if (code != SQLITE_OK) {
+        report(profile_.prepare_failure, {nullptr, code, sqlite3_errmsg(access_.db())});
+    }
+    return code == SQLITE_OK;
+}
+
+Reading::Closed Reading::close() {
+    statement_.finalize();
+    const int connection = access_.close_connection();
+    return {connection, access_.release_lock()};
+}
+
+}  // namespace routerdb

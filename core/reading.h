@@ -1,0 +1,51 @@
+// A query whose rows the caller walks.
+#pragma once
+
+#include "core/access.h"
+#include "core/statement.h"
+
+namespace routerdb {
+
+/// How a function reads rows, and what it says when it cannot.
+struct ReadProfile {
+    AccessProfile access;
+    Message prepare_failure;
+};
+
+/// Opens a database, walks the rows of one query, and closes in the order statement, connection, lock file.
+class Reading {
+public:
+    explicit Reading(const ReadProfile &profile) : profile_(profile), access_(profile.access) {}
+
+    /// Takes what the profile names and opens the database.
+    /// @return false after the profile's message
+    [[nodiscard]] bool open() { return access_.open(); }
+
+    /// @return false after the profile's message
+    [[nodiscard]] bool prepare(const char *sql);
+
+    /// @return whether there is a row; waits for a busy database
+    [[nodiscard]] bool first_row() { return statement_.first_row(access_.backoff()); }
+
+    /// @return whether there is another row
+    [[nodiscard]] bool next_row() { return statement_.next_row(); }
+
+    Row row() const { return statement_.row(); }
+    sqlite3_stmt *statement() const { return statement_.handle(); }
+    sqlite3 *db() const { return access_.db(); }
+
+    /// Ends the reading now instead of at the end of the scope.
+    /// @return what closing the connection and what closing the lock file returned
+    struct Closed {
+        int connection;
+        int lock_file;
+    };
+    Closed close();
+
+private:
+    const ReadProfile &profile_;
+    Access access_;
+    Statement statement_;
+};
+
+}  // namespace routerdb
