@@ -3,6 +3,20 @@
 
 add_library(
     routerdb_objects OBJECT
+    apinventory/apply.cpp
+    apinventory/compare.cpp
+    apinventory/devices.cpp
+    apinventory/doors.cpp
+    apinventory/fragments.cpp
+    apinventory/groups.cpp
+    apinventory/notify.cpp
+    apinventory/numbers.cpp
+    apinventory/record_reader.cpp
+    apinventory/registration.cpp
+    apinventory/status.cpp
+    apinventory/update.cpp
+    apinventory/upgrade.cpp
+    apinventory/zero_config.cpp
     core/access.cpp
     core/backoff.cpp
     core/connection.cpp

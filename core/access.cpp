@@ -29,7 +29,7 @@ bool Access::take_guard() {
         draw();
     }
     if (profile_.guard != Guard::none && !lock_file_.open()) {
-        report({profile_.lock_failure, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
+        printed_ = report({profile_.lock_failure, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
         return false;
     }
     if (profile_.draw == Draw::after_opening_lock_file) {
@@ -46,7 +46,7 @@ bool Access::open_database() {
     if (code == SQLITE_OK) {
         return true;
     }
-    report(profile_.open_failure, {path_of(profile_.database), code, sqlite3_errmsg(connection_.handle())});
+    printed_ = report(profile_.open_failure, {path_of(profile_.database), code, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.
     }

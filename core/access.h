@@ -58,6 +58,9 @@ public:
     int close_connection() { return connection_.close(); }
     int release_lock() { return lock_file_.release(); }
 
+    /// What printing the message of a failed open() returned.
+    int printed() const { return printed_; }
+
     sqlite3 *db() const { return connection_.handle(); }
     Backoff &backoff() { return backoff_; }
 
@@ -66,6 +69,7 @@ private:
     bool open_database();
 
     const AccessProfile &profile_;
+    int printed_ = 0;
     Backoff backoff_;
     MutexHold mutex_;  // members are released from the last to the first
     LockFile lock_file_;

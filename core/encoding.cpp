@@ -38,7 +38,10 @@ public:
     }
 
 private:
-    bool usable() const { return handle_ != nullptr && handle_ != reinterpret_cast<iconv_t>(-1); }
+    bool usable() const {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): what iconv_open returns on failure
+        return handle_ != nullptr && handle_ != reinterpret_cast<iconv_t>(-1);
+    }
 
     iconv_t handle_;
 };

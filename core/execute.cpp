@@ -73,10 +73,13 @@ int execute_with_copy(const char *sql) {
         result = execute(access, sql);
     }
     if (!looks_like_a_query(sql)) {
-        // Deliberate: the file is copied onto itself, after the lock is released and also when the statement failed.
-        run_in_shell("cp -f %s %s >/dev/null 2>&1 &", paths::main_database, paths::main_database);
+        copy_database_onto_itself();  // Deliberate: after the lock is released, and also when the statement failed.
     }
     return result;
+}
+
+void copy_database_onto_itself() {
+    run_in_shell("cp -f %s %s >/dev/null 2>&1 &", paths::main_database, paths::main_database);
 }
 
 }  // namespace routerdb

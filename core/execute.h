@@ -25,4 +25,7 @@ struct ExecuteProfile {
 /// @return 0 or -1
 [[nodiscard]] int execute_with_copy(const char *sql);
 
+/// Copies the main database onto itself in the background.
+void copy_database_onto_itself();
+
 }  // namespace routerdb

@@ -9,6 +9,7 @@ inline constexpr char lock_file[] = "/var/databaselock";
 inline constexpr char backup_directory[] = "/var/tmpconfig/database";
 inline constexpr char backup_database[] = "/var/tmpconfig/database/myrouter.db";
 inline constexpr char factory_database[] = "/rom/etc/config/systemconf/database/myrouter.db";
+inline constexpr char send_event[] = "/bin/send_event";
 inline constexpr char text_leases[] = "/var/dhcp.leases";
 inline constexpr char dhcp_server_pid[] = "/var/run/dnsmasq/dnsmasq.pid";
 inline constexpr char service_socket[] = "/var/sqlserver_socket";

@@ -39,6 +39,9 @@ inline constexpr AccessProfile free_logging{
 inline constexpr AccessProfile free_printing{
     Database::main, Guard::none, FirstDelay::microseconds_50, Draw::after_opening_lock_file, 1,
     Stream::nowhere, Stream::nowhere, code_on_error, FailedHandle::closed};
+inline constexpr AccessProfile free_printing_random{
+    Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
+    Stream::nowhere, Stream::nowhere, code_on_error, FailedHandle::closed};
 inline constexpr AccessProfile free_silent{
     Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::abandoned};
@@ -50,6 +53,9 @@ inline constexpr AccessProfile free_silent_catalogue{
 }  // namespace parts
 
 using namespace parts;
+
+/// The collections, whose rows are not delivered.
+inline constexpr ExecuteProfile collection{guarded, Pragmas::none};
 
 /// DbSqlExec, which adds the background copy.
 inline constexpr ExecuteProfile guarded_execution{guarded_leaving_failed_handle, Pragmas::none};
@@ -68,6 +74,8 @@ inline constexpr QueryProfile exec_char_char      {free_printing,         Rows::
 inline constexpr QueryProfile sql_int_count       {guarded,               Rows::summed_diagonal, exec_on_output,      -1, StandardInput::kept};
 /// GET_DB_SQL_INT
 inline constexpr QueryProfile sql_int             {guarded,               Rows::counted,         exec_on_output,      -1, StandardInput::kept};
+/// the same statement for its first number instead of its rows, which the zero-configuration groups go by
+inline constexpr QueryProfile sql_int_first_number{guarded,               Rows::first_number,    exec_on_output,      -1, StandardInput::kept};
 /// GET_DB_SQL_INT_COUNT_ROUTE
 inline constexpr QueryProfile sql_int_count_route {free_silent,           Rows::first_number,    error_on_output,     -1, StandardInput::kept};
 /// GET_DB_SQL_INT_COUNT_DPI

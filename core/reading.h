@@ -21,6 +21,9 @@ public:
     /// @return false after the profile's message
     [[nodiscard]] bool open() { return access_.open(); }
 
+    /// What printing the message of a failed open() returned.
+    int printed() const { return access_.printed(); }
+
     /// @return false after the profile's message
     [[nodiscard]] bool prepare(const char *sql);
 

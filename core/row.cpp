@@ -2,7 +2,8 @@
 
 #include <climits>
 #include <cstdlib>
-#include <cstring>
+
+#include "core/text.h"
 
 namespace routerdb {
 
@@ -28,10 +29,7 @@ unsigned long Row::unsigned_number(int column) const {
 }
 
 void Row::copy(int column, char *field, std::size_t width) const {
-    const char *value = text(column);
-    const std::size_t length = strnlen(value, width - 1);
-    std::memcpy(field, value, length);
-    field[length] = '\0';
+    copy_cut(text(column), field, width);
 }
 
 }  // namespace routerdb

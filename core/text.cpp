@@ -6,8 +6,24 @@
 
 namespace routerdb {
 
+namespace {
+
+template <typename Number>
+std::string_view in_digits(Number number, char (&digits)[24]) {
+    const std::to_chars_result end = std::to_chars(digits, digits + sizeof(digits), number);
+    return {digits, static_cast<std::size_t>(end.ptr - digits)};
+}
+
+}  // namespace
+
 std::string_view field_text(const char *field, std::size_t width) {
     return {field, strnlen(field, width)};
+}
+
+void copy_cut(const char *text, char *field, std::size_t width) {
+    const std::string_view cut = field_text(text, width - 1);
+    std::memcpy(field, cut.data(), cut.size());
+    field[cut.size()] = '\0';
 }
 
 Text::~Text() {
@@ -27,15 +43,27 @@ Text &Text::append(std::string_view piece) {
 
 Text &Text::append(long number) {
     char digits[24];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof(digits), number);
-    return append({digits, static_cast<std::size_t>(end.ptr - digits)});
+    return append(in_digits(number, digits));
 }
 
-bool Text::make_room(std::size_t length) {
-    if (length <= capacity_) {
+Text &Text::append(unsigned long number) {
+    char digits[24];
+    return append(in_digits(number, digits));
+}
+
+Text &Text::append_escaped(std::string_view value) {
+    for (std::size_t quote = value.find('\''); quote != std::string_view::npos; quote = value.find('\'')) {
+        append(value.substr(0, quote + 1)).append("'");
+        value.remove_prefix(quote + 1);
+    }
+    return append(value);
+}
+
+bool Text::make_room(std::size_t size) {
+    if (size <= capacity_) {
         return true;
     }
-    const std::size_t capacity = length * 2;
+    const std::size_t capacity = size > 2 * capacity_ ? size : 2 * capacity_;
     const bool on_stack = data_ == buffer_;
     char *data = static_cast<char *>(std::realloc(on_stack ? nullptr : data_, capacity));
     if (data == nullptr) {

@@ -14,6 +14,16 @@ constexpr const char *or_empty(const char *text) {
 /// The text in a field of a record, terminated or not.
 std::string_view field_text(const char *field, std::size_t width);
 
+/// The text in a field of a record, whose width the type tells.
+template <std::size_t width>
+std::string_view field_text(const char (&field)[width]) {
+    return field_text(field, width);
+}
+
+/// Copies a text into a field of `width` bytes, cut so that its terminator fits. What the field held behind the
+/// terminator stays.
+void copy_cut(const char *text, char *field, std::size_t width);
+
 /// A text under construction. It starts in a buffer on the stack and moves to the heap when it outgrows that. Where
 /// memory runs out it remembers so: whoever uses the text asks complete() first.
 class Text {
@@ -23,10 +33,20 @@ public:
 
     Text &append(std::string_view piece);
     Text &append(long number);
+    Text &append(unsigned long number);
 
     /// Appends a value between single quotes, as it stands.
-    Text &append_quoted(std::string_view value) { return append("'").append(value).append("'"); }
-    Text &append_quoted(long value) { return append("'").append(value).append("'"); }
+    template <typename Value>
+    Text &append_quoted(Value value) {
+        return append("'").append(value).append("'");
+    }
+
+    /// Appends what stands inside single quotes, its own doubled, so that SQL reads it back as it is.
+    Text &append_escaped(std::string_view value);
+
+    /// Takes heap for a text of so many bytes, its terminator included, if the buffer does not have them.
+    /// @return false without memory
+    bool reserve(std::size_t size) { return make_room(size); }
 
     [[nodiscard]] bool complete() const { return !out_of_memory_; }
     const char *c_str() const { return data_; }
@@ -37,7 +57,7 @@ protected:
     ~Text();
 
 private:
-    bool make_room(std::size_t length);
+    bool make_room(std::size_t size);
 
     char *data_;
     char *buffer_;

@@ -37,12 +37,6 @@ void parse(const char *line, LeaseLine &lease) {
     to_upper_case(lease.mac);
 }
 
-void copy_name(const char *name, char *hostname) {
-    const std::string_view cut = field_text(name, host_name_width - 1);
-    std::memcpy(hostname, cut.data(), cut.size());
-    hostname[cut.size()] = '\0';
-}
-
 }  // namespace
 
 bool find_host_name(const char *mac, char *hostname, const char *lease_file, const char *pid_file) {
@@ -56,7 +50,7 @@ bool find_host_name(const char *mac, char *hostname, const char *lease_file, con
     while (std::fgets(line, sizeof(line), file.stream()) != nullptr) {
         parse(line, lease);
         if (std::strcmp(lease.mac, mac) == 0) {
-            copy_name(lease.hostname, hostname);
+            copy_cut(lease.hostname, hostname, host_name_width);
             break;
         }
     }

@@ -1153,6 +1153,357 @@ ROUTERDB_API void GetBehaviorItemInfoTypeName(const char *info, char *names, cha
 
 /// @}
 
+/// @name Access points: records
+///
+/// Every value is kept as text, as it stands in the table, the serial number excepted. The members are named after
+/// their columns in `DevInfo`.
+/// @{
+
+/// Wireless networks that an access point has.
+#define ROUTERDB_WLANS 8
+
+/// Access points that the table takes.
+#define ROUTERDB_MAX_DEVICES 20
+
+/// One wireless network, number n of an access point. Its columns are `Dev_Wlan<n>_Enable` and so on.
+typedef struct DevWlanEntry {
+    char Enable[5];
+    char Hide_Ssid[5];
+    char Ssid[100];
+    char VlanId[5];
+    char Bssid[20];
+    char Security[20];
+    char Securitycipher[20];
+    char Authmode[20];
+    char Wep_Type[20];
+    char Wep_Value[200];
+    char Psk_Type[20];
+    char Psk_Value[200];
+} DevWlanEntry;
+
+/// One access point; also what a WLAN group or a zero-configuration group holds.
+typedef struct DevInfo {
+    uint32_t Dev_Sn;  ///< serial number, the key of the row
+    char Dev_Group[200];
+    char Dev_Name[200];
+    char Dev_Manufacture[100];
+    char Dev_Model_Name[100];
+    char Dev_IP_Assign[5];
+    char Dev_Ipaddress[20];  ///< dotted; empty without an address
+    char Dev_Status[5];      ///< "1" online, "0" offline
+    char Dev_Upgrade_Status[25];
+    char Dev_Subnet[20];
+    char Dev_Gateway[20];
+    char Dev_Dns1[20];
+    char Dev_Dns2[20];
+    char Dev_Sys_TrapIP[20];
+    char Dev_MAC[20];  ///< six pairs with colons
+    char Dev_OnlineTime[50];
+    char Dev_SwName[200];
+    char Dev_SwVer[200];
+    char Dev_Wlan_GroupId[5];           ///< of the WLAN group that it follows, "0" for none
+    char wlan_group_name[100];          ///< no column of the table
+    char Dev_Wlan_Radio_Num[5];         ///< wireless networks in use: 4 with one radio, 8 with two
+    DevWlanEntry wlan[ROUTERDB_WLANS];  ///< 1 to 4 on the first radio, 5 to 8 on the second
+    char Dev_Wlan_Mode[5];
+    char Dev_Wlan_Bw[5];
+    char Dev_Wlan_Ampdu[5];
+    char Dev_Wlan_Isolate[5];
+    char Dev_Wlan_Rate[5];
+    char Dev_Wlan_Beacon_Inertval[5];  ///< spelled so in the table
+    char Dev_Wlan_Rts[5];
+    char Dev_Wlan_Cts[5];
+    char Dev_Wlan_ShortGI[5];
+    char Dev_Wlan_Txpower[5];  ///< percent
+    char Dev_Wlan_MaxTxpower[5];
+    char Dev_Wlan_Channel[5];
+    char Dev_Wlan_RxOption[5];
+    char Dev_Wlan_CoverageThreshold[5];
+    char Dev_Wlan_Current_Channel[5];
+    char Dev_Wlan_Sta_Num[5];  ///< associated stations
+    char Dev_Wlan_MaxStaNum[5];
+    char Dev_RebootTime_Enable[5];
+    char Dev_RebootTime[50];
+    char Dev_CurrentDateTime[50];
+    char Dev_Wlan_Mode_sec[5];
+    char Dev_Wlan_Bw_sec[5];
+    char Dev_Wlan_Ampdu_sec[5];
+    char Dev_Wlan_Isolate_sec[5];
+    char Dev_Wlan_Rate_sec[5];
+    char Dev_Wlan_Beacon_Inertval_sec[5];  ///< spelled so in the table
+    char Dev_Wlan_Rts_sec[5];
+    char Dev_Wlan_Cts_sec[5];
+    char Dev_Wlan_ShortGI_sec[5];
+    char Dev_Wlan_Txpower_sec[5];  ///< percent
+    char Dev_Wlan_MaxTxpower_sec[5];
+    char Dev_Wlan_Channel_sec[5];
+    char Dev_Wlan_RxOption_sec[5];
+    char Dev_Wlan_CoverageThreshold_sec[5];
+    char Dev_Wlan_Current_Channel_sec[5];
+    char Dev_Wlan_Sta_Num_sec[5];  ///< associated stations
+    char Dev_Wlan_MaxStaNum_sec[5];
+    char radius_server_ip[20];    ///< no column of the table
+    char radius_server_port[20];  ///< no column of the table
+    char radius_shared_key[200];  ///< no column of the table
+} DevInfo;
+
+/// Room of an ApDevList.
+#define ROUTERDB_DEVICE_LIST_CAPACITY 1000
+
+/// All access points, each record on the heap.
+typedef struct ApDevList {
+    uint32_t count;
+    DevInfo *devices[ROUTERDB_DEVICE_LIST_CAPACITY];  ///< released by FreeApDevList
+} ApDevList;
+
+/// One firmware that access points are to be upgraded to.
+typedef struct ApDevUpgradeInfo {
+    char description[100];
+    char Dev_SwName[200];  ///< key of the `DevUpgradeInfo` row
+    void *block;           ///< on the heap, or null
+} ApDevUpgradeInfo;
+
+/// Upgrades, each record on the heap. Only `count` of the pointers are looked at.
+typedef struct ApDevUpgradeList {
+    uint32_t count;
+    ApDevUpgradeInfo *items[ROUTERDB_DEVICE_LIST_CAPACITY];
+} ApDevUpgradeList;
+
+/// @}
+/// @name Access points: reading
+/// @{
+
+/// Reads one access point.
+/// @param out      cleared in any case, then filled
+/// @param sn       its serial number
+/// @param convert  1 to get the SSIDs of networks 2, 3, 4, 6, 7 and 8 in GB2312; those of 1 and 5, and one that cannot
+///                 be converted, stay UTF-8
+/// @return the number of rows read: 1, or 0 when there is no such row or the database cannot be read
+/// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
+///       First sleep 55 microseconds. Thread-safe; takes no lock.
+ROUTERDB_API int DB_getinfo(DevInfo *out, unsigned long sn, int convert);
+
+/// Reads all access points in order of their addresses.
+/// @param list     filled; untouched when the rows cannot even be counted. To be released with FreeApDevList
+/// @param convert  as in DB_getinfo
+/// @return 1 when there is one at least, else 0
+/// @note Errors: those of GET_DB_SQL_INT, then "cannot open %s, ErrorCode: %d!\n" on standard error and "cannot prepare
+///       sql cmdline, Error: %s\n" in the system log. It takes the lock file while it counts. Without memory the list
+///       ends early.
+ROUTERDB_API int GetApDevList(ApDevList *list, int convert);
+
+/// Releases the records of a list and sets their pointers to null; the count stays.
+/// @param list  from GetApDevList
+ROUTERDB_API void FreeApDevList(ApDevList *list);
+
+/// @}
+/// @name Access points: registration and update
+///
+/// Values are written with their apostrophes doubled: what an access point reports about itself is never SQL. The
+/// statements go through DB_EXEC_SQL_CHAR and DB_EXEC_SQL_CHAR_INT, with their locks and messages.
+/// @{
+
+/// Looks an access point up by its MAC address, up to sixteen times, 100 microseconds apart.
+/// @param dev  its `Dev_MAC` is read
+/// @param sn   receives the serial number of a known one
+/// @return 1 when it is known, 0 when it is not, -1 without a MAC address
+ROUTERDB_API int DB_findinfo2(DevInfo dev, unsigned long *sn);
+
+/// Decides whether an access point is new. For a new one with MAC and IP address, a row that has the same serial
+/// number is deleted: it belongs to a device that had the address before.
+/// @param dev  its `Dev_MAC` and `Dev_Ipaddress` are read
+/// @param sn   receives the serial number: that of the row, or the address as a number in network order
+/// @return 1 when it is known, 0 when it is new, -1 when the lookup failed
+ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
+
+/// Registers an access point: inserts a new one (at most ROUTERDB_MAX_DEVICES), writes what it reports, marks it online
+/// and announces it with "/bin/send_event 5 4 add#%lu >/dev/null 2>&1 &".
+/// @param dev  what it reports; SSIDs but those of networks 1 and 5 are converted from GB2312, one that cannot be
+///             converted becomes empty
+/// @return the serial number as an int, or -1. Compare with -1 only: an address whose last octet is 128 or more gives a
+///         negative number on success, and an empty address gives -1 although the row was written
+/// @note Errors: "not have enough mem" in the system log.
+ROUTERDB_API int DB_addinfo(DevInfo dev);
+
+/// Writes a record into the rows of its MAC address.
+/// @param dev  the record; SSIDs as in DB_addinfo
+/// @note Errors: "not have enough mem" in the system log; others are not reported.
+ROUTERDB_API void DB_saveinfo(const DevInfo *dev);
+
+/// Writes the configuration in a record into the row of its serial number and marks it online. The transmit power is
+/// written from 10 to 100 only. What the access point reports about itself is left out.
+/// @param dev  the record; SSIDs are written as they stand
+/// @return as DB_EXEC_SQL_CHAR
+ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
+
+/// @}
+/// @name Access points: status, identity, upgrade
+///
+/// Each runs one statement with DB_EXEC_SQL_CHAR (to write), DB_EXEC_SQL_CHAR_CHAR, _LONG or _INT (to read), with their
+/// locks and messages, and reports nothing else. Texts are put into the statement as given.
+/// @{
+
+/// Sets the status of the access point with a MAC address.
+/// @param mac     the address, as the table has it
+/// @param status  a text; one that does not start with a number other than 0 also sets both station counts to '0'
+ROUTERDB_API void SetDevStatus(const char *mac, const char *status);
+
+/// As SetDevStatus, by IP address.
+/// @param ip      the address, dotted
+/// @param status  as in SetDevStatus
+ROUTERDB_API void SetDevStatusbyIP(const char *ip, const char *status);
+
+/// Reads the status of an access point.
+/// @param mac  the address
+/// @param out  room for the text (5 bytes); "0" when there is no such row
+ROUTERDB_API void GetDevStatus(const char *mac, char *out);
+
+/// Reads the upgrade status of an access point.
+/// @param mac  the address
+/// @param out  room for the text (25 bytes); "0" when there is no such row
+ROUTERDB_API void GetDevUpgradeStatus(const char *mac, char *out);
+
+/// Reads the MAC address of an access point.
+/// @param sn   its serial number
+/// @param out  room for the text (20 bytes); untouched when there is no such row
+ROUTERDB_API void GetDevMacBySN(unsigned long sn, char *out);
+
+/// Reads the serial number of an access point by its MAC address.
+/// @param mac  the address
+/// @param sn   untouched when there is no such row
+ROUTERDB_API void GetDevSNByMac(const char *mac, unsigned long *sn);
+
+/// Reads the serial number of an access point by its IP address.
+/// @param ip  the address, dotted
+/// @param sn  untouched when there is no such row
+ROUTERDB_API void GetDevSNByIp(const char *ip, unsigned long *sn);
+
+/// Sets the upgrade status of an access point and announces it with "/bin/send_event 5 4 mod#%lu >/dev/null 2>&1 &",
+/// with the number 0 when there is no such row.
+/// @param mac     the address
+/// @param status  a text
+ROUTERDB_API void SetDevUpgradeStatus(const char *mac, const char *status);
+
+/// Counts the rows of a table of the main database.
+/// @param table  its name
+/// @return the number of rows; 0 when they cannot be read
+ROUTERDB_API int GetTableCount(const char *table);
+
+/// @return the number of access points; 0 when they cannot be read
+ROUTERDB_API int get_devinfo_count(void);
+
+/// @return the number of access points that are online, as GET_DB_SQL_INT_COUNT_ROUTE gives it
+ROUTERDB_API int GetApDevList_count(void);
+
+/// Deletes the upgrade entries of a firmware.
+/// @param info  its `Dev_SwName` is read; null or an empty name does nothing
+/// @return 0
+ROUTERDB_API int DeleteApDevUpgradeInfo(const ApDevUpgradeInfo *info);
+
+/// Does nothing.
+/// @param list  left as it is
+ROUTERDB_API void GetApDevUpgradeList(ApDevUpgradeList *list);
+
+/// Releases the records of a list and the block that each owns, and sets their pointers to null; the count stays.
+/// @param list  the list
+ROUTERDB_API void FreeApDevUpgradeList(ApDevUpgradeList *list);
+
+/// Runs "select Dev_Sn from DevInfo order by Dev_IPSUM ;" under the lock file and delivers none of its rows.
+/// @param collection  a collection, which starts with its count; the count becomes 0
+/// @return 0; -1 if the lock file or the database cannot be opened or the statement fails, messages as in DbSqlExec
+ROUTERDB_API int DB_GetDevSNCollection(uint32_t *collection);
+
+/// As DB_GetDevSNCollection, with "select WlanGroup_Id from WlanGroupInfo;".
+/// @param collection  as there
+/// @return as there
+ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
+
+/// @}
+/// @name WLAN groups
+///
+/// A group is held in a DevInfo record of which only the members that a group has are filled.
+/// @{
+
+/// Reads one WLAN group.
+/// @param group    cleared, then filled; the SSIDs of networks 2, 3, 4, 6, 7 and 8 come in GB2312
+/// @param groupId  its number
+/// @return 0, also when there is no such group; another number when the database could not be opened
+/// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
+///       standard output. First sleep 55 microseconds. Thread-safe; takes no lock.
+ROUTERDB_API int DB_getwlangroupinfoByindex(DevInfo *group, int groupId);
+
+/// @return the number of WLAN groups; 0 when they cannot be read
+ROUTERDB_API int get_wlangroupinfo_count(void);
+
+/// Compares what an access point has with what its WLAN group wants. Channel, rate, mode, bandwidth, transmit power,
+/// receive option and station limits do not count; WEP and key texts count where the group's security uses them.
+/// @param dev    the access point; with a radio count of 4 its networks 5 to 8 do not count, with one other than 8 its
+///               second radio does not
+/// @param group  the group
+/// @return 0 when they agree, 1 when they differ
+/// @note Different group numbers are written to standard output: "CompareDevInfoWithGroupInfo 6054\n". Thread-safe.
+ROUTERDB_API int CompareDevInfoWithGroupInfo(DevInfo dev, DevInfo group);
+
+/// Gives an access point the settings of its WLAN group.
+/// @param dev    its networks (but their BSSIDs), radio settings that a group has, RADIUS members and group number are
+///               overwritten
+/// @param group  the group
+/// @return no meaning
+/// @note Thread-safe.
+ROUTERDB_API char *SetDevInfoFromWlanGroupInfo(DevInfo *dev, const DevInfo *group);
+
+/// @}
+/// @name Zero-configuration groups
+/// @{
+
+/// Reads the default group, number 1.
+/// @param group  untouched when there are no groups; else cleared, then filled, SSIDs as in DB_getwlangroupinfoByindex
+/// @return 0 when there are no groups; a positive number otherwise, also when the group could not be read
+/// @note Errors: as DB_getwlangroupinfoByindex.
+ROUTERDB_API int DB_getwlanzerocfggroupinfo(DevInfo *group);
+
+/// Reads one group.
+/// @param group    cleared, then filled; SSIDs stay as stored
+/// @param groupId  its number
+/// @return 0, also when there is no such group; -1 when the database cannot be opened
+/// @note Errors: as DB_getwlangroupinfoByindex. Random first delay.
+ROUTERDB_API int DB_getwlanzerocfggroupinfoByindex(DevInfo *group, int groupId);
+
+/// Fills a record with the defaults of a new group. Its name takes the next free number, which is not reserved.
+/// @param group  a cleared record
+/// @return no meaning
+ROUTERDB_API int Initialwlanzerocfggroupinfo(DevInfo *group);
+
+/// Reads a group, or makes a new one.
+/// @param group        cleared, then filled
+/// @param groupIdText  its number; a text that is no number, or 0, asks for a new group
+/// @return as DB_getwlanzerocfggroupinfoByindex, or no meaning for a new group
+ROUTERDB_API int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText);
+
+/// Writes a group.
+/// @param group    the values; SSIDs are written as they stand
+/// @param groupId  its number; 0 inserts a new row under the next free number
+/// @return the number written to, whether or not that succeeded
+/// @note Two callers that save new groups at the same moment may get the same number.
+ROUTERDB_API int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId);
+
+/// As CompareDevInfoWithGroupInfo, except that group numbers do not count, and transmit power and reboot times do.
+/// @param dev    the access point
+/// @param group  the group
+/// @return 0 when they agree, 1 when they differ
+/// @note Thread-safe.
+ROUTERDB_API int CompareDevInfoWithZeroGroupInfo(DevInfo dev, DevInfo group);
+
+/// As SetDevInfoFromWlanGroupInfo, except that the group number stays, and channels, transmit powers and reboot times
+/// are set. A channel above 13 becomes "0" on the first radio; an empty one or 0 becomes "15" on the second.
+/// @param dev    the access point
+/// @param group  the group
+/// @return no meaning
+/// @note Thread-safe.
+ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInfo *group);
+
+/// @}
+
 /// @name DHCP leases
 /// @{
 

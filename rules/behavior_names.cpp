@@ -61,8 +61,7 @@ void Writer::write_group(std::string_view group) {
     if (group.find(class_separator) == std::string_view::npos) {
         return;
     }
-    // The number ends at the separator, which is no digit. NOLINTNEXTLINE(cert-err34-c,
-    // bugprone-suspicious-stringview-data-usage)
+    // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0; the separator, which is no digit, ends it
     const int class_id = std::atoi(group.data());
     take_until(group, class_separator);
     write_class(class_id);

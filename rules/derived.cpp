@@ -24,11 +24,6 @@ void copy_times(const TimeSpan &span, const TimeGroupItem &group, void *record) 
     std::memcpy(member(record, span.end_time), group.end_time, sizeof(group.end_time));
 }
 
-void copy_address(const char (&address)[sizeof(IpGroupItem::startip)], char *field, std::size_t width) {
-    const std::string_view text = field_text(address, width - 1);
-    std::memcpy(field, text.data(), text.size());  // the field is clear behind it
-}
-
 }  // namespace
 
 void derive_time_span(const TimeSpan &span, References &references, void *record) {
@@ -55,8 +50,8 @@ void derive_address_range(const AddressRange &range, References &references, voi
     std::memcpy(member(record, range.group), &group, sizeof(group));
     std::memcpy(member(record, range.group_name), group.name, sizeof(group.name));
     if (range.width != own_range_stays) {
-        copy_address(group.startip, member(record, range.start), range.width);
-        copy_address(group.endip, member(record, range.end), range.width);
+        copy_cut(group.startip, member(record, range.start), range.width);
+        copy_cut(group.endip, member(record, range.end), range.width);
     }
 }
 

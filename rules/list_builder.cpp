@@ -59,10 +59,9 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, cons
 int build_item_list(const RuleTable &table, void *list, const char *sql) {
     std::memset(list, 0, table.list_size());
     Reading reading(profiles[static_cast<unsigned>(table.messages)]);
-    if (!reading.open()) {
-        return -1;
+    if (reading.open()) {
+        put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, sql)));
     }
-    put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, sql)));
     return reading.close().lock_file;
 }
 

@@ -1,0 +1,66 @@
+#include "apinventory/devices.h"
+
+#include <cstdlib>
+
+#include "core/profiles.h"
+#include "core/query.h"
+#include "core/reading.h"
+#include "core/text.h"
+
+namespace routerdb {
+
+namespace {
+
+using namespace profiles::parts;
+
+constexpr ReadProfile one_device{free_logging, prepare_in_log};
+constexpr ReadProfile all_devices{free_printing, prepare_in_log};
+
+}  // namespace
+
+int read_device_by_sn(DevInfo &device, unsigned long sn, Ssids ssids) {
+    device = {};
+    StackText<64> sql;
+    sql.append("select * from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
+    Reading reading(one_device);
+    int count = 0;
+    if (reading.open() && reading.prepare(sql.c_str())) {
+        for (bool more = reading.first_row(); more; more = reading.next_row()) {
+            read_device(reading.row(), ssids, device);
+            ++count;
+        }
+    }
+    return count;
+}
+
+bool read_all_devices(ApDevList &list, Ssids ssids) {
+    if (query(profiles::sql_int, "select  * from DevInfo;") < 0) {
+        return false;
+    }
+    list = {};
+    Reading reading(all_devices);
+    if (!reading.open() || !reading.prepare("select * from DevInfo  order by Dev_IPSUM ;")) {
+        return false;
+    }
+    for (bool more = reading.first_row(); more && list.count < ROUTERDB_DEVICE_LIST_CAPACITY;
+         more = reading.next_row()) {
+        auto *device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
+        if (device == nullptr) {
+            break;
+        }
+        *device = {};
+        read_device(reading.row(), ssids, *device);
+        list.devices[list.count++] = device;
+    }
+    return list.count != 0;
+}
+
+void free_devices(ApDevList &list) {
+    for (int index = 0; index < static_cast<std::int32_t>(list.count) && index < ROUTERDB_DEVICE_LIST_CAPACITY;
+         ++index) {
+        std::free(list.devices[index]);
+        list.devices[index] = nullptr;
+    }
+}
+
+}  // namespace routerdb

@@ -1,0 +1,71 @@
+#include "apinventory/groups.h"
+
+#include "apinventory/record_reader.h"
+#include "apinventory/status.h"
+#include "core/profiles.h"
+#include "core/reading.h"
+#include "core/text.h"
+
+namespace routerdb {
+
+namespace {
+
+using namespace profiles::parts;
+
+constexpr ReadProfile group{free_printing, prepare_on_output};
+constexpr ReadProfile group_with_random_delay{free_printing_random, prepare_on_output};
+
+using ReadRow = void (*)(const Row &row, Ssids ssids, DevInfo &group);
+
+/// Reads all rows, so that the values of the last one stay.
+void read_rows(Reading &reading, const Text &sql, ReadRow read_row, Ssids ssids, DevInfo &record) {
+    if (reading.prepare(sql.c_str())) {
+        for (bool more = reading.first_row(); more; more = reading.next_row()) {
+            read_row(reading.row(), ssids, record);
+        }
+    }
+}
+
+}  // namespace
+
+int read_wlan_group(DevInfo &record, int id) {
+    record = {};
+    StackText<80> sql;
+    sql.append("select * from WlanGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
+    Reading reading(group);
+    if (!reading.open()) {
+        return reading.printed();
+    }
+    read_rows(reading, sql, read_group, Ssids::in_gb2312, record);
+    return reading.close().connection;
+}
+
+int read_default_zero_config(DevInfo &record) {
+    if (count_rows("WlanZeroCfgGroupInfo") == 0) {
+        return 0;
+    }
+    record = {};
+    StackText<80> sql;
+    sql.append("select * from WlanZerocfgGroupInfo where WlanGroup_Id='1';");  // spelled so here; SQLite does not mind
+    Reading reading(group);
+    if (!reading.open()) {
+        return reading.printed();
+    }
+    read_rows(reading, sql, read_zero_config_group, Ssids::in_gb2312, record);
+    return 1;
+}
+
+int read_zero_config(DevInfo &record, int id) {
+    record = {};
+    StackText<80> sql;
+    sql.append("select * from WlanZeroCfgGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
+    Reading reading(group_with_random_delay);
+    if (!reading.open()) {
+        return -1;
+    }
+    // Deliberate: here the SSIDs stay as they are stored, in the default group they do not.
+    read_rows(reading, sql, read_zero_config_group, Ssids::as_stored, record);
+    return 0;
+}
+
+}  // namespace routerdb

@@ -1,0 +1,36 @@
+#include "apinventory/numbers.h"
+
+#include <arpa/inet.h>
+
+#include <cstdlib>
+
+namespace routerdb {
+
+namespace {
+
+/// A field's text with a terminator, cut at the widest field that holds a number.
+struct Terminated {
+    explicit Terminated(std::string_view view) { view.copy(text, sizeof(text) - 1); }
+
+    char text[32] = {};
+};
+
+}  // namespace
+
+int number_in(std::string_view text) {
+    return std::atoi(Terminated(text).text);  // NOLINT(cert-err34-c): a text that is no number counts as 0
+}
+
+int wlans_in_use(const DevInfo &device) {
+    return number_in(field_text(device.Dev_Wlan_Radio_Num));
+}
+
+unsigned long address_in_network_order(std::string_view address) {
+    return inet_addr(Terminated(address).text);
+}
+
+unsigned long address_in_host_order(std::string_view address) {
+    return inet_network(Terminated(address).text);
+}
+
+}  // namespace routerdb

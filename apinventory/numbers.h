@@ -1,0 +1,24 @@
+// Numbers in the text fields of a record.
+#pragma once
+
+#include <string_view>
+
+#include "core/text.h"
+#include "routerdb.h"
+
+namespace routerdb {
+
+/// The number that a text starts with; 0 for one that is no number.
+int number_in(std::string_view text);
+
+/// Networks that an access point has in use, by its own count.
+int wlans_in_use(const DevInfo &device);
+
+/// An IPv4 address as a number in network order, all bits set for a text that is no address: the serial number of a
+/// new access point.
+unsigned long address_in_network_order(std::string_view address);
+
+/// The same in host order: what lists are ordered by.
+unsigned long address_in_host_order(std::string_view address);
+
+}  // namespace routerdb

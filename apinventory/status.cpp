@@ -1,0 +1,100 @@
+#include "apinventory/status.h"
+
+#include <cstdlib>
+#include <cstring>
+
+#include "apinventory/notify.h"
+#include "core/execute.h"
+#include "core/profiles.h"
+#include "core/query.h"
+#include "core/text.h"
+
+namespace routerdb {
+
+namespace {
+
+using Sql = StackText<200>;
+
+const char *column_of(Key key) {
+    return key == Key::mac ? "Dev_MAC" : "Dev_Ipaddress";
+}
+
+/// The tests of the results are the callers': these functions report nothing.
+void run(const Text &sql) {
+    if (sql.complete()) {
+        [[maybe_unused]] const int result = execute(profiles::exec_char, sql.c_str());
+    }
+}
+
+void read_text(const Text &sql, char *out) {
+    Destination destination;
+    destination.text = out;
+    if (sql.complete()) {
+        [[maybe_unused]] const int result = query(profiles::exec_char_char, sql.c_str(), destination);
+    }
+}
+
+}  // namespace
+
+void set_status(Key key, const char *value, const char *status) {
+    Sql sql;
+    sql.append("update DevInfo set Dev_Status=").append_quoted(status);
+    if (std::atoi(status) == 0) {  // NOLINT(cert-err34-c): a text that is no number counts as offline
+        sql.append(",Dev_Wlan_Sta_Num='0',Dev_Wlan_Sta_Num_sec='0'");
+    }
+    sql.append("  where ").append(column_of(key)).append("=").append_quoted(value).append(";");
+    run(sql);
+}
+
+void read_status(const char *column, const char *mac, char *out) {
+    std::strcpy(out, "0");
+    Sql sql;
+    sql.append("select ").append(column).append(" from  DevInfo  where Dev_MAC=").append_quoted(mac).append(";");
+    read_text(sql, out);
+}
+
+void read_mac(unsigned long sn, char *out) {
+    Sql sql;
+    sql.append("select Dev_MAC from  DevInfo where Dev_Sn=").append_quoted(sn).append(";");
+    read_text(sql, out);
+}
+
+void read_sn(Key key, const char *value, unsigned long &sn) {
+    Sql sql;
+    sql.append("select Dev_Sn from  DevInfo where ")
+        .append(column_of(key))
+        .append("=")
+        .append_quoted(value)
+        .append(";");
+    Destination destination;
+    destination.number = &sn;
+    if (sql.complete()) {
+        [[maybe_unused]] const int result = query(profiles::exec_char_long, sql.c_str(), destination);
+    }
+}
+
+void set_upgrade_status(const char *mac, const char *status) {
+    Sql sql;
+    sql.append("update DevInfo set Dev_Upgrade_Status=").append_quoted(status);
+    sql.append("  where Dev_MAC=").append_quoted(mac).append(";");
+    run(sql);
+    unsigned long sn = 0;  // announced for an unknown address
+    read_sn(Key::mac, mac, sn);
+    notify(Event::modified, sn);
+}
+
+int count_rows(const char *table) {
+    Sql sql;
+    sql.append("select *  from ").append(table).append(";");
+    unsigned int count = 0;
+    Destination destination;
+    destination.counter = &count;
+    const bool counted = sql.complete() && query(profiles::exec_char_int, sql.c_str(), destination) == 0;
+    return counted ? static_cast<int>(count) : 0;
+}
+
+int count_online() {
+    return query(profiles::sql_int_count_route, "select count(*) from DevInfo  where Dev_Status='1';");
+}
+
+}  // namespace routerdb

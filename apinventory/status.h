@@ -1,0 +1,32 @@
+// Small statements on access points: status, identity, counts.
+#pragma once
+
+#include <cstdint>
+
+namespace routerdb {
+
+/// The column that tells an access point.
+enum class Key : std::uint8_t { mac, ip };
+
+/// Sets the status; going offline clears the station counts.
+void set_status(Key key, const char *value, const char *status);
+
+/// Reads a column of the access point with a MAC address; "0" without one.
+void read_status(const char *column, const char *mac, char *out);
+
+/// Reads the MAC address of a serial number; untouched without a row.
+void read_mac(unsigned long sn, char *out);
+
+/// Reads the serial number of an access point; untouched without a row.
+void read_sn(Key key, const char *value, unsigned long &sn);
+
+/// Sets the upgrade status and announces the change.
+void set_upgrade_status(const char *mac, const char *status);
+
+/// Rows of a table of the main database; 0 when they cannot be read.
+int count_rows(const char *table);
+
+/// Access points that are online.
+int count_online();
+
+}  // namespace routerdb

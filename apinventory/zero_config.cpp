@@ -1,0 +1,153 @@
+#include "apinventory/zero_config.h"
+
+#include <cstdio>
+
+#include "apinventory/device_fields.h"
+#include "apinventory/fragments.h"
+#include "apinventory/zero_config_defaults.h"
+#include "core/execute.h"
+#include "core/profiles.h"
+#include "core/query.h"
+
+namespace routerdb {
+
+namespace {
+
+constexpr bool as_given = false;
+
+// clang-format off
+constexpr Fragment saved_name = DEVICE_AS(blank, wlan_group_name, "Name", comma);
+
+constexpr Fragment saved_wlan[] = {
+    WLAN(blank, Enable, comma),
+    WLAN(blank, Hide_Ssid, comma),
+    WLAN(blank, Ssid, comma),
+    WLAN(blank, VlanId, comma),
+    WLAN(blank, Security, comma),
+    WLAN(blank, Authmode, comma),
+    WLAN(blank, Securitycipher, comma),
+    WLAN(nothing, Wep_Type, comma),
+    WLAN(nothing, Wep_Value, comma),
+    WLAN(nothing, Psk_Type, comma),
+    WLAN(nothing, Psk_Value, comma),
+};
+
+// Between the rate and the mode of the first radio, the RADIUS server is written.
+constexpr Fragment saved_radio_head[] = {
+    RADIO(blank, Channel, comma),
+    RADIO(blank, Isolate, comma),
+    RADIO(blank, Rate, comma),
+};
+constexpr Fragment saved_radius[] = {
+    DEVICE_AS(blank, radius_server_ip, "Wlan_Radius_ServerIP", comma),
+    DEVICE_AS(blank, radius_server_port, "Wlan_Radius_ServerPort", comma),
+    DEVICE_AS(blank, radius_shared_key, "Wlan_Radius_Sharekey", comma),
+};
+constexpr Fragment saved_radio[] = {
+    RADIO(blank, Mode, comma),
+    RADIO(blank, Bw, comma),
+    RADIO(blank, Ampdu, comma),
+    RADIO_AS(blank, Beacon_Inertval, "Beacon_Interval", comma),
+    RADIO(blank, Rts, comma),
+    RADIO(blank, Txpower, comma),
+    RADIO(blank, Cts, comma),
+    RADIO(blank, ShortGI, comma_blank),
+    RADIO_AS(blank, RxOption, "RevOption", comma_blank),
+    RADIO(blank, MaxStaNum, comma_blank),
+};
+constexpr Fragment saved_threshold = RADIO(blank, CoverageThreshold, comma_blank);
+
+constexpr Fragment saved_reboot[] = {
+    DEVICE(blank, Dev_RebootTime_Enable, comma_blank),
+    DEVICE(blank, Dev_RebootTime, comma_blank),
+    DEVICE_AS(blank, Dev_Wlan_CoverageThreshold_sec, "Wlan_CoverageThreshold_sec", blank),
+};
+// clang-format on
+
+template <std::size_t count>
+void fill(const Default (&defaults)[count], void *base) {
+    for (const Default &value : defaults) {
+        copy_cut(value.text, static_cast<char *>(base) + value.member.offset, value.member.width);
+    }
+}
+
+void fill_wlan(unsigned number, DevWlanEntry &wlan) {
+    constexpr unsigned wlans_of_a_radio = ROUTERDB_WLANS / 2;
+    fill(default_wlan, &wlan);
+    copy_cut(leads_its_radio(number) ? "1" : "0", wlan.Enable, sizeof(wlan.Enable));
+    const bool second = number >= wlans_of_a_radio;
+    std::snprintf(wlan.Ssid, sizeof(wlan.Ssid), second ? "WLAN_2_%u" : "WLAN%u", number % wlans_of_a_radio);
+}
+
+/// The first column of the first row, read under the lock file.
+int first_number(const char *sql) {
+    return query(profiles::sql_int_first_number, sql);
+}
+
+/// The number in the first row's first column, which is what counts as "there are groups".
+int first_group() {
+    return first_number("select * from WlanZeroCfgGroupInfo;");
+}
+
+int next_group(int first) {
+    return first == 0 ? 1 : first_number("select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;") + 1;
+}
+
+void run(const Text &sql) {
+    if (sql.complete()) {
+        [[maybe_unused]] const int result = execute(profiles::exec_char, sql.c_str());  // nobody is told
+    }
+}
+
+void insert_group(const DevInfo &group, int id) {
+    StackText<256> sql;
+    sql.append("insert into WlanZeroCfgGroupInfo (WlanGroup_Id,WlanGroup_Name) values(").append_quoted(long{id});
+    sql.append(",").append_quoted(field_text(group.wlan_group_name)).append(") ;");
+    run(sql);
+}
+
+void append_update(Text &sql, const DevInfo &group, int id) {
+    const Scope whole = scope_of(group, "WlanGroup_", as_given);
+    const Scope first = scope_of_radio(group, "WlanGroup_Wlan_", false, as_given);
+    const Scope second = scope_of_radio(group, "WlanGroup_Wlan_", true, as_given);
+    sql.append("update WlanZeroCfgGroupInfo set ");
+    append_fragment(sql, saved_name, whole);
+    for (unsigned number = 0; number < ROUTERDB_WLANS; ++number) {
+        append_fragments(sql, saved_wlan, scope_of_wlan(group, "WlanGroup_Wlan", number, as_given));
+    }
+    append_fragments(sql, saved_radio_head, first);
+    append_fragments(sql, saved_radius, whole);
+    append_fragments(sql, saved_radio, first);
+    append_fragment(sql, saved_threshold, first);
+    append_fragments(sql, saved_radio_head, second);
+    append_fragments(sql, saved_radio, second);
+    append_fragments(sql, saved_reboot, whole);
+    sql.append("  where WlanGroup_Id=").append_quoted(long{id}).append(" ");
+}
+
+}  // namespace
+
+void fill_with_defaults(DevInfo &group) {
+    const int number = next_group(first_group());
+    std::snprintf(group.wlan_group_name, sizeof(group.wlan_group_name), "ZeroCfgGROUP_NAME%d", number);
+    fill(default_device, &group);
+    for (unsigned wlan = 0; wlan < ROUTERDB_WLANS; ++wlan) {
+        fill_wlan(wlan, group.wlan[wlan]);
+    }
+    fill(default_radio, &group);
+    fill(default_radio, reinterpret_cast<char *>(&group) + second_radio);
+}
+
+int save_zero_config(const DevInfo &group, int id) {
+    const int first = first_group();  // asked also when it is not needed
+    if (id == 0) {
+        id = next_group(first);
+        insert_group(group, id);
+    }
+    StackText<16384> sql;
+    append_update(sql, group, id);
+    run(sql);
+    return id;
+}
+
+}  // namespace routerdb
