@@ -1,15 +1,13 @@
 // The exported functions of the inventory of access points and their groups.
 #include "apinventory/apply.h"
+#include "apinventory/collections.h"
 #include "apinventory/compare.h"
 #include "apinventory/devices.h"
 #include "apinventory/groups.h"
-#include "apinventory/numbers.h"
 #include "apinventory/registration.h"
 #include "apinventory/status.h"
 #include "apinventory/upgrade.h"
 #include "apinventory/zero_config.h"
-#include "core/execute.h"
-#include "core/profiles.h"
 #include "core/text.h"
 #include "routerdb.h"
 
@@ -19,15 +17,6 @@ namespace {
 
 Ssids ssids(int convert) {
     return convert == 1 ? Ssids::in_gb2312 : Ssids::as_stored;
-}
-
-/// Deliberate: the rows are not delivered, and the collection is empty.
-int collect(uint32_t *collection, const char *sql) {
-    const int result = execute(profiles::collection, sql);
-    if (result == 0) {
-        *collection = 0;
-    }
-    return result;
 }
 
 }  // namespace
@@ -121,11 +110,11 @@ void FreeApDevUpgradeList(ApDevUpgradeList *list) {
 }
 
 int DB_GetDevSNCollection(uint32_t *collection) {
-    return collect(collection, "select Dev_Sn from DevInfo order by Dev_IPSUM ;");
+    return collect_nothing(*collection, "select Dev_Sn from DevInfo order by Dev_IPSUM ;");
 }
 
 int DB_GetWlanGroupIDCollection(uint32_t *collection) {
-    return collect(collection, "select WlanGroup_Id from WlanGroupInfo;");
+    return collect_nothing(*collection, "select WlanGroup_Id from WlanGroupInfo;");
 }
 
 int DB_getwlangroupinfoByindex(DevInfo *group, int groupId) {
@@ -159,13 +148,7 @@ int Initialwlanzerocfggroupinfo(DevInfo *group) {
 }
 
 int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText) {
-    const int id = number_in(or_empty(groupIdText));
-    if (id != 0) {
-        return read_zero_config(*group, id);
-    }
-    *group = {};
-    fill_with_defaults(*group);
-    return 0;
+    return read_or_start_zero_config(*group, or_empty(groupIdText));
 }
 
 int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId) {

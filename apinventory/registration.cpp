@@ -31,12 +31,12 @@ RowCount count_rows(const Text &sql) {
     RowCount found{false, 0};
     Destination destination;
     destination.counter = &found.count;
-    found.succeeded = sql.complete() && query(profiles::exec_char_int, sql.c_str(), destination) == 0;
+    found.succeeded = query(profiles::exec_char_int, sql, destination) == 0;
     return found;
 }
 
 int run(const Text &sql) {
-    return sql.complete() ? execute(profiles::exec_char, sql.c_str()) : -1;
+    return execute(profiles::exec_char, sql);
 }
 
 void append_mac_lookup(Text &sql, const DevInfo &device) {
@@ -143,7 +143,7 @@ int find_or_make_way(const DevInfo &device, unsigned long &sn) {
 }
 
 int register_device(const DevInfo &device) {
-    StackText<1> sql;
+    StackText<1> sql;  // all of it comes from the heap, before anything is done
     if (!take_memory(sql)) {
         return -1;
     }

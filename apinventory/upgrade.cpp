@@ -14,7 +14,7 @@ void delete_upgrade(const ApDevUpgradeInfo *info) {
     }
     StackText<300> sql;
     sql.append("delete from DevUpgradeInfo where Dev_SwName=").append_quoted(field_text(info->Dev_SwName)).append(";");
-    [[maybe_unused]] const int result = execute(profiles::exec_char, sql.c_str());
+    [[maybe_unused]] const int result = execute(profiles::exec_char, sql);
 }
 
 void free_upgrades(ApDevUpgradeList &list) {

@@ -4,6 +4,8 @@
 
 #include "apinventory/device_fields.h"
 #include "apinventory/fragments.h"
+#include "apinventory/groups.h"
+#include "apinventory/numbers.h"
 #include "apinventory/zero_config_defaults.h"
 #include "core/execute.h"
 #include "core/profiles.h"
@@ -94,9 +96,7 @@ int next_group(int first) {
 }
 
 void run(const Text &sql) {
-    if (sql.complete()) {
-        [[maybe_unused]] const int result = execute(profiles::exec_char, sql.c_str());  // nobody is told
-    }
+    [[maybe_unused]] const int result = execute(profiles::exec_char, sql);  // nobody is told
 }
 
 void insert_group(const DevInfo &group, int id) {
@@ -136,6 +136,16 @@ void fill_with_defaults(DevInfo &group) {
     }
     fill(default_radio, &group);
     fill(default_radio, reinterpret_cast<char *>(&group) + second_radio);
+}
+
+int read_or_start_zero_config(DevInfo &group, const char *id_text) {
+    const int id = number_in(id_text);
+    if (id != 0) {
+        return read_zero_config(group, id);
+    }
+    group = {};
+    fill_with_defaults(group);
+    return 0;
 }
 
 int save_zero_config(const DevInfo &group, int id) {

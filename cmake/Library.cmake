@@ -4,6 +4,7 @@
 add_library(
     routerdb_objects OBJECT
     apinventory/apply.cpp
+    apinventory/collections.cpp
     apinventory/compare.cpp
     apinventory/devices.cpp
     apinventory/doors.cpp

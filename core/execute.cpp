@@ -63,6 +63,10 @@ int execute(const ExecuteProfile &profile, const char *sql) {
     return execute(access, sql);
 }
 
+int execute(const ExecuteProfile &profile, const Text &sql) {
+    return sql.complete() ? execute(profile, sql.c_str()) : -1;
+}
+
 int execute_with_copy(const char *sql) {
     int result = -1;
     {

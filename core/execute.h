@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/access.h"
+#include "core/text.h"
 
 namespace routerdb {
 
@@ -20,6 +21,10 @@ struct ExecuteProfile {
 /// Opens as the profile says, executes, closes.
 /// @return 0 or -1
 [[nodiscard]] int execute(const ExecuteProfile &profile, const char *sql);
+
+/// The same with a text that was built. One that memory ran out for is not executed.
+/// @return 0 or -1
+[[nodiscard]] int execute(const ExecuteProfile &profile, const Text &sql);
 
 /// Executes SQL under the lock file and leaves the background copy of the database behind.
 /// @return 0 or -1

@@ -85,6 +85,10 @@ int query(const QueryProfile &profile, const char *sql, Destination destination)
     return query(profile, access.db(), access.backoff(), sql, destination);
 }
 
+int query(const QueryProfile &profile, const Text &sql, Destination destination) {
+    return sql.complete() ? query(profile, sql.c_str(), destination) : -1;
+}
+
 int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql, Destination destination) {
     Statement statement;
     const int code = statement.prepare(db, sql, backoff);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/access.h"
+#include "core/text.h"
 
 namespace routerdb {
 
@@ -38,6 +39,10 @@ union Destination {
 /// @return the number, for rows that give one; 0 for rows that go to the destination; the profile's result when the
 ///         text cannot be prepared; -1 when the database cannot be opened
 [[nodiscard]] int query(const QueryProfile &profile, const char *sql, Destination destination = {nullptr});
+
+/// The same with a text that was built. One that memory ran out for is not run.
+/// @return as above; -1 for a text that is not run
+[[nodiscard]] int query(const QueryProfile &profile, const Text &sql, Destination destination);
 
 /// Runs a query on an open connection.
 /// @return as above
