@@ -19,6 +19,9 @@ int main(void) {
     forward_ports();
     share_bandwidth();
     limit_behaviour();
+    register_access_points();
+    follow_a_group();
+    go_offline();
     lose_and_restore();
     printf("\nAll steps did what they say.\n");
     return EXIT_SUCCESS;

@@ -5,16 +5,19 @@
 #include <routerdb.h>
 #include <stddef.h>
 
-void show_devices(void);        /* devices.c */
-void refuse_a_clash(void);      /* devices.c */
-void add_time_groups(void);     /* url_filters.c */
-void add_url_filters(void);     /* url_filters.c */
-void change_a_time_group(void); /* url_filters.c */
-void delete_two_filters(void);  /* url_filters.c */
-void forward_ports(void);       /* traffic.c */
-void share_bandwidth(void);     /* traffic.c */
-void limit_behaviour(void);     /* traffic.c */
-void lose_and_restore(void);    /* recovery.c */
+void show_devices(void);           /* devices.c */
+void refuse_a_clash(void);         /* devices.c */
+void add_time_groups(void);        /* url_filters.c */
+void add_url_filters(void);        /* url_filters.c */
+void change_a_time_group(void);    /* url_filters.c */
+void delete_two_filters(void);     /* url_filters.c */
+void forward_ports(void);          /* traffic.c */
+void share_bandwidth(void);        /* traffic.c */
+void limit_behaviour(void);        /* traffic.c */
+void register_access_points(void); /* access_points.c */
+void follow_a_group(void);         /* access_points.c */
+void go_offline(void);             /* access_points.c */
+void lose_and_restore(void);       /* recovery.c */
 
 /* Prints the heading of a step and what it does. */
 __attribute__((format(printf, 2, 3))) void step(const char *title, const char *what, ...);
