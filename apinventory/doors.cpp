@@ -4,10 +4,13 @@
 #include "apinventory/compare.h"
 #include "apinventory/devices.h"
 #include "apinventory/groups.h"
+#include "apinventory/list_json.h"
 #include "apinventory/registration.h"
+#include "apinventory/station_list.h"
 #include "apinventory/status.h"
 #include "apinventory/upgrade.h"
 #include "apinventory/zero_config.h"
+#include "apinventory/zero_config_json.h"
 #include "core/text.h"
 #include "routerdb.h"
 
@@ -162,4 +165,18 @@ int CompareDevInfoWithZeroGroupInfo(DevInfo dev, DevInfo group) {
 char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInfo *group) {
     apply_zero_config(*dev, *group);
     return dev->Dev_Wlan_Txpower_sec;
+}
+
+int GetApDevList_cgi(int page, int mode, int groupId, int flag, const char *ip, const char *mac, int pageSize) {
+    print_page(make_page_request(page, mode, groupId, flag, ip, mac, pageSize));
+    return 0;
+}
+
+int GetWlanZeroCfgGroupList() {
+    return print_zero_config_groups();
+}
+
+int GetApDevStaList(const char *devIp) {
+    print_stations(or_empty(devIp));
+    return 0;
 }

@@ -86,11 +86,6 @@ int first_number(const char *sql) {
     return query(profiles::sql_int_first_number, sql);
 }
 
-/// The number in the first row's first column, which is what counts as "there are groups".
-int first_group() {
-    return first_number("select * from WlanZeroCfgGroupInfo;");
-}
-
 int next_group(int first) {
     return first == 0 ? 1 : first_number("select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;") + 1;
 }
@@ -127,8 +122,12 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 
 }  // namespace
 
+int first_group_number() {
+    return first_number("select * from WlanZeroCfgGroupInfo;");
+}
+
 void fill_with_defaults(DevInfo &group) {
-    const int number = next_group(first_group());
+    const int number = next_group(first_group_number());
     std::snprintf(group.wlan_group_name, sizeof(group.wlan_group_name), "ZeroCfgGROUP_NAME%d", number);
     fill(default_device, &group);
     for (unsigned wlan = 0; wlan < ROUTERDB_WLANS; ++wlan) {
@@ -149,7 +148,7 @@ int read_or_start_zero_config(DevInfo &group, const char *id_text) {
 }
 
 int save_zero_config(const DevInfo &group, int id) {
-    const int first = first_group();  // asked also when it is not needed
+    const int first = first_group_number();  // asked also when it is not needed
     if (id == 0) {
         id = next_group(first);
         insert_group(group, id);

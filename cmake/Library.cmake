@@ -10,14 +10,23 @@ add_library(
     apinventory/doors.cpp
     apinventory/fragments.cpp
     apinventory/groups.cpp
+    apinventory/list_json.cpp
     apinventory/notify.cpp
     apinventory/numbers.cpp
+    apinventory/paging.cpp
+    apinventory/record_layout.cpp
     apinventory/record_reader.cpp
     apinventory/registration.cpp
+    apinventory/station_list.cpp
     apinventory/status.cpp
     apinventory/update.cpp
     apinventory/upgrade.cpp
     apinventory/zero_config.cpp
+    apinventory/zero_config_json.cpp
+    appcatalog/doors.cpp
+    appcatalog/feature_list.cpp
+    appcatalog/json_lists.cpp
+    appcatalog/names.cpp
     core/access.cpp
     core/backoff.cpp
     core/connection.cpp
@@ -25,6 +34,7 @@ add_library(
     core/encoding.cpp
     core/execute.cpp
     core/id_list.cpp
+    core/json_list.cpp
     core/lock_file.cpp
     core/maintenance.cpp
     core/query.cpp

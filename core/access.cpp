@@ -30,7 +30,9 @@ bool Access::take_guard() {
     }
     if (profile_.guard != Guard::none && !lock_file_.open()) {
         printed_ = report({profile_.lock_failure, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
-        return false;
+        if (profile_.guard != Guard::lock_file_if_there) {
+            return false;
+        }
     }
     if (profile_.draw == Draw::after_opening_lock_file) {
         draw();
@@ -42,11 +44,11 @@ bool Access::take_guard() {
 }
 
 bool Access::open_database() {
-    const int code = connection_.open(profile_.database, backoff_);
-    if (code == SQLITE_OK) {
+    code_ = connection_.open(profile_.database, backoff_);
+    if (code_ == SQLITE_OK) {
         return true;
     }
-    printed_ = report(profile_.open_failure, {path_of(profile_.database), code, sqlite3_errmsg(connection_.handle())});
+    printed_ = report(profile_.open_failure, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.
     }

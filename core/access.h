@@ -11,7 +11,7 @@
 
 namespace routerdb {
 
-enum class Guard : std::uint8_t { none, lock_file, mutex_and_lock_file };
+enum class Guard : std::uint8_t { none, lock_file_if_there, lock_file, mutex_and_lock_file };
 
 /// When the first delay is drawn: callers that put their own rand() or gettimeofday() in front see the difference.
 enum class Draw : std::uint8_t { before_opening_lock_file, after_opening_lock_file };
@@ -61,6 +61,9 @@ public:
     /// What printing the message of a failed open() returned.
     int printed() const { return printed_; }
 
+    /// The result code of SQLite for the last open().
+    int code() const { return code_; }
+
     sqlite3 *db() const { return connection_.handle(); }
     Backoff &backoff() { return backoff_; }
 
@@ -70,6 +73,7 @@ private:
 
     const AccessProfile &profile_;
     int printed_ = 0;
+    int code_ = SQLITE_OK;
     Backoff backoff_;
     MutexHold mutex_;  // members are released from the last to the first
     LockFile lock_file_;

@@ -83,7 +83,7 @@ int execute_with_copy(const char *sql) {
 }
 
 void copy_database_onto_itself() {
-    run_in_shell("cp -f %s %s >/dev/null 2>&1 &", paths::main_database, paths::main_database);
+    run_in_shell(command_size, "cp -f %s %s >/dev/null 2>&1 &", paths::main_database, paths::main_database);
 }
 
 }  // namespace routerdb

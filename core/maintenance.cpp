@@ -36,14 +36,14 @@ int maintain(Commands commands) {
 }
 
 void copy(const char *from, const char *to) {
-    run_in_shell("cp -f %s %s", from, to);
+    run_in_shell(command_size, "cp -f %s %s", from, to);
 }
 
 }  // namespace
 
 int backup_main_database() {
     return maintain([] {
-        run_in_shell("mkdir -p %s", paths::backup_directory);
+        run_in_shell(command_size, "mkdir -p %s", paths::backup_directory);
         copy(paths::main_database, paths::backup_database);
     });
 }
@@ -54,7 +54,8 @@ int restore_main_database() {
 
 int reset_main_database() {
     return maintain([] {
-        run_in_shell("rm -f %s; cp -f %s %s", paths::main_database, paths::factory_database, paths::main_database);
+        run_in_shell(command_size, "rm -f %s; cp -f %s %s", paths::main_database, paths::factory_database,
+                     paths::main_database);
         copy(paths::factory_database, paths::main_database);  // Deliberate: the factory copy is made twice.
     });
 }

@@ -24,6 +24,9 @@ public:
     /// What printing the message of a failed open() returned.
     int printed() const { return access_.printed(); }
 
+    /// The result code of SQLite for open().
+    int code() const { return access_.code(); }
+
     /// @return false after the profile's message
     [[nodiscard]] bool prepare(const char *sql);
 

@@ -6,13 +6,13 @@
 
 namespace routerdb {
 
-void run_in_shell(const char *format, ...) {
-    char command[256];
+void run_in_shell(std::size_t size, const char *format, ...) {
+    char command[command_size];
     va_list arguments;
     va_start(arguments, format);
-    const int length = std::vsnprintf(command, sizeof(command), format, arguments);
+    const int length = std::vsnprintf(command, size, format, arguments);
     va_end(arguments);
-    if (length < 0 || static_cast<unsigned>(length) >= sizeof(command)) {
+    if (length < 0 || static_cast<std::size_t>(length) >= size) {
         return;
     }
     // NOLINTNEXTLINE(cert-env33-c): the system's programs are reached through the shell

@@ -1504,6 +1504,108 @@ ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInf
 
 /// @}
 
+/// @name Web interface: lists as JSON
+///
+/// Each prints one JSON object on standard output, through the C library's stream and without a line break behind it
+/// where none is mentioned. Every element but the last ends with a comma: the last one has all its values empty and is
+/// not counted. Values are printed as stored, nothing is escaped. When the database fails half way the object stays
+/// unfinished. Thread-safe as far as the stream is.
+/// @{
+
+/// The feature texts of one application class.
+typedef struct AppFeatureList {
+    uint32_t count;
+    char features[128][225];  ///< more rows than that run past the record: the caller's buffer has to hold them
+} AppFeatureList;
+
+/// Room that the joined names of a class take, in bytes.
+#define ROUTERDB_JOINED_NAMES 4096
+
+/// Joins the names of the applications of a class, each with a "/" behind it.
+/// @param classId  number of the class
+/// @param out      ROUTERDB_JOINED_NAMES bytes; what does not fit whole is left out with all that follows. Untouched
+/// when
+///                 the query cannot be prepared
+/// @param db       an open connection to the application catalogue
+/// @note Errors: "Webserver Error: %s" on standard output. First sleep 55 microseconds.
+ROUTERDB_API void GetAppinfosByClassId(int classId, char *out, sqlite3 *db);
+
+/// As GetAppinfosByClassId, with the English names.
+/// @param classId  number of the class
+/// @param out      as there
+/// @param db       as there
+ROUTERDB_API void GetAppinfosEnByClassId(int classId, char *out, sqlite3 *db);
+
+/// As GetAppinfosByClassId, with the feature texts.
+/// @param classId  number of the class
+/// @param out      as there
+/// @param db       as there
+ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
+
+/// Prints all application classes, each with its applications.
+/// @return no meaning
+/// @note Errors: those of GET_DB_SQLITE_SQL_INT, and "Webserver Error: %s" on standard output. Closes descriptor 0;
+/// when
+///       the catalogue cannot be opened, the descriptor whose number is SQLite's result code instead.
+ROUTERDB_API int GetAppClassItemList(void);
+
+/// Prints one application class. The count is that of all classes.
+/// @param id  its number, put into the statement as given
+/// @return no meaning
+/// @note Errors and descriptors as GetAppClassItemList.
+ROUTERDB_API int GetAppClassItem(const char *id);
+
+/// Prints one application.
+/// @param id  its number, put into the statement as given
+/// @return no meaning
+/// @note Errors and descriptors as GetAppClassItemList.
+ROUTERDB_API int GetAppInfoItem(const char *id);
+
+/// Prints the applications of a class.
+/// @param classId  number of the class, put into the statement and into each element as given
+/// @return no meaning
+/// @note Errors and descriptors as GetAppClassItemList.
+ROUTERDB_API int GetAppInfoItemListByClassid(const char *classId);
+
+/// Reads the feature texts of a class from the main database, under the lock file if there is one.
+/// @param list     cleared, then filled
+/// @param classId  number of the class
+/// @return no meaning
+/// @note Errors: "cannot open %s!\n" and "Error: %s" on standard output. Random first delay.
+ROUTERDB_API int GetAppItemListByClassId(AppFeatureList *list, int classId);
+
+/// Prints one page of the access points, with totals.
+/// @param page      number of the page, from 1
+/// @param mode      0 all with an address, 1 the online ones of them, 2 the offline ones, 3 search by address and MAC
+/// @param groupId   above 0: those of this WLAN group, whatever the mode
+/// @param flag      1: those not in that group, 14 a page; 2: 14 a page
+/// @param ip        part of an address to search for; may be null; put into the statement as given, cut at 254 bytes
+/// @param mac       part of a MAC address to search for; as `ip`
+/// @param pageSize  rows of a page; below 1 it is 17
+/// @return no meaning
+/// @note The page count is 0 when everything fits one page. Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot
+///       prepare sql cmdline, Error: %s\n" on standard error. Random first delay; takes no lock.
+ROUTERDB_API int GetApDevList_cgi(int page, int mode, int groupId, int flag, const char *ip, const char *mac,
+                                  int pageSize);
+
+/// Prints a summary of all zero-configuration groups, keys and passwords included.
+/// @return no meaning
+/// @note Prints the list as empty when the first group has the number 0. Errors: "cannot open %s, ErrorCode: %d!\n" on
+///       standard error, "cannot prepare sql cmdline, Error: %s\n" on standard output. It takes the lock file while it
+///       looks at the first group.
+ROUTERDB_API int GetWlanZeroCfgGroupList(void);
+
+/// Asks an access point for its stations with the program capwapmanage and prints them, with a line break after the
+/// first piece and at the end. Takes a tenth of a second.
+/// @param devIp  its address, put into shell commands as given: callers check it
+/// @return no meaning
+/// @note Leaves "/var/stalist_<n>", n from 1 to 10 at random, and the trace "/tmp/sta_log". Two calls at the same
+/// moment
+///       may meet in one file.
+ROUTERDB_API int GetApDevStaList(const char *devIp);
+
+/// @}
+
 /// @name DHCP leases
 /// @{
 

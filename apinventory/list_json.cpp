@@ -1,0 +1,172 @@
+#include "apinventory/list_json.h"
+
+#include "apinventory/device_fields.h"
+#include "apinventory/numbers.h"
+#include "apinventory/status.h"
+#include "core/json_list.h"
+#include "core/profiles.h"
+#include "core/query.h"
+#include "core/reading.h"
+
+namespace routerdb {
+
+namespace {
+
+using profiles::parts::free_printing_random;
+
+constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
+
+enum class From : std::uint8_t { text, serial_number, stations, no_group_name };
+
+/// A key of an element. Only the columns that are printed are read.
+struct Key {
+    char name[22];
+    From from;
+    std::uint8_t column;
+    std::uint8_t width;  // of the record's member, which bounds what is printed
+    bool in_closing;     // Deliberate: the closing element has fewer keys.
+};
+
+constexpr std::uint8_t wlan_column(unsigned number, std::uint8_t column) {
+    return static_cast<std::uint8_t>(device_layout.first_wlan + device_layout.wlan_columns * number + column);
+}
+
+// clang-format off
+constexpr Key keys[] = {
+    {"m_sn", From::serial_number, 0, 0, true},
+    {"m_group_name", From::text, 1, 200, true},
+    {"m_dev_name", From::text, 2, 200, true},
+    {"m_dev_ip", From::text, 3, 20, true},
+    {"m_dev_mac", From::text, 8, 20, true},
+    {"m_onlinetime", From::text, 9, 50, true},
+    {"m_sw_ver", From::text, 11, 200, true},
+    {"m_sw_name", From::text, 10, 200, true},
+    {"m_channel", From::text, 112, 5, true},
+    {"m_current_channel", From::text, 113, 5, false},
+    {"m_stanum", From::stations, 0, 0, true},
+    {"m_dev_status", From::text, 153, 5, true},
+    {"m_dev_upgrade_status", From::text, 159, 25, true},
+    {"m_wlan_group_name", From::no_group_name, 0, 0, true},
+    {"m_wlan_radio_num", From::text, 15, 5, true},
+    {"m_channel_sec", From::text, 132, 5, true},
+    {"m_current_channel_sec", From::text, 133, 5, false},
+    {"m_TimeRebootEnable", From::text, 157, 5, true},
+    {"m_RebootTime", From::text, 158, 50, true},
+    {"m_CurrentTime", From::text, 156, 50, true},
+    {"m_dev_modelname", From::text, 13, 100, true},
+    {"m_wlan_txpower", From::text, 126, 5, true},
+    {"m_wlan_txpower_sec", From::text, 146, 5, true},
+    {"m_wlan_ssid", From::text, wlan_column(0, 2), 100, false},
+    {"m_wlan_ssid_sec", From::text, wlan_column(4, 2), 100, false},
+};
+// clang-format on
+
+/// What is printed behind the list.
+struct Totals {
+    int page;
+    int pages;
+    int devices;
+    int online;
+    int stations;
+};
+
+int read_number(const char *sql) {
+    return query(profiles::sql_int_count_route, sql);
+}
+
+Totals read_totals() {
+    Totals totals{};
+    totals.devices = read_number("select count(*) from DevInfo where Dev_Ipaddress <> '';");
+    totals.online = count_online();
+    if (totals.devices > 0) {
+        totals.stations = read_number("select sum(Dev_Wlan_Sta_Num) from DevInfo ;") +
+                          read_number("select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
+    }
+    return totals;
+}
+
+/// The stations of both radios, or of the first one unless the access point has eight networks.
+long stations_of(const Row &row) {
+    constexpr int wlans_of_two_radios = 8;
+    const auto number = [&row](int column) { return number_in(field_text(row.text(column), radio_width - 1)); };
+    const int first = number(128);
+    return number(15) == wlans_of_two_radios ? first + number(148) : first;
+}
+
+void print_device(const Row &row) {
+    json::Element element;
+    for (const Key &key : keys) {
+        switch (key.from) {
+            case From::text:
+                element.print(key.name, field_text(row.text(key.column), key.width - 1U));
+                break;
+            case From::serial_number:
+                element.print(key.name, static_cast<unsigned long>(static_cast<std::uint32_t>(row.unsigned_number(0))));
+                break;
+            case From::stations:
+                element.print(key.name, stations_of(row));
+                break;
+            case From::no_group_name:
+                element.print(key.name, "N/A");
+                break;
+        }
+    }
+    element.close();
+}
+
+void print_totals(const Totals &totals) {
+    json::print_total("pagenum", totals.page);
+    json::print_total("pagecount", totals.pages);
+    json::print_total("sumcount", totals.devices);
+    json::print_total("onlinecount", totals.online);
+    json::print_total("stasumnum", totals.stations);
+    json::close_object();
+}
+
+void print_rows(Reading &reading, Totals totals) {
+    int count = 0;
+    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        print_device(reading.row());
+        ++count;
+    }
+    if (count == 0) {
+        totals.page = 1;
+        totals.pages = 0;
+    }
+    json::Element closing;
+    for (const Key &key : keys) {
+        if (key.in_closing) {
+            closing.print(key.name, std::string_view());
+        }
+    }
+    closing.close_list(count);
+    print_totals(totals);
+}
+
+}  // namespace
+
+void print_page(const PageRequest &request) {
+    Totals totals = read_totals();
+    SqlText count;
+    append_count(count, request);
+    const int rows = query(profiles::sql_int_count_route, count, {nullptr});
+    totals.pages = pages_for(rows, request);
+    const int last = totals.pages < request.page ? totals.pages : request.page;
+    totals.page = last == 0 ? 1 : last;
+
+    json::open_object("ApDevList");
+    if (rows < 1) {
+        json::print("{\"count\":\"0\"");
+        print_totals({1, 0, 0, 0, 0});
+        return;
+    }
+    json::open_list();
+    SqlText sql;
+    append_page(sql, request);
+    Reading reading(page);
+    if (sql.complete() && reading.open() && reading.prepare(sql.c_str())) {
+        print_rows(reading, totals);
+    }
+}
+
+}  // namespace routerdb

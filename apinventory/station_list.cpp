@@ -1,0 +1,105 @@
+#include "apinventory/station_list.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "core/json_list.h"
+#include "core/paths.h"
+#include "core/random.h"
+#include "core/shell.h"
+#include "core/text.h"
+
+namespace routerdb {
+
+namespace {
+
+constexpr std::size_t trace_command_size = 128;
+constexpr std::size_t tool_command_size = 255;
+
+// Marks in the trace, by which its readers tell the two steps.
+constexpr int started = 9643;
+constexpr int asking = 9648;
+
+constexpr std::size_t field_size = 50;
+
+/// What a line holds of a station.
+struct Station {
+    char mac[field_size];
+    char time[field_size];
+    char signal[field_size];
+};
+
+/// Lets the access point's answer be written to a file of one of ten names.
+void ask(const char *device_address, char (&path)[32]) {
+    run_in_shell(trace_command_size, "echo line=%d---- >%s", started, paths::station_trace);
+    const unsigned number = 1 + random_below(10);
+    run_in_shell(trace_command_size, "echo line=%d--n=%u--devip=%s-- >%s", asking, number, device_address,
+                 paths::station_trace);
+    std::snprintf(path, sizeof(path), "%s%u", paths::station_list_start, number);
+    run_in_shell(tool_command_size, "capwapmanage -c -a%s >%s", device_address, path);
+    sync();
+    constexpr useconds_t until_written = 100'000;
+    usleep(until_written);
+    run_in_shell(trace_command_size, "cat %s >%s", path, paths::station_trace);
+}
+
+/// Splits a line such as "00:11:22:33:44:55+120+-67+more".
+/// @return whether it has three fields
+bool parse(char *line, Station &station) {
+    char *const fields[] = {station.mac, station.time, station.signal};
+    char *rest = nullptr;
+    for (char *field : fields) {
+        const char *text = strtok_r(line, "+", &rest);
+        if (text == nullptr) {
+            return false;
+        }
+        copy_cut(text, field, field_size);
+        line = nullptr;
+    }
+    return true;
+}
+
+void print_lines(FILE *file) {
+    char line[128];
+    Station station;
+    int count = 0;
+    json::open_list("sta");
+    while (std::fgets(line, sizeof(line), file) != nullptr) {
+        if (parse(line, station)) {
+            json::Element element;
+            element.print("mac", std::string_view(station.mac));
+            element.print("time", std::string_view(station.time));
+            // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0
+            element.print("signal", long{std::atoi(station.signal)});
+            element.close();
+            ++count;
+        }
+    }
+    json::Element closing;
+    for (const char *key : {"mac", "time", "signal"}) {
+        closing.print(key, std::string_view());
+    }
+    closing.close_list(count);
+    json::print("}}\n");
+}
+
+}  // namespace
+
+void print_stations(const char *device_address) {
+    char path[32];
+    ask(device_address, path);
+    json::open_object("DevStalist");
+    json::print("\n");
+    FILE *file = std::fopen(path, "r");
+    if (file == nullptr) {
+        json::print_no_list();
+        return;
+    }
+    print_lines(file);
+    std::fclose(file);
+}
+
+}  // namespace routerdb

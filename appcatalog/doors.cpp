@@ -1,0 +1,45 @@
+// The exported functions of the application catalogue.
+#include "appcatalog/feature_list.h"
+#include "appcatalog/json_lists.h"
+#include "appcatalog/names.h"
+#include "core/text.h"
+#include "routerdb.h"
+
+using namespace routerdb;
+
+void GetAppinfosByClassId(int classId, char *out, sqlite3 *db) {
+    join_names("Name", classId, out, db);
+}
+
+void GetAppinfosEnByClassId(int classId, char *out, sqlite3 *db) {
+    join_names("Name_En", classId, out, db);
+}
+
+void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db) {
+    join_names("Features", classId, out, db);
+}
+
+int GetAppClassItemList() {
+    print_all_classes();
+    return 0;
+}
+
+int GetAppClassItem(const char *id) {
+    print_class(or_empty(id));
+    return 0;
+}
+
+int GetAppInfoItem(const char *id) {
+    print_application(or_empty(id));
+    return 0;
+}
+
+int GetAppInfoItemListByClassid(const char *classId) {
+    print_applications_of_class(or_empty(classId));
+    return 0;
+}
+
+int GetAppItemListByClassId(AppFeatureList *list, int classId) {
+    read_features(*list, classId);
+    return 0;
+}

@@ -1,0 +1,48 @@
+#include "appcatalog/feature_list.h"
+
+#include <cstring>
+
+#include "appcatalog/catalogue_text.h"
+#include "core/profiles.h"
+#include "core/reading.h"
+
+namespace routerdb {
+
+namespace {
+
+using profiles::parts::error_on_output;
+
+// The lock file need not be there.
+// clang-format off
+constexpr ReadProfile features{
+    {Database::main, Guard::lock_file_if_there, FirstDelay::random, Draw::after_opening_lock_file, 1,
+     Stream::nowhere, Stream::standard_output, error_on_output, FailedHandle::closed},
+    error_on_output};
+// clang-format on
+
+constexpr std::size_t slot_size = sizeof(AppFeatureList::features[0]);
+
+}  // namespace
+
+void read_features(AppFeatureList &list, int class_id) {
+    std::memset(&list, 0, sizeof(list));
+    StackText<80> sql;
+    sql.append("select Features from App_Info where Class_Id=").append_quoted(long{class_id}).append(" ;");
+    Reading reading(features);
+    if (!reading.open() || !reading.prepare(sql.c_str())) {
+        return;
+    }
+    char *slot = list.features[0];
+    std::uint32_t count = 0;
+    // There is no limit to the rows: the caller's buffer is sized for the class.
+    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        const std::string_view feature = catalogue_text(reading.row(), 0);
+        std::memcpy(slot, feature.data(), feature.size());
+        slot[feature.size()] = '\0';
+        slot += slot_size;
+        ++count;
+    }
+    list.count = count;
+}
+
+}  // namespace routerdb

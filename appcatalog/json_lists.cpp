@@ -1,0 +1,120 @@
+#include "appcatalog/json_lists.h"
+
+#include <unistd.h>
+
+#include "appcatalog/catalogue_text.h"
+#include "appcatalog/list_spec.h"
+#include "appcatalog/names.h"
+#include "core/json_list.h"
+#include "core/profiles.h"
+#include "core/query.h"
+#include "core/reading.h"
+#include "routerdb.h"
+
+namespace routerdb {
+
+namespace {
+
+using profiles::parts::webserver_on_output;
+
+// clang-format off
+constexpr ReadProfile catalogue{
+    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
+     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
+    webserver_on_output};
+// clang-format on
+
+void print_joined(json::Element &element, const Key &key, const char *column, const Reading &reading) {
+    char names[ROUTERDB_JOINED_NAMES] = "";
+    join_names(column, reading.row().number(0), names, reading.db());
+    element.print(key.name, std::string_view(names));
+}
+
+void print_member(json::Element &element, const Key &key, const Reading &reading, const char *argument) {
+    switch (key.from) {
+        case From::text:
+            return element.print(key.name, catalogue_text(reading.row(), key.column));
+        case From::number:
+            return element.print(key.name, long{reading.row().number(key.column)});
+        case From::zero:
+            return element.print(key.name, 0L);
+        case From::argument:
+            return element.print(key.name, std::string_view(argument));
+        case From::names:
+            return print_joined(element, key, "Name", reading);
+        case From::names_en:
+            return print_joined(element, key, "Name_En", reading);
+        case From::features:
+            return print_joined(element, key, "Features", reading);
+    }
+}
+
+/// Prints the elements and closes the list.
+void print_rows(const ListSpec &spec, Reading &reading, const char *argument, int table_count) {
+    int count = 0;
+    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        json::Element element;
+        for (unsigned index = 0; index < spec.key_count; ++index) {
+            print_member(element, spec.keys[index], reading, argument);
+        }
+        element.close();
+        ++count;
+    }
+    json::Element closing;
+    for (unsigned index = 0; index < spec.key_count; ++index) {
+        closing.print(spec.keys[index].name, std::string_view());
+    }
+    closing.close_list(spec.count == Count::of_table ? table_count : count, spec.closing_blank);
+    json::close_object();
+}
+
+void read_rows(const ListSpec &spec, const char *argument, int table_count) {
+    SqlText sql;
+    sql.append(spec.row_query).append(argument).append(spec.query_tail);
+    Reading reading(catalogue);
+    if (!reading.open()) {
+        close(reading.code());  // Deliberate: callers have come to expect it, as they do the close below.
+        return;
+    }
+    if (sql.complete() && reading.prepare(sql.c_str())) {
+        print_rows(spec, reading, argument, table_count);
+    }
+    reading.close();
+    close(STDIN_FILENO);
+}
+
+void print_list(const ListSpec &spec, const char *argument) {
+    SqlText sql;
+    sql.append(spec.count_query);
+    if (spec.count_by_class) {
+        sql.append(argument).append(spec.query_tail);
+    }
+    const int count = query(profiles::sqlite_sql_int, sql, {nullptr});
+    json::open_object("ItemList");
+    if (count < 1) {
+        json::print_no_list();
+        return;
+    }
+    json::open_list();
+    read_rows(spec, argument, count);
+}
+
+}  // namespace
+
+void print_all_classes() {
+    print_list(all_classes, "");
+}
+
+void print_class(const char *id) {
+    print_list(one_class, id);
+}
+
+void print_application(const char *id) {
+    print_list(one_application, id);
+}
+
+void print_applications_of_class(const char *class_id) {
+    print_list(applications_of_class, class_id);
+}
+
+}  // namespace routerdb

@@ -1,0 +1,49 @@
+// The frame of every JSON list. It is printed piece by piece through the standard output stream, where callers have
+// already put their headers. Nothing is escaped.
+#pragma once
+
+#include <string_view>
+
+namespace routerdb::json {
+
+/// Prints a literal piece.
+void print(std::string_view piece);
+
+/// "{\"ItemList\":"
+void open_object(const char *name);
+
+/// "{\"count\":\"0\"}}", in place of a list
+void print_no_list();
+
+/// "{\"data\":[", or another name for the array
+void open_list(const char *name = "data");
+
+/// One element, member by member.
+class Element {
+public:
+    Element() { json::print("{"); }
+
+    void print(std::string_view key, std::string_view value);
+    void print(std::string_view key, long value);
+    void print(std::string_view key, unsigned long value);
+
+    /// "},": more elements follow, the closing one at least.
+    void close() { json::print("},"); }
+
+    /// "}],\"count\":\"3\"": this was the closing element.
+    /// @param blank  stands before the brace in some lists
+    void close_list(int count, std::string_view blank = "");
+
+private:
+    void open_member(std::string_view key);
+
+    std::string_view separator_;
+};
+
+/// ",\"sumcount\":\"3\"", behind the count.
+void print_total(const char *key, int value);
+
+/// "}}"
+void close_object();
+
+}  // namespace routerdb::json
