@@ -22,8 +22,8 @@ void append_text(Text &sql, std::string_view text, const Scope &scope) {
 }
 
 void append_converted(Text &sql, std::string_view ssid, const Scope &scope) {
-    char in[sizeof(DevWlanEntry::Ssid) + 1] = {};
-    ssid.copy(in, sizeof(in) - 1);
+    char in[sizeof(DevWlanEntry::Ssid) + 1];
+    copy_cut(ssid, in, sizeof(in));
     char out[ROUTERDB_CONVERSION_ROOM];
     // Deliberate: an SSID that cannot be converted is written empty.
     if (convert_gb2312_to_utf8(in, ssid.size(), out, sizeof(out)) == 0) {

@@ -111,7 +111,7 @@ void print_device(const Row &row) {
                 break;
         }
     }
-    element.close();
+    json::close_element();
 }
 
 void print_totals(const Totals &totals) {
@@ -139,7 +139,7 @@ void print_rows(Reading &reading, Totals totals) {
             closing.print(key.name, std::string_view());
         }
     }
-    closing.close_list(count);
+    json::close_list(count);
     print_totals(totals);
 }
 

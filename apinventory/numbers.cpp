@@ -10,9 +10,9 @@ namespace {
 
 /// A field's text with a terminator, cut at the widest field that holds a number.
 struct Terminated {
-    explicit Terminated(std::string_view view) { view.copy(text, sizeof(text) - 1); }
+    explicit Terminated(std::string_view view) { copy_cut(view, text, sizeof(text)); }
 
-    char text[32] = {};
+    char text[32];
 };
 
 }  // namespace

@@ -74,7 +74,7 @@ void print_lines(FILE *file) {
             element.print("time", std::string_view(station.time));
             // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0
             element.print("signal", long{std::atoi(station.signal)});
-            element.close();
+            json::close_element();
             ++count;
         }
     }
@@ -82,7 +82,7 @@ void print_lines(FILE *file) {
     for (const char *key : {"mac", "time", "signal"}) {
         closing.print(key, std::string_view());
     }
-    closing.close_list(count);
+    json::close_list(count);
     json::print("}}\n");
 }
 

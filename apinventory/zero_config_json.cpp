@@ -62,14 +62,14 @@ void print_rows(Reading &reading) {
         for (const Key &key : keys) {
             element.print(key.name, field_text(reading.row().text(key.column), longest_value));
         }
-        element.close();
+        json::close_element();
         ++count;
     }
     json::Element closing;
     for (const Key &key : keys) {
         closing.print(key.name, std::string_view());
     }
-    closing.close_list(count);
+    json::close_list(count);
     json::close_object();
 }
 

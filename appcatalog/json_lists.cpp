@@ -57,14 +57,14 @@ void print_rows(const ListSpec &spec, Reading &reading, const char *argument, in
         for (unsigned index = 0; index < spec.key_count; ++index) {
             print_member(element, spec.keys[index], reading, argument);
         }
-        element.close();
+        json::close_element();
         ++count;
     }
     json::Element closing;
     for (unsigned index = 0; index < spec.key_count; ++index) {
         closing.print(spec.keys[index].name, std::string_view());
     }
-    closing.close_list(spec.count == Count::of_table ? table_count : count, spec.closing_blank);
+    json::close_list(spec.count == Count::of_table ? table_count : count, spec.closing_blank);
     json::close_object();
 }
 

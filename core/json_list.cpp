@@ -44,8 +44,12 @@ void Element::print(std::string_view key, unsigned long value) {
     std::printf("%lu\"", value);
 }
 
-void Element::close_list(int count, std::string_view blank) {
-    json::print(blank);
+void close_element() {
+    print("},");
+}
+
+void close_list(int count, std::string_view blank) {
+    print(blank);
     std::printf("}],\"count\":\"%d\"", count);
 }
 

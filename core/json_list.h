@@ -27,18 +27,18 @@ public:
     void print(std::string_view key, long value);
     void print(std::string_view key, unsigned long value);
 
-    /// "},": more elements follow, the closing one at least.
-    void close() { json::print("},"); }
-
-    /// "}],\"count\":\"3\"": this was the closing element.
-    /// @param blank  stands before the brace in some lists
-    void close_list(int count, std::string_view blank = "");
-
 private:
     void open_member(std::string_view key);
 
     std::string_view separator_;
 };
+
+/// "},": more elements follow, the closing one at least.
+void close_element();
+
+/// "}],\"count\":\"3\"": this was the closing element.
+/// @param blank  stands before the brace in some lists
+void close_list(int count, std::string_view blank = "");
 
 /// ",\"sumcount\":\"3\"", behind the count.
 void print_total(const char *key, int value);

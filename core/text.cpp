@@ -20,10 +20,10 @@ std::string_view field_text(const char *field, std::size_t width) {
     return {field, strnlen(field, width)};
 }
 
-void copy_cut(const char *text, char *field, std::size_t width) {
-    const std::string_view cut = field_text(text, width - 1);
-    std::memcpy(field, cut.data(), cut.size());
-    field[cut.size()] = '\0';
+void copy_cut(std::string_view text, char *field, std::size_t width) {
+    const std::size_t size = text.size() < width ? text.size() : width - 1;
+    std::memcpy(field, text.data(), size);
+    field[size] = '\0';
 }
 
 Text::~Text() {
@@ -53,7 +53,7 @@ Text &Text::append(unsigned long number) {
 
 Text &Text::append_escaped(std::string_view value) {
     for (std::size_t quote = value.find('\''); quote != std::string_view::npos; quote = value.find('\'')) {
-        append(value.substr(0, quote + 1)).append("'");
+        append({value.data(), quote + 1}).append("'");
         value.remove_prefix(quote + 1);
     }
     return append(value);

@@ -22,7 +22,7 @@ std::string_view field_text(const char (&field)[width]) {
 
 /// Copies a text into a field of `width` bytes, cut so that its terminator fits. What the field held behind the
 /// terminator stays.
-void copy_cut(const char *text, char *field, std::size_t width);
+void copy_cut(std::string_view text, char *field, std::size_t width);
 
 /// A text under construction. It starts in a buffer on the stack and moves to the heap when it outgrows that. Where
 /// memory runs out it remembers so: whoever uses the text asks complete() first.
