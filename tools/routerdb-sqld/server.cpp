@@ -72,6 +72,7 @@ Server::~Server() {
 }
 
 bool Server::listen() {
+    take_signals();  // from the first connection on, the end is an orderly one
     if (somebody_listens()) {
         syslog(LOG_ERR, "%s is served already", service_socket);
         return false;
@@ -86,14 +87,7 @@ bool Server::listen() {
     return bound;
 }
 
-bool Server::bind_socket() {
-    const sockaddr_un address = service_address();
-    fd_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    return fd_ >= 0 && bind(fd_, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0 &&
-           ::listen(fd_, SOMAXCONN) == 0;
-}
-
-void Server::run() {
+void Server::take_signals() {
     sigset_t ours;
     sigemptyset(&ours);
     sigaddset(&ours, SIGTERM);
@@ -103,7 +97,16 @@ void Server::run() {
     handle(SIGTERM, on_stop);
     handle(SIGINT, on_stop);
     handle(SIGCHLD, on_child);
+}
 
+bool Server::bind_socket() {
+    const sockaddr_un address = service_address();
+    fd_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    return fd_ >= 0 && bind(fd_, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0 &&
+           ::listen(fd_, SOMAXCONN) == 0;
+}
+
+void Server::run() {
     while (stopping == 0) {
         reap(WNOHANG);
         pollfd listener{children_ < most_children ? fd_ : -1, POLLIN, 0};

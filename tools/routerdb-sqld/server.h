@@ -24,6 +24,7 @@ public:
     void run();
 
 private:
+    void take_signals();
     bool bind_socket();
     void accept_one();
     void reap(int options);
