@@ -5,7 +5,9 @@
 namespace routerdb::json {
 
 void print(std::string_view piece) {
-    std::fwrite(piece.data(), 1, piece.size(), stdout);
+    if (!piece.empty()) {
+        std::fwrite(piece.data(), 1, piece.size(), stdout);
+    }
 }
 
 void open_object(const char *name) {

@@ -7,7 +7,7 @@ checkout=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 build_packages=(build-essential cmake ninja-build libsqlite3-dev sqlite3 bubblewrap)
 
 # What the tests need beyond that.
-test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386)
+test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 nlohmann-json3-dev)
 
 say() {
     printf '==> %s\n' "$*"

@@ -1,0 +1,36 @@
+-- What the traffic classifier knows in the demo: eight classes, the last without applications.
+insert into App_Class(Id, Name, Name_En, Mark) values
+    (1, '视频', 'Video', ''),
+    (2, '音乐', 'Music', ''),
+    (3, '游戏', 'Games', ''),
+    (4, '社交', 'Social', ''),
+    (5, '购物', 'Shopping', ''),
+    (6, '学习', 'Learning', ''),
+    (7, '办公', 'Office', ''),
+    (8, '更新', 'Updates', '');
+
+insert into App_Info(Class_Id, Name, Name_En, Features, Mark) values
+    (1, '影院', 'Cinema', 'vid-cinema', ''),
+    (1, '短片', 'Short clips', 'vid-clips', ''),
+    (1, '直播', 'Live streams', 'vid-live', ''),
+    (1, '动画', 'Animation', 'vid-anim', ''),
+    (2, '广播', 'Radio', 'mus-radio', ''),
+    (2, '播客', 'Podcasts', 'mus-podcast', ''),
+    (2, '唱片', 'Records', 'mus-records', ''),
+    (3, '象棋', 'Chess', 'gam-chess', ''),
+    (3, '赛车', 'Racing', 'gam-racing', ''),
+    (3, '冒险', 'Adventure', 'gam-quest', ''),
+    (3, '拼图', 'Puzzles', 'gam-puzzle', ''),
+    (3, '钓鱼', 'Fishing', 'gam-fish', ''),
+    (4, '聊天', 'Chat', 'soc-chat', ''),
+    (4, '相册', 'Photo album', 'soc-album', ''),
+    (4, '论坛', 'Forum', 'soc-forum', ''),
+    (5, '菜场', 'Market', 'shp-market', ''),
+    (5, '书店', 'Bookshop', 'shp-books', ''),
+    (6, '词典', 'Dictionary', 'lrn-words', ''),
+    (6, '算术', 'Arithmetic', 'lrn-maths', ''),
+    (6, '天文', 'Astronomy', 'lrn-stars', ''),
+    (7, '邮件', 'Mail', 'off-mail', ''),
+    (7, '会议', 'Meetings', 'off-meet', ''),
+    (7, '文档', 'Documents', 'off-docs', ''),
+    (7, '日历', 'Calendar', 'off-cal', '');
