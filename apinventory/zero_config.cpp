@@ -1,11 +1,11 @@
 #include "apinventory/zero_config.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 #include "apinventory/device_fields.h"
 #include "apinventory/fragments.h"
 #include "apinventory/groups.h"
-#include "apinventory/numbers.h"
 #include "apinventory/zero_config_defaults.h"
 #include "core/execute.h"
 #include "core/profiles.h"
@@ -138,7 +138,7 @@ void fill_with_defaults(DevInfo &group) {
 }
 
 int read_or_start_zero_config(DevInfo &group, const char *id_text) {
-    const int id = number_in(id_text);
+    const int id = std::atoi(id_text);  // NOLINT(cert-err34-c): a text that is no number counts as 0
     if (id != 0) {
         return read_zero_config(group, id);
     }

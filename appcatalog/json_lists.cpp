@@ -24,38 +24,51 @@ constexpr ReadProfile catalogue{
     webserver_on_output};
 // clang-format on
 
-void print_joined(json::Element &element, const Key &key, const char *column, const Reading &reading) {
-    char names[ROUTERDB_JOINED_NAMES] = "";
-    join_names(column, reading.row().number(0), names, reading.db());
-    element.print(key.name, std::string_view(names));
+/// The joined names of one class.
+using Joined = char[3][ROUTERDB_JOINED_NAMES];
+
+int index_in_joined(From from) {
+    return static_cast<int>(from) - static_cast<int>(From::names);
 }
 
-void print_member(json::Element &element, const Key &key, const Reading &reading, const char *argument) {
+/// Joins the names that the keys ask for. It is done before the element is begun, so that a message stands in front.
+void join(const ListSpec &spec, const Reading &reading, Joined &joined) {
+    constexpr char columns[][9] = {"Name", "Name_En", "Features"};
+    for (unsigned key = 0; key < spec.key_count; ++key) {
+        const int index = index_in_joined(spec.keys[key].from);
+        if (index >= 0) {
+            joined[index][0] = '\0';
+            join_names(columns[index], reading.row().number(0), joined[index], reading.db());
+        }
+    }
+}
+
+void print_member(json::Element &element, const Key &key, const Row &row, const char *argument, const Joined &joined) {
     switch (key.from) {
         case From::text:
-            return element.print(key.name, catalogue_text(reading.row(), key.column));
+            return element.print(key.name, catalogue_text(row, key.column));
         case From::number:
-            return element.print(key.name, long{reading.row().number(key.column)});
+            return element.print(key.name, long{row.number(key.column)});
         case From::zero:
             return element.print(key.name, 0L);
         case From::argument:
             return element.print(key.name, std::string_view(argument));
         case From::names:
-            return print_joined(element, key, "Name", reading);
         case From::names_en:
-            return print_joined(element, key, "Name_En", reading);
         case From::features:
-            return print_joined(element, key, "Features", reading);
+            return element.print(key.name, std::string_view(joined[index_in_joined(key.from)]));
     }
 }
 
 /// Prints the elements and closes the list.
 void print_rows(const ListSpec &spec, Reading &reading, const char *argument, int table_count) {
+    Joined joined;
     int count = 0;
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        join(spec, reading, joined);
         json::Element element;
         for (unsigned index = 0; index < spec.key_count; ++index) {
-            print_member(element, spec.keys[index], reading, argument);
+            print_member(element, spec.keys[index], reading.row(), argument, joined);
         }
         json::close_element();
         ++count;

@@ -21,8 +21,10 @@ SigpipeHold::SigpipeHold() {
     const sigset_t sigpipe = only_sigpipe();
     sigset_t before;
     held_ = pthread_sigmask(SIG_BLOCK, &sigpipe, &before) == 0;
-    // A thread that had blocked the signal itself gets what comes up, as it would without us.
     blocked_before_ = held_ && sigismember(&before, SIGPIPE) == 1;
+    sigset_t waiting;
+    // A thread that had blocked the signal may have one waiting, which is its own.
+    waiting_before_ = blocked_before_ && sigpending(&waiting) == 0 && sigismember(&waiting, SIGPIPE) == 1;
 }
 
 void SigpipeHold::lift() {
@@ -32,12 +34,11 @@ void SigpipeHold::lift() {
     held_ = false;
     const int saved_errno = errno;
     const sigset_t sigpipe = only_sigpipe();
+    if (failed_ && !waiting_before_) {
+        constexpr timespec at_once{};
+        sigtimedwait(&sigpipe, nullptr, &at_once);
+    }
     if (!blocked_before_) {
-        if (failed_) {
-            // It was not blocked before, so what is waiting now can only be ours.
-            constexpr timespec at_once{};
-            sigtimedwait(&sigpipe, nullptr, &at_once);
-        }
         pthread_sigmask(SIG_UNBLOCK, &sigpipe, nullptr);
     }
     errno = saved_errno;

@@ -12,7 +12,7 @@ public:
     SigpipeHold &operator=(const SigpipeHold &) = delete;
     ~SigpipeHold() { lift(); }
 
-    /// Takes away a signal that came up and restores the thread's mask. errno stays as it was.
+    /// Takes away a signal that came up meanwhile and restores the thread's mask. errno stays as it was.
     void lift();
 
     /// A send failed, so that a signal may have come up.
@@ -21,6 +21,7 @@ public:
 private:
     bool held_ = false;
     bool blocked_before_ = false;
+    bool waiting_before_ = false;
     bool failed_ = false;
 };
 

@@ -23,11 +23,14 @@ constexpr RuleTable first_table = rule_table<Record>("wifi0acl", ROUTERDB_TABLE_
 /// The table of an access list. One that does not exist has no id, and nothing is sent for it.
 RuleTable table_of(int number) {
     constexpr std::size_t digit = sizeof("wifi") - 1;
-    const bool exists = number >= 0 && number < static_cast<int>(sizeof(acl_wifi_id) / sizeof(acl_wifi_id[0]));
     RuleTable table = first_table;
-    table.id = exists ? static_cast<std::uint8_t>(acl_wifi_id[number]) : no_table;
+    if (number < 0 || number >= static_cast<int>(sizeof(acl_wifi_id) / sizeof(acl_wifi_id[0]))) {
+        table.id = no_table;
+    } else {
+        table.id = static_cast<std::uint8_t>(acl_wifi_id[number]);
+        table.name[digit] = static_cast<char>('0' + number);
+    }
     table.delete_id = table.id;
-    table.name[digit] = static_cast<char>('0' + number);
     return table;
 }
 

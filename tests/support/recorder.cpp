@@ -17,6 +17,7 @@
 #include <cstring>
 #include <deque>
 #include <map>
+#include <utility>
 
 namespace support {
 
@@ -25,6 +26,7 @@ namespace {
 struct Recording {
     std::vector<std::string> calls;
     std::map<std::string, std::deque<int>, std::less<>> answers;
+    std::function<void(const std::string &)> watcher;
     bool run_commands = true;
     int lock_file = -1;
     bool inside = false;  // one of the recorder's own calls, or one that a recorded call made
@@ -53,6 +55,9 @@ public:
     void note(const std::string &line) const {
         if (noted_) {
             recording->calls.push_back(line);
+            if (recording->watcher) {
+                recording->watcher(line);
+            }
         }
     }
 
@@ -67,7 +72,7 @@ public:
         }
         result = planned->second.front();
         planned->second.pop_front();
-        return true;
+        return result != Recorder::really;
     }
 
 private:
@@ -105,6 +110,10 @@ Recorder::~Recorder() {
 void Recorder::answer(std::string_view function, std::initializer_list<int> results) {
     std::deque<int> &planned = recording->answers[std::string(function)];
     planned.insert(planned.end(), results);
+}
+
+void Recorder::watch(std::function<void(const std::string &)> watcher) {
+    recording->watcher = std::move(watcher);
 }
 
 void Recorder::keep_commands_from_running() {

@@ -4,6 +4,8 @@
 // Recorder lives, each such call made on its thread is noted as one line, and a planned answer replaces the real one.
 #pragma once
 
+#include <climits>
+#include <functional>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -22,6 +24,12 @@ public:
     /// For "sqlite3_..." and "usleep" the number is the result code, for "socket", "connect", "send", "recv", "open"
     /// and "fcntl" it is the errno that goes with -1.
     void answer(std::string_view function, std::initializer_list<int> results);
+
+    /// As an answer: that call is made.
+    static constexpr int really = INT_MIN;
+
+    /// Shows `watcher` each line as it is noted, before the call is made. Nothing that the watcher calls is noted.
+    void watch(std::function<void(const std::string &line)> watcher);
 
     /// Commands for the shell are noted and not run.
     void keep_commands_from_running();

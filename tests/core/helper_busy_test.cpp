@@ -1,0 +1,175 @@
+// How the functions that run one statement wait for a busy database.
+#include <gtest/gtest.h>
+
+#include "core/helpers.h"
+#include "core/holdings.h"
+#include "support/database.h"
+#include "support/recorder.h"
+
+namespace {
+
+using support::Recorder;
+using Lines = std::vector<std::string>;
+using Sleeps = std::vector<unsigned>;
+
+struct BusyCase : Helper {
+    const char *database;
+    int statements_ahead;    // of the caller's, through sqlite3_exec
+    Sleeps sleeps;           // of two series of three retries, with the smallest first delay
+    unsigned longest_first;  // sleep, with the greatest first delay
+    Outcome outcome;         // of "select 5;"
+};
+
+const Sleeps hundredfold{5600, 6100, 6600, 7100, 7600, 8100};
+const Sleeps from_150{155, 160, 165, 170, 175, 180};
+const Sleeps from_50{55, 60, 65, 70, 75, 80};
+const Sleeps random_from_51{56, 61, 66, 71, 76, 81};
+
+const BusyCase busy_cases[] = {
+    {helpers::db_sql_exec, support::main_database, 0, random_from_51, 155, {0, ""}},
+    {helpers::exec_char, support::main_database, 3, hundredfold, 15500, {0, ""}},
+    {helpers::exec_char_int, support::main_database, 0, from_150, 155, {0, "1001"}},
+    {helpers::exec_char_long, support::main_database, 0, from_50, 55, {0, "5"}},
+    {helpers::exec_char_char, support::main_database, 0, from_50, 55, {0, "5"}},
+    {helpers::int_count, support::main_database, 0, random_from_51, 155, {5, ""}},
+    {helpers::int_rows, support::main_database, 0, random_from_51, 155, {1, ""}},
+    {helpers::int_count_route, support::main_database, 0, random_from_51, 155, {5, ""}},
+    {helpers::int_count_dpi, support::catalogue_database, 0, random_from_51, 155, {5, ""}},
+    {helpers::sqlite_int, support::catalogue_database, 0, random_from_51, 155, {5, ""}},
+    {helpers::sqlite_str_n, support::main_database, 0, random_from_51, 155, {0, "5"}},
+};
+
+class Busy : public HelperTest<BusyCase> {
+protected:
+    static bool opens() { return GetParam().call != helpers::sqlite_str_n.call; }
+
+    /// The statement itself meets these codes, one after the other.
+    void answer_statement(std::initializer_list<int> codes) {
+        for (int i = 0; i < GetParam().statements_ahead; ++i) {
+            recorder_.answer("sqlite3_exec", {Recorder::really});
+        }
+        recorder_.answer("sqlite3_exec", codes);
+        recorder_.answer("sqlite3_prepare_v2", codes);
+    }
+
+    const support::Database other_{GetParam().database};
+    Recorder recorder_;
+};
+
+TEST_P(Busy, sleeps_grow_through_one_series) {
+    recorder_.answer("rand", {0});
+    if (opens()) {
+        recorder_.answer("sqlite3_open", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+        answer_statement({SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    } else {
+        answer_statement({SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR, SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    }
+    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(recorder_.sleeps(), GetParam().sleeps);
+}
+
+TEST_P(Busy, the_first_sleep_has_an_upper_bound) {
+    recorder_.answer("rand", {RAND_MAX});
+    answer_statement({SQLITE_BUSY});
+    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(recorder_.sleeps(), Sleeps{GetParam().longest_first});
+}
+
+TEST_P(Busy, retries_have_no_limit) {
+    constexpr unsigned many = 3000;
+    for (unsigned i = 0; i < many; ++i) {
+        recorder_.answer("usleep", {0});
+    }
+    recorder_.answer("rand", {0});
+    answer_statement({});
+    for (unsigned i = 0; i < many; ++i) {
+        recorder_.answer("sqlite3_exec", {SQLITE_BUSY});
+        recorder_.answer("sqlite3_prepare_v2", {SQLITE_BUSY});
+    }
+    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    const Sleeps &sleeps = GetParam().sleeps;
+    ASSERT_EQ(recorder_.sleeps().size(), many);
+    EXPECT_EQ(recorder_.sleeps().back(), sleeps[0] + (many - 1) * (sleeps[1] - sleeps[0]));
+}
+
+TEST_P(Busy, waits_until_another_process_lets_go_of_the_database) {
+    other_.execute("begin exclusive;");
+    int sleeps = 0;
+    recorder_.watch([&](const std::string &line) {
+        if (line.compare(0, 7, "usleep ") == 0 && ++sleeps == 3) {
+            other_.execute("commit;");
+        }
+    });
+    EXPECT_EQ(call("select 5 from sqlite_master limit 1;"), GetParam().outcome);
+    EXPECT_EQ(sleeps, 3);
+}
+
+INSTANTIATE_TEST_SUITE_P(, Busy, ::testing::ValuesIn(busy_cases), helper_name<BusyCase>);
+
+using BusyReader = Busy;
+
+TEST_P(BusyReader, the_first_step_belongs_to_the_series) {
+    recorder_.answer("rand", {0});
+    recorder_.answer("sqlite3_prepare_v2", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    recorder_.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(recorder_.sleeps(), GetParam().sleeps);
+}
+
+TEST_P(BusyReader, a_failing_first_step_is_final) {
+    recorder_.answer("sqlite3_step", {SQLITE_CORRUPT});
+    call("select 5;");
+    EXPECT_EQ(recorder_.sleeps(), Sleeps());
+    EXPECT_EQ(recorder_.calls({"sqlite3_step"}).size(), 1U);
+}
+
+INSTANTIATE_TEST_SUITE_P(, BusyReader, ::testing::ValuesIn(std::begin(busy_cases) + 2, std::end(busy_cases)),
+                         helper_name<BusyCase>);
+
+TEST(StatementHelpers, a_random_first_delay_is_whole_microseconds) {
+    constexpr struct {
+        int drawn;
+        unsigned sleep;
+    } draws[] = {{0, 56}, {21474836, 56}, {21474837, 57}, {1073741824, 106}, {2126008811, 154}, {2126008812, 155}};
+    for (const auto &draw : draws) {
+        Recorder recorder;
+        recorder.answer("rand", {draw.drawn});
+        recorder.answer("sqlite3_open", {SQLITE_BUSY});
+        helpers::int_count_route.call(nullptr, "select 5;");
+        EXPECT_EQ(recorder.sleeps(), Sleeps{draw.sleep}) << draw.drawn;
+    }
+}
+
+TEST(DB_EXEC_SQL_CHAR_INT, logs_after_each_sleep) {
+    const support::Database other;
+    other.execute("begin exclusive;");
+    Recorder recorder;
+    recorder.answer("sqlite3_open", {SQLITE_BUSY});
+    recorder.watch([&](const std::string &line) {
+        if (line == "usleep 165") {
+            other.execute("commit;");
+        }
+    });
+    EXPECT_EQ(helpers::exec_char_int.call(nullptr, "select 5 from sqlite_master limit 1;"), (Outcome{0, "1001"}));
+    EXPECT_EQ(recorder.calls({"usleep", "syslog"}),
+              (Lines{"usleep 155", "syslog 3 sql busy/locked cmdline, Error: out of memory\n", "usleep 160",
+                     "syslog 3 sql busy/locked cmdline, Error: database is locked\n", "usleep 165",
+                     "syslog 3 sql busy/locked cmdline, Error: database is locked\n"}));
+}
+
+TEST(StatementHelpers, a_statement_that_is_ready_waits_for_its_first_row) {
+    const CallersConnection connection = open_callers_connection();
+    const support::Database other;
+    helpers::sqlite_str_n.call(connection.get(), "select 5 from sqlite_master;");  // reads the schema
+    other.execute("begin exclusive;");
+    Recorder recorder;
+    recorder.watch([&](const std::string &line) {
+        if (line.compare(0, 7, "usleep ") == 0) {
+            other.execute("commit;");
+        }
+    });
+    EXPECT_EQ(helpers::sqlite_str_n.call(connection.get(), "select 5 from sqlite_master;"), (Outcome{0, "5"}));
+    EXPECT_EQ(recorder.calls({"sqlite3_prepare_v2", "sqlite3_step", "usleep"}).size(), 4U);
+}
+
+}  // namespace

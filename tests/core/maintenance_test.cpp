@@ -1,0 +1,153 @@
+// Backup, restore and reset of the main database.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "core/holdings.h"
+#include "routerdb.h"
+#include "support/database.h"
+#include "support/named.h"
+#include "support/recorder.h"
+#include "support/streams.h"
+
+namespace {
+
+using support::Recorder;
+using Lines = std::vector<std::string>;
+
+struct Operation : support::Named {
+    int (*run)();
+    Lines commands;
+};
+
+const Operation operations[] = {
+    {{"backup_sqlite_db"},
+     backup_sqlite_db,
+     {"system mkdir -p /var/tmpconfig/database",
+      "system cp -f /etc/config/systemconf/database/myrouter.db /var/tmpconfig/database/myrouter.db"}},
+    {{"restore_sqlite_db"},
+     restore_sqlite_db,
+     {"system cp -f /var/tmpconfig/database/myrouter.db /etc/config/systemconf/database/myrouter.db"}},
+    {{"reset_sqlite_db"},
+     reset_sqlite_db,
+     {"system rm -f /etc/config/systemconf/database/myrouter.db; cp -f "
+      "/rom/etc/config/systemconf/database/myrouter.db /etc/config/systemconf/database/myrouter.db",
+      "system cp -f /rom/etc/config/systemconf/database/myrouter.db "
+      "/etc/config/systemconf/database/myrouter.db"}},
+};
+
+class Maintenance : public ::testing::TestWithParam<Operation> {};
+
+TEST_P(Maintenance, runs_its_commands_under_the_lock_after_settling_the_database) {
+    Recorder recorder;
+    recorder.keep_commands_from_running();
+    Holdings holdings(recorder);
+    EXPECT_EQ(GetParam().run(), 0);
+    Lines expected{"open lock file", "lock",
+                   "sqlite3_open_v2 /etc/config/systemconf/database/myrouter.db 2",  // SQLITE_OPEN_READWRITE
+                   "sqlite3_exec select count(*) from sqlite_master;", "sqlite3_close"};
+    expected.insert(expected.end(), GetParam().commands.begin(), GetParam().commands.end());
+    expected.insert(expected.end(), {"unlock", "close lock file"});
+    EXPECT_EQ(recorder.calls(), expected);
+    EXPECT_EQ(holdings.changes(), (Lines{"sqlite3_open_v2 /etc/config/systemconf/database/myrouter.db 2: lock",
+                                         "close lock file: nothing"}));
+}
+
+TEST_P(Maintenance, touches_nothing_without_the_lock_file) {
+    ASSERT_EQ(unlink(support::lock_file), 0);
+    const std::string before = support::file_content(support::main_database);
+    Recorder recorder;
+    const support::Streams::Text text = support::streams_of([] { EXPECT_EQ(GetParam().run(), -1); });
+    EXPECT_EQ(text.error, "cannot open /var/databaselock!\n");
+    EXPECT_EQ(text.output, "");
+    EXPECT_EQ(recorder.calls(), Lines{"open lock file"});
+    EXPECT_EQ(support::file_content(support::main_database), before);
+    EXPECT_FALSE(support::file_exists("/var/tmpconfig"));
+    EXPECT_FALSE(support::file_exists(support::lock_file));
+}
+
+TEST_P(Maintenance, succeeds_whatever_becomes_of_its_commands) {
+    support::write_file("/var/tmpconfig", "in the way of the backup directory");
+    ASSERT_EQ(unlink(support::factory_database), 0);
+    support::streams_of([] { EXPECT_EQ(GetParam().run(), 0); });
+}
+
+TEST_P(Maintenance, goes_on_when_the_database_cannot_be_settled) {
+    support::write_file(support::main_database,
+                        "this is no database, and it is longer than a header would have to be "
+                        "for SQLite to read one: a hundred bytes");
+    Recorder recorder;
+    support::streams_of([] { EXPECT_EQ(GetParam().run(), 0); });
+    EXPECT_EQ(recorder.calls({"system"}), GetParam().commands);
+    EXPECT_EQ(recorder.calls({"usleep"}), Lines());
+}
+
+TEST_P(Maintenance, leaves_no_descriptor_and_no_memory_of_sqlite) {
+    const int descriptors = support::open_descriptors();
+    const sqlite3_int64 memory = sqlite3_memory_used();
+    support::streams_of([] { EXPECT_EQ(GetParam().run(), 0); });
+    EXPECT_EQ(support::open_descriptors(), descriptors);
+    EXPECT_EQ(sqlite3_memory_used(), memory);
+    EXPECT_TRUE(support::lock_file_is_free());
+}
+
+INSTANTIATE_TEST_SUITE_P(, Maintenance, ::testing::ValuesIn(operations),
+                         [](const auto &test) { return test.param.name; });
+
+TEST(BackupSqliteDb, copies_the_main_database_over_an_older_backup) {
+    ASSERT_EQ(backup_sqlite_db(), 0);
+    support::execute("insert into user_urlinfo(name) values('a');");
+    ASSERT_EQ(backup_sqlite_db(), 0);
+    EXPECT_EQ(support::file_content(support::backup_database), support::file_content(support::main_database));
+}
+
+TEST(BackupSqliteDb, leaves_the_main_database_as_it_was) {
+    const std::string before = support::file_content(support::main_database);
+    ASSERT_EQ(backup_sqlite_db(), 0);
+    EXPECT_EQ(support::file_content(support::main_database), before);
+}
+
+TEST(RestoreSqliteDb, brings_the_backup_back) {
+    support::execute("insert into user_urlinfo(name) values('a');");
+    ASSERT_EQ(backup_sqlite_db(), 0);
+    const std::string backup = support::file_content(support::backup_database);
+    support::execute("delete from user_urlinfo;");
+    ASSERT_EQ(restore_sqlite_db(), 0);
+    EXPECT_EQ(support::file_content(support::main_database), backup);
+    EXPECT_EQ(support::value("select name from user_urlinfo;"), "a");
+}
+
+TEST(RestoreSqliteDb, leaves_the_main_database_as_it_was_without_a_backup) {
+    support::execute("insert into user_urlinfo(name) values('a');");
+    const std::string before = support::file_content(support::main_database);
+    support::streams_of([] { EXPECT_EQ(restore_sqlite_db(), 0); });
+    EXPECT_EQ(support::file_content(support::main_database), before);
+}
+
+TEST(RestoreSqliteDb, creates_no_database_without_a_backup) {
+    ASSERT_EQ(unlink(support::main_database), 0);
+    support::streams_of([] { EXPECT_EQ(restore_sqlite_db(), 0); });
+    EXPECT_FALSE(support::file_exists(support::main_database));
+}
+
+TEST(RestoreSqliteDb, brings_back_a_database_that_is_gone) {
+    ASSERT_EQ(backup_sqlite_db(), 0);
+    ASSERT_EQ(unlink(support::main_database), 0);
+    ASSERT_EQ(restore_sqlite_db(), 0);
+    EXPECT_EQ(support::file_content(support::main_database), support::file_content(support::backup_database));
+}
+
+TEST(ResetSqliteDb, brings_the_factory_database_back) {
+    support::execute("insert into user_urlinfo(name) values('a');");
+    ASSERT_EQ(reset_sqlite_db(), 0);
+    EXPECT_EQ(support::file_content(support::main_database), support::file_content(support::factory_database));
+}
+
+TEST(ResetSqliteDb, leaves_the_backup_alone) {
+    support::execute("insert into user_urlinfo(name) values('a');");
+    ASSERT_EQ(backup_sqlite_db(), 0);
+    const std::string backup = support::file_content(support::backup_database);
+    ASSERT_EQ(reset_sqlite_db(), 0);
+    EXPECT_EQ(support::file_content(support::backup_database), backup);
+}
+
+}  // namespace

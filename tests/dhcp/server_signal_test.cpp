@@ -1,0 +1,122 @@
+// The DHCP server writes its leases when it is asked to, and is read afterwards.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+
+#include "dhcp/leases.h"
+#include "support/database.h"
+#include "support/gate.h"
+#include "support/named.h"
+#include "support/process.h"
+#include "support/recorder.h"
+#include "support/streams.h"
+
+namespace {
+
+using support::Recorder;
+using Lines = std::vector<std::string>;
+
+constexpr char text_line[] = "1700000000 AA:BB:CC:DD:EE:0F 192.168.1.2 phone\n";
+
+/// A way to read leases, the file that it reads, and what the server writes there.
+struct Reader : support::Named {
+    const char *file;
+    std::string content;
+    std::string (*read)();  // with the pid file of the server
+};
+
+std::string read_host_name() {
+    char host[128] = "unknown";
+    get_hostname_by_mac_from_lease("AA:BB:CC:DD:EE:0F", host, leases::text_file, leases::pid_file);
+    return host;
+}
+
+std::string read_router_host_name() {
+    char host[128] = "unknown";
+    get_hostname_by_mac("AA:BB:CC:DD:EE:0F", host, 0);
+    return host;
+}
+
+std::string read_list() {
+    LeaseNode *head = nullptr;
+    const int count = get_addrserver_leases_sql(&head, leases::binary_file, leases::pid_file);
+    const std::string host = count > 0 ? head->hostname : "unknown";
+    free_leaselist_sql(&head);
+    return host;
+}
+
+class ServerSignal : public testing::TestWithParam<Reader> {};
+
+/// Waits for the signal, then writes the lease file as a whole.
+bool serve(const support::Gate &ready, const Reader &reader) {
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGUSR1);
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
+    ready.open();
+    const timespec limit{10, 0};
+    if (sigtimedwait(&signals, nullptr, &limit) != SIGUSR1) {
+        return false;
+    }
+    const std::string unfinished = std::string(reader.file) + ".new";
+    support::write_file(unfinished, reader.content);
+    return rename(unfinished.c_str(), reader.file) == 0;
+}
+
+TEST_P(ServerSignal, makes_the_server_write_before_the_file_is_read) {
+    const support::Gate ready;
+    support::Process server([&ready] { return serve(ready, GetParam()); });
+    ready.wait();
+    support::write_file(leases::pid_file, std::to_string(server.id()) + "\n");
+    support::write_file(GetParam().file, "");
+
+    Recorder recorder;
+    bool written = false;
+    recorder.watch([&](const std::string &line) {
+        if (line == "usleep 1000") {  // as if the server were quick enough
+            written = server.wait() == 0;
+        }
+    });
+    const std::string kill = "kill " + std::to_string(server.id()) + " 10";
+    EXPECT_EQ(GetParam().read(), "phone");
+    EXPECT_TRUE(written);
+    EXPECT_EQ(recorder.calls(), (Lines{kill, "usleep 1000"}));
+}
+
+TEST_P(ServerSignal, is_not_sent_by_a_pid_file_without_a_process) {
+    support::write_file(GetParam().file, GetParam().content);
+    for (const char *content : {"0\n", "-1\n", "-2147483648\n", "", "dnsmasq\n"}) {
+        support::write_file(leases::pid_file, content);
+        Recorder recorder;
+        EXPECT_EQ(GetParam().read(), "phone");
+        EXPECT_EQ(recorder.calls(), Lines{"usleep 1000"}) << content;
+    }
+    ASSERT_EQ(unlink(leases::pid_file), 0);
+    Recorder recorder;
+    EXPECT_EQ(GetParam().read(), "phone");
+    EXPECT_EQ(recorder.calls(), Lines{"usleep 1000"});
+}
+
+TEST_P(ServerSignal, to_a_process_that_has_ended_changes_nothing) {
+    support::write_file(GetParam().file, GetParam().content);
+    support::Process server([] { return true; });
+    const std::string id = std::to_string(server.id());
+    ASSERT_EQ(server.wait(), 0);
+    support::write_file(leases::pid_file, id + "\n");
+    Recorder recorder;
+    const auto said = support::streams_of([] { EXPECT_EQ(GetParam().read(), "phone"); });
+    EXPECT_EQ(recorder.calls(), (Lines{"kill " + id + " 10", "usleep 1000"}));
+    EXPECT_EQ(said.output + said.error, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ServerSignal,
+    testing::Values(Reader{"HostName", leases::text_file, text_line, read_host_name},
+                    Reader{"RouterHostName", "/var/dhcp.leases", text_line, read_router_host_name},
+                    Reader{"List", leases::binary_file,
+                           leases::header + leases::record(10, leases::some_ip, leases::some_mac, "phone"), read_list}),
+    [](const auto &test) { return test.param.name; });
+
+}  // namespace

@@ -1,0 +1,128 @@
+// What the lists of the application catalogue call and wait for, and the descriptors that they close.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "json/catalogue.h"
+#include "json/printed.h"
+#include "routerdb.h"
+#include "support/database.h"
+#include "support/recorder.h"
+
+namespace {
+
+using catalogue::List;
+using printed::by;
+using support::Recorder;
+using Lines = std::vector<std::string>;
+
+void append(Lines &lines, const Lines &more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+/// Connection and statement from the first draw to the first step.
+Lines begin_of(const std::string &query) {
+    return {"gettimeofday",
+            "srand",
+            "rand",
+            "sqlite3_open /etc/config/systemconf/database/dpilib.db",
+            "sqlite3_prepare_v2 " + query,
+            "sqlite3_step"};
+}
+
+const Lines &end() {
+    static const Lines calls{"sqlite3_finalize", "sqlite3_close", "close 0"};
+    return calls;
+}
+
+class CatalogueCalls : public testing::TestWithParam<List> {
+protected:
+    CatalogueCalls() { catalogue::open_descriptor(STDIN_FILENO); }
+
+    static std::string print() {
+        return by([] { GetParam().print(); });
+    }
+};
+
+TEST_P(CatalogueCalls, of_an_empty_table_are_those_of_the_count) {
+    const Recorder recorder;
+    print();
+    Lines expected = begin_of(GetParam().count_query);
+    append(expected, end());
+    EXPECT_EQ(recorder.calls(), expected);
+    EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
+}
+
+TEST_P(CatalogueCalls, count_on_one_connection_and_read_on_another_and_close_standard_input_after_each) {
+    catalogue::fill();
+    const int descriptors = support::open_descriptors();
+    const Recorder recorder;
+    print();
+    Lines expected = begin_of(GetParam().count_query);
+    append(expected, end());
+    append(expected, begin_of(GetParam().row_query));
+    const Lines calls = recorder.calls();
+    ASSERT_GT(calls.size(), expected.size() + 3);
+    EXPECT_EQ(Lines(calls.begin(), calls.begin() + static_cast<long>(expected.size())), expected);
+    EXPECT_EQ(Lines(calls.end() - 3, calls.end()), end());
+    EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
+    EXPECT_EQ(support::open_descriptors(), descriptors - 1);
+}
+
+TEST_P(CatalogueCalls, share_one_series_of_sleeps_through_open_prepare_and_first_step) {
+    catalogue::fill();
+    Recorder recorder;
+    recorder.answer("rand", {0, 2147483647});  // the count's, that of the rows
+    for (const char *function : {"sqlite3_open", "sqlite3_prepare_v2", "sqlite3_step"}) {
+        recorder.answer(function, {Recorder::really, SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    }
+    const printed::List list = printed::parse(print(), "ItemList");
+    EXPECT_GE(list.elements.size(), 2U);
+    EXPECT_EQ(recorder.sleeps(), (std::vector<unsigned>{155, 160, 165, 170, 175, 180, 185, 190, 195}));
+}
+
+TEST_P(CatalogueCalls, wait_while_the_catalogue_is_locked_before_they_count) {
+    catalogue::fill();
+    const std::string unlocked = print();
+    Recorder recorder;
+    recorder.answer("rand", {0});
+    recorder.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_BUSY});
+    EXPECT_EQ(print(), unlocked);
+    EXPECT_EQ(recorder.sleeps(), (std::vector<unsigned>{56, 61}));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CatalogueCalls, testing::ValuesIn(catalogue::lists()),
+                         [](const auto &test) { return test.param.name; });
+
+TEST(GetAppClassItemListCalls, join_the_names_of_each_class_on_the_connection_of_the_list) {
+    catalogue::fill();
+    catalogue::execute("delete from App_Class where Id<>7;");
+    const Recorder recorder;
+    by(GetAppClassItemList);
+    EXPECT_EQ(recorder.calls({"sqlite3"}), (Lines{
+                                               "sqlite3_open /etc/config/systemconf/database/dpilib.db",
+                                               "sqlite3_prepare_v2 select  count(*) from App_Class;",
+                                               "sqlite3_step",
+                                               "sqlite3_finalize",
+                                               "sqlite3_close",
+                                               "sqlite3_open /etc/config/systemconf/database/dpilib.db",
+                                               "sqlite3_prepare_v2 select * from App_Class order by Id ;",
+                                               "sqlite3_step",
+                                               "sqlite3_prepare_v2 select Name from App_Info where Class_Id='7';",
+                                               "sqlite3_step",
+                                               "sqlite3_step",
+                                               "sqlite3_finalize",
+                                               "sqlite3_prepare_v2 select Name_En from App_Info where Class_Id='7';",
+                                               "sqlite3_step",
+                                               "sqlite3_step",
+                                               "sqlite3_finalize",
+                                               "sqlite3_prepare_v2 select Features from App_Info where Class_Id='7';",
+                                               "sqlite3_step",
+                                               "sqlite3_step",
+                                               "sqlite3_finalize",
+                                               "sqlite3_step",
+                                               "sqlite3_finalize",
+                                               "sqlite3_close",
+                                           }));
+}
+
+}  // namespace

@@ -1,0 +1,134 @@
+// What becomes of a list when the application catalogue cannot be read.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include "json/catalogue.h"
+#include "json/faults.h"
+#include "json/printed.h"
+#include "routerdb.h"
+#include "support/database.h"
+#include "support/deliberate_leak.h"
+#include "support/recorder.h"
+
+namespace {
+
+using catalogue::List;
+using printed::by;
+using support::Recorder;
+using Lines = std::vector<std::string>;
+
+constexpr char open_call[] = "sqlite3_open /etc/config/systemconf/database/dpilib.db";
+
+class CatalogueFailures : public testing::TestWithParam<List> {
+protected:
+    CatalogueFailures() {
+        catalogue::open_descriptor(STDIN_FILENO);
+        catalogue::fill();
+    }
+
+    static std::string print() {
+        return by([] { GetParam().print(); });
+    }
+
+    static std::string error_without_table() { return "no such table: " + std::string(GetParam().table); }
+};
+
+TEST_P(CatalogueFailures, count_nothing_when_the_catalogue_cannot_be_opened) {
+    faults::make_unopenable(support::catalogue_database);
+    const support::DeliberateLeak leak;
+    printed::expect_complete(print(), R"({"ItemList":{"count":"0"}})");
+    EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
+}
+
+TEST_P(CatalogueFailures, put_the_message_of_a_failed_count_before_the_list) {
+    catalogue::execute("drop table " + std::string(GetParam().table) + ";");
+    printed::expect_unfinished(print(), "Error: " + error_without_table() + R"({"ItemList":{"count":"0"}})");
+    EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
+}
+
+TEST_P(CatalogueFailures, leave_the_list_unfinished_without_a_word_when_the_second_open_fails) {
+    const int descriptors = support::open_descriptors();
+    Recorder recorder;
+    faults::before(recorder, open_call, 2, [] { faults::make_unopenable(support::catalogue_database); });
+    printed::expect_unfinished(print(), R"({"ItemList":{"data":[)");
+    EXPECT_EQ(recorder.calls({"sqlite3_open"}), (Lines{open_call, open_call}));
+    EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
+    EXPECT_LE(support::open_descriptors(), descriptors);
+}
+
+TEST_P(CatalogueFailures, close_the_descriptor_whose_number_is_the_code_of_the_failed_open) {
+    for (const int code : {14, 26, 101}) {
+        catalogue::open_descriptor(STDIN_FILENO);
+        catalogue::open_descriptor(code);
+        ASSERT_TRUE(catalogue::is_open(code));
+        Recorder recorder;
+        recorder.answer("sqlite3_open", {Recorder::really, code});
+        printed::expect_unfinished(print(), R"({"ItemList":{"data":[)");
+        EXPECT_FALSE(catalogue::is_open(code)) << code;
+        EXPECT_EQ(recorder.calls({"close 0"}), Lines{"close 0"});  // by the count
+    }
+}
+
+TEST_P(CatalogueFailures, close_no_descriptor_by_a_code_when_all_goes_well) {
+    for (const int code : {14, 100, 101}) {
+        catalogue::open_descriptor(code);
+    }
+    EXPECT_TRUE(printed::is_json(print()));
+    for (const int code : {14, 100, 101}) {
+        EXPECT_TRUE(catalogue::is_open(code)) << code;
+    }
+}
+
+TEST_P(CatalogueFailures, leave_the_list_unfinished_with_a_message_when_the_rows_cannot_be_prepared) {
+    const int descriptors = support::open_descriptors();
+    Recorder recorder;
+    faults::before(recorder, "sqlite3_prepare_v2 " + std::string(GetParam().row_query), 1,
+                   [] { catalogue::execute("drop table " + std::string(GetParam().table) + ";"); });
+    printed::expect_unfinished(print(), R"({"ItemList":{"data":[Webserver Error: )" + error_without_table());
+    EXPECT_EQ(recorder.calls({open_call, "sqlite3_close", "close 0"}),
+              (Lines{open_call, "sqlite3_close", "close 0", open_call, "sqlite3_close", "close 0"}));
+    EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
+    EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
+    EXPECT_EQ(support::open_descriptors(), descriptors - 1);
+}
+
+TEST_P(CatalogueFailures, close_the_list_when_the_first_step_fails) {
+    for (const int code : {SQLITE_ERROR, SQLITE_MISUSE, SQLITE_CORRUPT}) {
+        catalogue::open_descriptor(STDIN_FILENO);
+        Recorder recorder;
+        recorder.answer("sqlite3_step", {Recorder::really, code});
+        const std::string count = GetParam().name == "OneClass" ? "3" : "0";
+        printed::expect_complete(print(), catalogue::opening + std::string(GetParam().closing) + count + "\"}}");
+        EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
+        EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, CatalogueFailures, testing::ValuesIn(catalogue::lists()),
+                         [](const auto &test) { return test.param.name; });
+
+TEST(GetAppInfoItemListByClassid, closes_the_list_behind_the_rows_that_it_got) {
+    catalogue::fill();
+    Recorder recorder;
+    recorder.answer("sqlite3_step", {Recorder::really, Recorder::really, SQLITE_BUSY});
+    printed::expect_complete(
+        by([] { GetAppInfoItemListByClassid("3"); }),
+        R"({"ItemList":{"data":[)"
+        R"({"id":"1","class_id":"3","appname":"A","appname_en":"A en","features":"fa","mark":"first"},)"
+        R"({"id":"","class_id":"","appname":"","appname_en":"","features":"","mark":"" }],)"
+        R"("count":"1"}})");
+    EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
+}
+
+TEST(GetAppClassItemList, puts_the_messages_of_names_that_cannot_be_joined_before_the_element) {
+    catalogue::execute("insert into App_Class values(3,'n','e',0,'m'); drop table App_Info;");
+    const std::string message = "Webserver Error: no such table: App_Info";
+    printed::expect_unfinished(by(GetAppClassItemList),
+                               catalogue::opening + message + message + message +
+                                   R"({"id":"3","name":"n","name_en":"e","mark":"m","priority":"0","bw":"0",)"
+                                   R"("appnames":"","appnames_en":"","appfeature":""},)"
+                                   R"({"id":"","name":"","name_en":"","mark":"","priority":"","bw":"",)"
+                                   R"("appnames":"","appnames_en":"","appfeature":""}],"count":"1"}})");
+}
+
+}  // namespace

@@ -1,0 +1,69 @@
+#include "support/process.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <exception>
+
+namespace support {
+
+namespace {
+
+[[noreturn]] void run(const std::function<bool()> &action) {
+    int status = 1;
+    try {
+        status = action() ? 0 : 1;
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "%s\n", error.what());
+    }
+    _exit(status);  // the test's own objects are not this process's to destroy
+}
+
+}  // namespace
+
+Process::Process(const std::function<bool()> &action) : id_(fork()) {
+    if (id_ == 0) {
+        run(action);
+    }
+}
+
+Process::~Process() {
+    if (id_ > 0) {
+        kill(id_, SIGKILL);
+        wait();
+    }
+}
+
+int Process::wait() {
+    int status = 0;
+    waitpid(id_, &status, 0);
+    id_ = -1;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+bool become(const std::vector<std::string> &arguments) {
+    std::vector<char *> words;
+    words.reserve(arguments.size() + 1);
+    for (const std::string &argument : arguments) {
+        words.push_back(const_cast<char *>(argument.c_str()));  // the program gets copies
+    }
+    words.push_back(nullptr);
+    execv(words[0], words.data());
+    return false;
+}
+
+bool eventually(const std::function<bool()> &condition) {
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            return false;
+        }
+        usleep(1000);
+    }
+    return true;
+}
+
+}  // namespace support

@@ -1,0 +1,162 @@
+// The service as a process: its socket, its start and its end.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <csignal>
+
+#include "support/database.h"
+#include "support/fake_service.h"
+#include "support/peer.h"
+#include "support/record.h"
+#include "support/service.h"
+#include "support/streams.h"
+#include "support/system_log.h"
+
+namespace {
+
+using support::exchange;
+using support::Peer;
+using support::Process;
+using support::request;
+using support::service_socket;
+using support::SystemLog;
+using support::words;
+
+using Lines = std::vector<std::string>;
+
+bool serves() {
+    return exchange(request(5, 1, "select * from user_timegroup;")) == words({5, 1, 0});
+}
+
+mode_t mode_of_socket() {
+    struct stat status {};
+    stat(service_socket, &status);
+    return status.st_mode;
+}
+
+struct Outcome {
+    int status;
+    std::string output;
+    std::string error;
+};
+
+/// Runs the program to its end.
+Outcome run(const std::vector<std::string> &arguments = {}) {
+    Outcome outcome{};
+    const auto streams = support::streams_of([&] {
+        Process process([&] { return support::become(support::sqld(arguments)); });
+        outcome.status = process.wait();
+    });
+    outcome.output = streams.output;
+    outcome.error = streams.error;
+    return outcome;
+}
+
+TEST(SqldSocket, is_open_to_owner_and_group_whatever_the_umask) {
+    for (const mode_t mask : {0U, 0077U, 0777U}) {
+        umask(mask);
+        const support::Service service;
+        EXPECT_EQ(mode_of_socket(), mode_t{S_IFSOCK | 0660});
+    }
+}
+
+TEST(SqldSocket, left_by_a_killed_service_is_replaced) {
+    {
+        support::Service service;
+        service.signal(SIGKILL);
+        EXPECT_EQ(service.wait(), 128 + SIGKILL);
+    }
+    EXPECT_TRUE(support::file_exists(service_socket));
+    const support::Service service;
+    EXPECT_TRUE(serves());
+}
+
+TEST(SqldSocket, that_is_served_keeps_a_second_service_from_starting) {
+    const support::Service first;
+    const SystemLog log;
+    const Outcome second = run();
+    EXPECT_EQ(second.status, 1);
+    EXPECT_EQ(second.error, "routerdb-sqld: cannot listen, see the system log\n");
+    EXPECT_EQ(second.output, "");
+    const Lines lines = log.lines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "27 /var/sqlserver_socket is served already"), 1);
+    EXPECT_TRUE(serves());
+}
+
+TEST(SqldSocket, that_cannot_be_made_keeps_the_service_from_starting) {
+    mkdir(service_socket, 0755);
+    const SystemLog log;
+    const Outcome service = run();
+    EXPECT_EQ(service.status, 1);
+    EXPECT_EQ(service.error, "routerdb-sqld: cannot listen, see the system log\n");
+    EXPECT_EQ(log.lines(), Lines{"27 cannot listen on /var/sqlserver_socket: Address already in use"});
+}
+
+class SqldStop : public testing::TestWithParam<int> {};
+
+TEST_P(SqldStop, removes_the_socket_and_ends_well) {
+    const SystemLog log;
+    support::Service service;
+    service.signal(GetParam());
+    EXPECT_EQ(service.wait(), 0);
+    EXPECT_FALSE(support::file_exists(service_socket));
+    EXPECT_FALSE(Peer().connected());
+    EXPECT_EQ(log.lines(), (Lines{"30 started", "28 request refused, its header breaks off: Connection reset by peer",
+                                  "30 stopped"}));
+}
+
+TEST_P(SqldStop, ends_well_as_soon_as_it_listens) {
+    const SystemLog log;
+    SystemLog::fill();  // so that it comes no further
+    Process service([] { return support::become(support::sqld()); });
+    ASSERT_TRUE(support::eventually([] { return Peer().connected(); }));
+    kill(service.id(), GetParam());
+    log.lines();
+    EXPECT_EQ(service.wait(), 0);
+    EXPECT_FALSE(support::file_exists(service_socket));
+}
+
+TEST_P(SqldStop, finishes_a_request_under_way_and_takes_no_other) {
+    support::execute("insert into user_timegroup(name) values('group');");
+    support::Service service;
+    const std::string whole = request(5, 2, "delete from user_timegroup;");
+    const Peer peer;
+    peer.send(whole.substr(0, 20));
+    ASSERT_TRUE(service.has_children(1));
+    service.signal(GetParam());
+    ASSERT_TRUE(support::eventually([] { return !support::file_exists(service_socket); }));
+    EXPECT_FALSE(Peer().connected());
+    usleep(100'000);
+    EXPECT_EQ(service.children().size(), 1U) << "it waits for the request";
+    peer.send(whole.substr(20));
+    EXPECT_EQ(peer.receive(), words({5, 2, 0}));
+    EXPECT_EQ(service.wait(), 0);
+    EXPECT_EQ(support::value("select count(*) from user_timegroup"), "0");
+}
+
+INSTANTIATE_TEST_SUITE_P(, SqldStop, testing::Values(SIGTERM, SIGINT));
+
+TEST(SqldOptions, explain_themselves) {
+    const Outcome help = run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_EQ(help.output,
+              "usage: routerdb-sqld [--help | --version]\n"
+              "Answers the rule-table requests of librouterdb on /var/sqlserver_socket until SIGTERM.\n"
+              "Messages go to the system log.\n");
+    EXPECT_EQ(run({"--version"}).output.substr(0, 14), "routerdb-sqld ");
+}
+
+TEST(SqldOptions, that_nobody_knows_are_refused) {
+    for (const std::vector<std::string> &arguments :
+         {std::vector<std::string>{"--frob"}, {"/var/other_socket"}, {"--help", "--version"}}) {
+        const Outcome service = run(arguments);
+        EXPECT_EQ(service.status, 2);
+        EXPECT_EQ(service.output, "");
+        EXPECT_EQ(service.error.substr(0, 41), "usage: routerdb-sqld [--help | --version]");
+        EXPECT_FALSE(support::file_exists(service_socket));
+    }
+}
+
+}  // namespace

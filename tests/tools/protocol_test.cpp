@@ -1,0 +1,163 @@
+// What the service makes of single requests, good and bad.
+#include <gtest/gtest.h>
+
+#include "routerdb.h"
+#include "support/database.h"
+#include "support/peer.h"
+#include "support/record.h"
+#include "support/service.h"
+#include "support/system_log.h"
+
+namespace {
+
+using support::exchange;
+using support::Peer;
+using support::request;
+using support::words;
+
+using Lines = std::vector<std::string>;
+
+constexpr std::size_t longest = 65536;
+
+class Sqld : public testing::Test {
+protected:
+    Sqld() {
+        log_.lines();  // of the start
+        support::execute("insert into user_timegroup values(1,'group',0,0,0,0,0,0,0,'','','');");
+    }
+
+    static std::string groups() { return support::value("select count(*) from user_timegroup"); }
+
+    /// A scalar through the library: size and data.
+    static std::string scalar(const std::string &sql) {
+        const SqlRequest question{100, 1, static_cast<std::uint32_t>(sql.size()), sql.c_str()};
+        SqlReply reply{};
+        EXPECT_EQ(sqlclient_cmd(&question, &reply), 0);
+        std::string text = std::to_string(reply.size) + ":";
+        if (reply.size > 0) {
+            text.append(static_cast<const char *>(reply.data), static_cast<std::size_t>(reply.size));
+        }
+        free(reply.data);
+        return text;
+    }
+
+    /// A statement with blanks in front, so long.
+    static std::string padded(const std::string &statement, std::size_t length) {
+        return std::string(length - statement.size(), ' ') + statement;
+    }
+
+    support::SystemLog log_;
+    support::Service service_;
+};
+
+TEST_F(Sqld, echoes_table_and_operation_before_the_records) {
+    const std::string record = support::Record(380).number(0, 1).text(4, "group").bytes();
+    EXPECT_EQ(exchange(request(5, 1, "select * from user_timegroup;")), words({5, 1, 380}) + record);
+    EXPECT_EQ(exchange(request(2, 1, "select * from filter_url;")), words({2, 1, 0}));
+}
+
+TEST_F(Sqld, executes_and_answers_without_data) {
+    EXPECT_EQ(exchange(request(5, 2, "insert into user_timegroup(name) values('a');")), words({5, 2, 0}));
+    EXPECT_EQ(groups(), "2");
+    EXPECT_EQ(exchange(request(4'000'000'000U, 2, "insert into user_timegroup(name) values('b');")),
+              words({4'000'000'000U, 2, 0}))
+        << "an execute is not bound to the table";
+    EXPECT_EQ(groups(), "3");
+    EXPECT_EQ(exchange(request(5, 2, "select * from user_timegroup;")), words({5, 2, 0}));
+}
+
+TEST_F(Sqld, answers_statements_that_fail_without_data) {
+    EXPECT_EQ(exchange(request(5, 2, "insert into nowhere values(1);")), words({5, 2, 0}));
+    EXPECT_EQ(exchange(request(5, 1, "select * from nowhere;")), words({5, 1, 0}));
+    EXPECT_EQ(exchange(request(100, 1, "select * from nowhere;")), words({100, 1, 0}));
+    EXPECT_EQ(exchange(request(5, 1, "")), words({5, 1, 0}));
+    EXPECT_EQ(log_.lines(), (Lines{"27 failed: \"insert into nowhere values(1);\"",
+                                   "27 cannot prepare \"select * from nowhere;\": no such table: nowhere",
+                                   "27 cannot prepare \"select * from nowhere;\": no such table: nowhere"}));
+}
+
+TEST_F(Sqld, answers_scalars_as_terminated_text) {
+    EXPECT_EQ(scalar("select count(*) from user_timegroup where name='group';"), std::string("2:1\0", 4));
+    EXPECT_EQ(scalar("select name,id from user_timegroup;"), std::string("6:group\0", 8));
+    EXPECT_EQ(scalar("select '';"), std::string("1:\0", 3));
+    EXPECT_EQ(scalar("select '" + std::string(60'000, 'x') + "';"), "60001:" + std::string(60'000, 'x') + '\0');
+}
+
+TEST_F(Sqld, answers_scalars_that_are_null_or_lack_a_row_without_data) {
+    EXPECT_EQ(scalar("select null;"), "0:");
+    EXPECT_EQ(scalar("select mark from user_timegroup where id='2';"), "0:");
+}
+
+TEST_F(Sqld, has_no_list_for_an_unknown_table) {
+    EXPECT_EQ(exchange(request(77, 1, "select * from user_timegroup;")), words({77, 1, 0}));
+    EXPECT_EQ(exchange(request(0, 1, "select * from user_timegroup;")), words({0, 1, 0}));
+    EXPECT_EQ(log_.lines(), (Lines{"28 no list for table 77", "28 no list for table 0"}));
+}
+
+TEST_F(Sqld, hangs_up_on_an_unknown_operation) {
+    for (const unsigned operation : {0U, 3U, 0xffffffffU}) {
+        EXPECT_EQ(exchange(request(5, operation, "delete from user_timegroup;")), "");
+    }
+    EXPECT_EQ(groups(), "1");
+    EXPECT_EQ(log_.lines(), (Lines{"28 request refused, unknown operation 0", "28 request refused, unknown operation 3",
+                                   "28 request refused, unknown operation 4294967295"}));
+}
+
+TEST_F(Sqld, does_not_execute_what_comes_as_a_query) {
+    for (const char *statement :
+         {"delete from user_timegroup;", "insert into user_timegroup(name) values('a') returning name;",
+          "drop table user_timegroup;", "select 1; delete from user_timegroup;"}) {
+        exchange(request(5, 1, statement));
+        exchange(request(100, 1, statement));
+        EXPECT_EQ(groups(), "1") << statement;
+        log_.lines();
+    }
+    EXPECT_EQ(exchange(request(5, 1, "delete from user_timegroup;")), words({5, 1, 0}));
+    EXPECT_EQ(log_.lines(), Lines{"27 not a query: \"delete from user_timegroup;\""});
+}
+
+TEST_F(Sqld, takes_statements_of_up_to_64_kibibytes) {
+    const std::string removal = "delete from user_timegroup;";
+    EXPECT_EQ(exchange(request(5, 2, padded(removal, longest + 1))), "");
+    EXPECT_EQ(groups(), "1");
+    EXPECT_EQ(exchange(words({5, 2, 0xffffffff}) + removal), "");
+    EXPECT_EQ(groups(), "1");
+    EXPECT_EQ(exchange(request(5, 2, padded(removal, longest))), words({5, 2, 0}));
+    EXPECT_EQ(groups(), "0");
+    EXPECT_EQ(log_.lines(), (Lines{"28 request refused, it announces 65537 bytes",
+                                   "28 request refused, it announces 4294967295 bytes"}));
+}
+
+TEST_F(Sqld, refuses_a_request_that_breaks_off) {
+    const std::string whole = request(5, 2, "delete from user_timegroup; ");
+    for (const auto &[length, part] : std::vector<std::pair<std::size_t, std::string>>{
+             {0, "header"}, {1, "header"}, {11, "header"}, {12, "text"}, {whole.size() - 1, "text"}}) {
+        const Peer peer;
+        peer.send(whole.substr(0, length));
+        peer.finish();
+        EXPECT_EQ(peer.receive(), "");
+        EXPECT_EQ(log_.lines(), Lines{"28 request refused, its " + part + " breaks off: Connection reset by peer"});
+    }
+    EXPECT_EQ(groups(), "1");
+}
+
+TEST_F(Sqld, takes_a_request_byte_by_byte) {
+    const Peer peer;
+    for (const char byte : request(5, 2, "delete from user_timegroup;")) {
+        peer.send(std::string(1, byte));
+        usleep(1000);
+    }
+    EXPECT_EQ(peer.receive(), words({5, 2, 0}));
+    EXPECT_EQ(groups(), "0");
+}
+
+TEST_F(Sqld, does_not_mind_a_peer_that_leaves_without_its_reply) {
+    {
+        const Peer peer;
+        peer.send(request(5, 2, "insert into user_timegroup(name) values('a');"));
+    }
+    EXPECT_TRUE(support::eventually([] { return groups() == "2"; }));
+    EXPECT_EQ(exchange(request(5, 2, "delete from user_timegroup;")), words({5, 2, 0}));
+}
+
+}  // namespace
