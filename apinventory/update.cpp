@@ -2,6 +2,7 @@
 
 #include "apinventory/fragments.h"
 #include "apinventory/numbers.h"
+#include "apinventory/wlan_fragments.h"
 
 namespace routerdb {
 
@@ -78,20 +79,6 @@ constexpr Fragment configured_device[] = {
     DEVICE(blank, Dev_Wlan_GroupId, comma),
 };
 
-constexpr Fragment configured_wlan[] = {
-    WLAN(blank, Enable, comma),
-    WLAN(blank, Hide_Ssid, comma),
-    WLAN(blank, Ssid, comma),
-    WLAN(blank, VlanId, comma),
-    WLAN(blank, Security, comma),
-    WLAN(blank, Authmode, comma),
-    WLAN(blank, Securitycipher, comma),
-    WLAN(nothing, Wep_Type, comma),
-    WLAN(nothing, Wep_Value, comma),
-    WLAN(nothing, Psk_Type, comma),
-    WLAN(nothing, Psk_Value, comma),
-};
-
 constexpr Fragment configured_radio[] = {
     RADIO(blank, Channel, comma),
     FRAGMENT(DevInfo, Dev_Wlan_Txpower, "Txpower", blank, power, comma),
@@ -144,7 +131,7 @@ void append_report(Text &sql, Report report, const DevInfo &device) {
 void append_configuration(Text &sql, const DevInfo &device) {
     sql.append("update DevInfo set ");
     append_fragments(sql, configured_device, scope_of(device, "", doubled));
-    append_wireless(sql, configured_wlan, configured_radio, device);
+    append_wireless(sql, settings_of_wlan, configured_radio, device);
     sql.append(" Dev_Status='1'   where Dev_Sn=")
         .append_quoted(static_cast<unsigned long>(device.Dev_Sn))
         .append("  ;");

@@ -6,6 +6,7 @@
 #include "apinventory/device_fields.h"
 #include "apinventory/fragments.h"
 #include "apinventory/groups.h"
+#include "apinventory/wlan_fragments.h"
 #include "apinventory/zero_config_defaults.h"
 #include "core/execute.h"
 #include "core/profiles.h"
@@ -19,20 +20,6 @@ constexpr bool as_given = false;
 
 // clang-format off
 constexpr Fragment saved_name = DEVICE_AS(blank, wlan_group_name, "Name", comma);
-
-constexpr Fragment saved_wlan[] = {
-    WLAN(blank, Enable, comma),
-    WLAN(blank, Hide_Ssid, comma),
-    WLAN(blank, Ssid, comma),
-    WLAN(blank, VlanId, comma),
-    WLAN(blank, Security, comma),
-    WLAN(blank, Authmode, comma),
-    WLAN(blank, Securitycipher, comma),
-    WLAN(nothing, Wep_Type, comma),
-    WLAN(nothing, Wep_Value, comma),
-    WLAN(nothing, Psk_Type, comma),
-    WLAN(nothing, Psk_Value, comma),
-};
 
 // Between the rate and the mode of the first radio, the RADIUS server is written.
 constexpr Fragment saved_radio_head[] = {
@@ -108,7 +95,7 @@ void append_update(Text &sql, const DevInfo &group, int id) {
     sql.append("update WlanZeroCfgGroupInfo set ");
     append_fragment(sql, saved_name, whole);
     for (unsigned number = 0; number < ROUTERDB_WLANS; ++number) {
-        append_fragments(sql, saved_wlan, scope_of_wlan(group, "WlanGroup_Wlan", number, as_given));
+        append_fragments(sql, settings_of_wlan, scope_of_wlan(group, "WlanGroup_Wlan", number, as_given));
     }
     append_fragments(sql, saved_radio_head, first);
     append_fragments(sql, saved_radius, whole);

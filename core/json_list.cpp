@@ -5,10 +5,8 @@
 namespace routerdb::json {
 
 void print(std::string_view piece) {
-    if (!piece.empty()) {
-        if (!piece.empty()) {  // an empty one may have no address, which fwrite does not take
+    if (!piece.empty()) {  // an empty one may have no address, which fwrite does not take
         std::fwrite(piece.data(), 1, piece.size(), stdout);
-    }
     }
 }
 

@@ -15,30 +15,30 @@ constexpr char reported_device[] =
     " Dev_RebootTime_Enable='c157', Dev_RebootTime='c158', Dev_Manufacture='c12',";
 
 const std::vector<std::string> reported_wlans = {
-    " Dev_Wlan1_Enable='c16', Dev_Wlan1_Hide_Ssid='c17', Dev_Wlan1_Ssid='c18', Dev_Wlan1_VlanId='c19',"
-    " Dev_Wlan1_Bssid='c20', Dev_Wlan1_Security='c21', Dev_Wlan1_Authmode='c22', Dev_Wlan1_Securitycipher='c23',"
-    "Dev_Wlan1_Wep_Type='c24',Dev_Wlan1_Wep_Value='c25',Dev_Wlan1_Psk_Type='c26',Dev_Wlan1_Psk_Value='c27',",
-    " Dev_Wlan2_Enable='c28', Dev_Wlan2_Hide_Ssid='c29', Dev_Wlan2_Ssid='c30', Dev_Wlan2_VlanId='c31',"
-    " Dev_Wlan2_Bssid='c32', Dev_Wlan2_Security='c33', Dev_Wlan2_Authmode='c34', Dev_Wlan2_Securitycipher='c35',"
-    "Dev_Wlan2_Wep_Type='c36',Dev_Wlan2_Wep_Value='c37',Dev_Wlan2_Psk_Type='c38',Dev_Wlan2_Psk_Value='c39',",
-    " Dev_Wlan3_Enable='c40', Dev_Wlan3_Hide_Ssid='c41', Dev_Wlan3_Ssid='c42', Dev_Wlan3_VlanId='c43',"
-    " Dev_Wlan3_Bssid='c44', Dev_Wlan3_Security='c45', Dev_Wlan3_Authmode='c46', Dev_Wlan3_Securitycipher='c47',"
-    "Dev_Wlan3_Wep_Type='c48',Dev_Wlan3_Wep_Value='c49',Dev_Wlan3_Psk_Type='c50',Dev_Wlan3_Psk_Value='c51',",
-    " Dev_Wlan4_Enable='c52', Dev_Wlan4_Hide_Ssid='c53', Dev_Wlan4_Ssid='c54', Dev_Wlan4_VlanId='c55',"
-    " Dev_Wlan4_Bssid='c56', Dev_Wlan4_Security='c57', Dev_Wlan4_Authmode='c58', Dev_Wlan4_Securitycipher='c59',"
-    "Dev_Wlan4_Wep_Type='c60',Dev_Wlan4_Wep_Value='c61',Dev_Wlan4_Psk_Type='c62',Dev_Wlan4_Psk_Value='c63',",
-    " Dev_Wlan5_Enable='c64', Dev_Wlan5_Hide_Ssid='c65', Dev_Wlan5_Ssid='c66', Dev_Wlan5_VlanId='c67',"
-    " Dev_Wlan5_Bssid='c68', Dev_Wlan5_Security='c69', Dev_Wlan5_Authmode='c70', Dev_Wlan5_Securitycipher='c71',"
-    "Dev_Wlan5_Wep_Type='c72',Dev_Wlan5_Wep_Value='c73',Dev_Wlan5_Psk_Type='c74',Dev_Wlan5_Psk_Value='c75',",
-    " Dev_Wlan6_Enable='c76', Dev_Wlan6_Hide_Ssid='c77', Dev_Wlan6_Ssid='c78', Dev_Wlan6_VlanId='c79',"
-    " Dev_Wlan6_Bssid='c80', Dev_Wlan6_Security='c81', Dev_Wlan6_Authmode='c82', Dev_Wlan6_Securitycipher='c83',"
-    "Dev_Wlan6_Wep_Type='c84',Dev_Wlan6_Wep_Value='c85',Dev_Wlan6_Psk_Type='c86',Dev_Wlan6_Psk_Value='c87',",
-    " Dev_Wlan7_Enable='c88', Dev_Wlan7_Hide_Ssid='c89', Dev_Wlan7_Ssid='c90', Dev_Wlan7_VlanId='c91',"
-    " Dev_Wlan7_Bssid='c92', Dev_Wlan7_Security='c93', Dev_Wlan7_Authmode='c94', Dev_Wlan7_Securitycipher='c95',"
-    "Dev_Wlan7_Wep_Type='c96',Dev_Wlan7_Wep_Value='c97',Dev_Wlan7_Psk_Type='c98',Dev_Wlan7_Psk_Value='c99',",
-    " Dev_Wlan8_Enable='c100', Dev_Wlan8_Hide_Ssid='c101', Dev_Wlan8_Ssid='c102', Dev_Wlan8_VlanId='c103',"
-    " Dev_Wlan8_Bssid='c104', Dev_Wlan8_Security='c105', Dev_Wlan8_Authmode='c106', Dev_Wlan8_Securitycipher='c107',"
-    "Dev_Wlan8_Wep_Type='c108',Dev_Wlan8_Wep_Value='c109',Dev_Wlan8_Psk_Type='c110',Dev_Wlan8_Psk_Value='c111',",
+    (" Dev_Wlan1_Enable='c16', Dev_Wlan1_Hide_Ssid='c17', Dev_Wlan1_Ssid='c18', Dev_Wlan1_VlanId='c19',"
+     " Dev_Wlan1_Bssid='c20', Dev_Wlan1_Security='c21', Dev_Wlan1_Authmode='c22', Dev_Wlan1_Securitycipher='c23',"
+     "Dev_Wlan1_Wep_Type='c24',Dev_Wlan1_Wep_Value='c25',Dev_Wlan1_Psk_Type='c26',Dev_Wlan1_Psk_Value='c27',"),
+    (" Dev_Wlan2_Enable='c28', Dev_Wlan2_Hide_Ssid='c29', Dev_Wlan2_Ssid='c30', Dev_Wlan2_VlanId='c31',"
+     " Dev_Wlan2_Bssid='c32', Dev_Wlan2_Security='c33', Dev_Wlan2_Authmode='c34', Dev_Wlan2_Securitycipher='c35',"
+     "Dev_Wlan2_Wep_Type='c36',Dev_Wlan2_Wep_Value='c37',Dev_Wlan2_Psk_Type='c38',Dev_Wlan2_Psk_Value='c39',"),
+    (" Dev_Wlan3_Enable='c40', Dev_Wlan3_Hide_Ssid='c41', Dev_Wlan3_Ssid='c42', Dev_Wlan3_VlanId='c43',"
+     " Dev_Wlan3_Bssid='c44', Dev_Wlan3_Security='c45', Dev_Wlan3_Authmode='c46', Dev_Wlan3_Securitycipher='c47',"
+     "Dev_Wlan3_Wep_Type='c48',Dev_Wlan3_Wep_Value='c49',Dev_Wlan3_Psk_Type='c50',Dev_Wlan3_Psk_Value='c51',"),
+    (" Dev_Wlan4_Enable='c52', Dev_Wlan4_Hide_Ssid='c53', Dev_Wlan4_Ssid='c54', Dev_Wlan4_VlanId='c55',"
+     " Dev_Wlan4_Bssid='c56', Dev_Wlan4_Security='c57', Dev_Wlan4_Authmode='c58', Dev_Wlan4_Securitycipher='c59',"
+     "Dev_Wlan4_Wep_Type='c60',Dev_Wlan4_Wep_Value='c61',Dev_Wlan4_Psk_Type='c62',Dev_Wlan4_Psk_Value='c63',"),
+    (" Dev_Wlan5_Enable='c64', Dev_Wlan5_Hide_Ssid='c65', Dev_Wlan5_Ssid='c66', Dev_Wlan5_VlanId='c67',"
+     " Dev_Wlan5_Bssid='c68', Dev_Wlan5_Security='c69', Dev_Wlan5_Authmode='c70', Dev_Wlan5_Securitycipher='c71',"
+     "Dev_Wlan5_Wep_Type='c72',Dev_Wlan5_Wep_Value='c73',Dev_Wlan5_Psk_Type='c74',Dev_Wlan5_Psk_Value='c75',"),
+    (" Dev_Wlan6_Enable='c76', Dev_Wlan6_Hide_Ssid='c77', Dev_Wlan6_Ssid='c78', Dev_Wlan6_VlanId='c79',"
+     " Dev_Wlan6_Bssid='c80', Dev_Wlan6_Security='c81', Dev_Wlan6_Authmode='c82', Dev_Wlan6_Securitycipher='c83',"
+     "Dev_Wlan6_Wep_Type='c84',Dev_Wlan6_Wep_Value='c85',Dev_Wlan6_Psk_Type='c86',Dev_Wlan6_Psk_Value='c87',"),
+    (" Dev_Wlan7_Enable='c88', Dev_Wlan7_Hide_Ssid='c89', Dev_Wlan7_Ssid='c90', Dev_Wlan7_VlanId='c91',"
+     " Dev_Wlan7_Bssid='c92', Dev_Wlan7_Security='c93', Dev_Wlan7_Authmode='c94', Dev_Wlan7_Securitycipher='c95',"
+     "Dev_Wlan7_Wep_Type='c96',Dev_Wlan7_Wep_Value='c97',Dev_Wlan7_Psk_Type='c98',Dev_Wlan7_Psk_Value='c99',"),
+    (" Dev_Wlan8_Enable='c100', Dev_Wlan8_Hide_Ssid='c101', Dev_Wlan8_Ssid='c102', Dev_Wlan8_VlanId='c103',"
+     " Dev_Wlan8_Bssid='c104', Dev_Wlan8_Security='c105', Dev_Wlan8_Authmode='c106', Dev_Wlan8_Securitycipher='c107',"
+     "Dev_Wlan8_Wep_Type='c108',Dev_Wlan8_Wep_Value='c109',Dev_Wlan8_Psk_Type='c110',Dev_Wlan8_Psk_Value='c111',"),
 };
 
 constexpr char reported_radios[] =
@@ -58,30 +58,30 @@ constexpr char configured_device[] =
     " Dev_Wlan_GroupId='c14',";
 
 const std::vector<std::string> configured_wlans = {
-    " Dev_Wlan1_Enable='c16', Dev_Wlan1_Hide_Ssid='c17', Dev_Wlan1_Ssid='c18', Dev_Wlan1_VlanId='c19',"
-    " Dev_Wlan1_Security='c21', Dev_Wlan1_Authmode='c22', Dev_Wlan1_Securitycipher='c23',Dev_Wlan1_Wep_Type='c24',"
-    "Dev_Wlan1_Wep_Value='c25',Dev_Wlan1_Psk_Type='c26',Dev_Wlan1_Psk_Value='c27',",
-    " Dev_Wlan2_Enable='c28', Dev_Wlan2_Hide_Ssid='c29', Dev_Wlan2_Ssid='c30', Dev_Wlan2_VlanId='c31',"
-    " Dev_Wlan2_Security='c33', Dev_Wlan2_Authmode='c34', Dev_Wlan2_Securitycipher='c35',Dev_Wlan2_Wep_Type='c36',"
-    "Dev_Wlan2_Wep_Value='c37',Dev_Wlan2_Psk_Type='c38',Dev_Wlan2_Psk_Value='c39',",
-    " Dev_Wlan3_Enable='c40', Dev_Wlan3_Hide_Ssid='c41', Dev_Wlan3_Ssid='c42', Dev_Wlan3_VlanId='c43',"
-    " Dev_Wlan3_Security='c45', Dev_Wlan3_Authmode='c46', Dev_Wlan3_Securitycipher='c47',Dev_Wlan3_Wep_Type='c48',"
-    "Dev_Wlan3_Wep_Value='c49',Dev_Wlan3_Psk_Type='c50',Dev_Wlan3_Psk_Value='c51',",
-    " Dev_Wlan4_Enable='c52', Dev_Wlan4_Hide_Ssid='c53', Dev_Wlan4_Ssid='c54', Dev_Wlan4_VlanId='c55',"
-    " Dev_Wlan4_Security='c57', Dev_Wlan4_Authmode='c58', Dev_Wlan4_Securitycipher='c59',Dev_Wlan4_Wep_Type='c60',"
-    "Dev_Wlan4_Wep_Value='c61',Dev_Wlan4_Psk_Type='c62',Dev_Wlan4_Psk_Value='c63',",
-    " Dev_Wlan5_Enable='c64', Dev_Wlan5_Hide_Ssid='c65', Dev_Wlan5_Ssid='c66', Dev_Wlan5_VlanId='c67',"
-    " Dev_Wlan5_Security='c69', Dev_Wlan5_Authmode='c70', Dev_Wlan5_Securitycipher='c71',Dev_Wlan5_Wep_Type='c72',"
-    "Dev_Wlan5_Wep_Value='c73',Dev_Wlan5_Psk_Type='c74',Dev_Wlan5_Psk_Value='c75',",
-    " Dev_Wlan6_Enable='c76', Dev_Wlan6_Hide_Ssid='c77', Dev_Wlan6_Ssid='c78', Dev_Wlan6_VlanId='c79',"
-    " Dev_Wlan6_Security='c81', Dev_Wlan6_Authmode='c82', Dev_Wlan6_Securitycipher='c83',Dev_Wlan6_Wep_Type='c84',"
-    "Dev_Wlan6_Wep_Value='c85',Dev_Wlan6_Psk_Type='c86',Dev_Wlan6_Psk_Value='c87',",
-    " Dev_Wlan7_Enable='c88', Dev_Wlan7_Hide_Ssid='c89', Dev_Wlan7_Ssid='c90', Dev_Wlan7_VlanId='c91',"
-    " Dev_Wlan7_Security='c93', Dev_Wlan7_Authmode='c94', Dev_Wlan7_Securitycipher='c95',Dev_Wlan7_Wep_Type='c96',"
-    "Dev_Wlan7_Wep_Value='c97',Dev_Wlan7_Psk_Type='c98',Dev_Wlan7_Psk_Value='c99',",
-    " Dev_Wlan8_Enable='c100', Dev_Wlan8_Hide_Ssid='c101', Dev_Wlan8_Ssid='c102', Dev_Wlan8_VlanId='c103',"
-    " Dev_Wlan8_Security='c105', Dev_Wlan8_Authmode='c106', Dev_Wlan8_Securitycipher='c107',"
-    "Dev_Wlan8_Wep_Type='c108',Dev_Wlan8_Wep_Value='c109',Dev_Wlan8_Psk_Type='c110',Dev_Wlan8_Psk_Value='c111',",
+    (" Dev_Wlan1_Enable='c16', Dev_Wlan1_Hide_Ssid='c17', Dev_Wlan1_Ssid='c18', Dev_Wlan1_VlanId='c19',"
+     " Dev_Wlan1_Security='c21', Dev_Wlan1_Authmode='c22', Dev_Wlan1_Securitycipher='c23',Dev_Wlan1_Wep_Type='c24',"
+     "Dev_Wlan1_Wep_Value='c25',Dev_Wlan1_Psk_Type='c26',Dev_Wlan1_Psk_Value='c27',"),
+    (" Dev_Wlan2_Enable='c28', Dev_Wlan2_Hide_Ssid='c29', Dev_Wlan2_Ssid='c30', Dev_Wlan2_VlanId='c31',"
+     " Dev_Wlan2_Security='c33', Dev_Wlan2_Authmode='c34', Dev_Wlan2_Securitycipher='c35',Dev_Wlan2_Wep_Type='c36',"
+     "Dev_Wlan2_Wep_Value='c37',Dev_Wlan2_Psk_Type='c38',Dev_Wlan2_Psk_Value='c39',"),
+    (" Dev_Wlan3_Enable='c40', Dev_Wlan3_Hide_Ssid='c41', Dev_Wlan3_Ssid='c42', Dev_Wlan3_VlanId='c43',"
+     " Dev_Wlan3_Security='c45', Dev_Wlan3_Authmode='c46', Dev_Wlan3_Securitycipher='c47',Dev_Wlan3_Wep_Type='c48',"
+     "Dev_Wlan3_Wep_Value='c49',Dev_Wlan3_Psk_Type='c50',Dev_Wlan3_Psk_Value='c51',"),
+    (" Dev_Wlan4_Enable='c52', Dev_Wlan4_Hide_Ssid='c53', Dev_Wlan4_Ssid='c54', Dev_Wlan4_VlanId='c55',"
+     " Dev_Wlan4_Security='c57', Dev_Wlan4_Authmode='c58', Dev_Wlan4_Securitycipher='c59',Dev_Wlan4_Wep_Type='c60',"
+     "Dev_Wlan4_Wep_Value='c61',Dev_Wlan4_Psk_Type='c62',Dev_Wlan4_Psk_Value='c63',"),
+    (" Dev_Wlan5_Enable='c64', Dev_Wlan5_Hide_Ssid='c65', Dev_Wlan5_Ssid='c66', Dev_Wlan5_VlanId='c67',"
+     " Dev_Wlan5_Security='c69', Dev_Wlan5_Authmode='c70', Dev_Wlan5_Securitycipher='c71',Dev_Wlan5_Wep_Type='c72',"
+     "Dev_Wlan5_Wep_Value='c73',Dev_Wlan5_Psk_Type='c74',Dev_Wlan5_Psk_Value='c75',"),
+    (" Dev_Wlan6_Enable='c76', Dev_Wlan6_Hide_Ssid='c77', Dev_Wlan6_Ssid='c78', Dev_Wlan6_VlanId='c79',"
+     " Dev_Wlan6_Security='c81', Dev_Wlan6_Authmode='c82', Dev_Wlan6_Securitycipher='c83',Dev_Wlan6_Wep_Type='c84',"
+     "Dev_Wlan6_Wep_Value='c85',Dev_Wlan6_Psk_Type='c86',Dev_Wlan6_Psk_Value='c87',"),
+    (" Dev_Wlan7_Enable='c88', Dev_Wlan7_Hide_Ssid='c89', Dev_Wlan7_Ssid='c90', Dev_Wlan7_VlanId='c91',"
+     " Dev_Wlan7_Security='c93', Dev_Wlan7_Authmode='c94', Dev_Wlan7_Securitycipher='c95',Dev_Wlan7_Wep_Type='c96',"
+     "Dev_Wlan7_Wep_Value='c97',Dev_Wlan7_Psk_Type='c98',Dev_Wlan7_Psk_Value='c99',"),
+    (" Dev_Wlan8_Enable='c100', Dev_Wlan8_Hide_Ssid='c101', Dev_Wlan8_Ssid='c102', Dev_Wlan8_VlanId='c103',"
+     " Dev_Wlan8_Security='c105', Dev_Wlan8_Authmode='c106', Dev_Wlan8_Securitycipher='c107',"
+     "Dev_Wlan8_Wep_Type='c108',Dev_Wlan8_Wep_Value='c109',Dev_Wlan8_Psk_Type='c110',Dev_Wlan8_Psk_Value='c111',"),
 };
 
 constexpr char configured_channel[] = " Dev_Wlan_Channel='c112',";

@@ -50,17 +50,29 @@ TEST(SqldLoad, serves_32_connections_at_once_and_the_others_after_them) {
 
 TEST(SqldLoad, lives_on_when_processes_that_serve_a_connection_die) {
     const support::Service service;
-    for (const int signal : {SIGTERM, SIGKILL}) {
+    for (int round = 0; round < 2; ++round) {
         std::list<Peer> peers(32);
         ASSERT_TRUE(service.has_children(32));
         for (const pid_t child : service.children()) {
-            kill(child, signal);
+            kill(child, SIGKILL);
         }
         for (const Peer &peer : peers) {
             EXPECT_EQ(peer.receive(), "");
         }
         EXPECT_EQ(exchange(question()), answer());
     }
+}
+
+TEST(SqldLoad, says_which_signal_has_ended_a_request) {
+    const support::Service service;
+    const support::SystemLog log;
+    const Peer peer;
+    ASSERT_TRUE(service.has_children(1));
+    kill(service.children().front(), SIGTERM);
+    EXPECT_EQ(peer.receive(), "");
+    std::vector<std::string> lines;
+    EXPECT_TRUE(support::eventually([&] { return !(lines = log.lines()).empty(); }));
+    EXPECT_EQ(lines, std::vector<std::string>{"27 a request ended its process with signal 15"});
 }
 
 TEST(SqldLoad, drops_peers_that_dawdle_after_ten_seconds_and_serves_the_others_meanwhile) {

@@ -1,5 +1,6 @@
 #include "routerdb.h"
 #include "rules/golden/golden.h"
+#include "rules/golden/references.h"
 #include "support/record.h"
 
 namespace golden {
@@ -142,11 +143,6 @@ Record referring_record(std::int32_t group) {
         .numbers(1564, {2, group})
         .number(1792, 1)
         .text(1800, "no");
-}
-
-std::string time_group(const char *id, const std::string &name, const std::string &mark) {
-    return std::string("insert into user_timegroup values(") + id + ",'" + name + "',1,0,1,1,0,0,1,'18:00','23:59','" +
-           mark + "');";
 }
 
 Record with_group(std::int32_t group, const std::string &name, const std::string &mark) {
