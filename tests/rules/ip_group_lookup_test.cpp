@@ -74,9 +74,9 @@ TEST_F(IpGroupLookup, reads_null_as_an_empty_text) {
 
 TEST_F(IpGroupLookup, cuts_each_text_at_the_width_of_its_field) {
     for (const int more : {-1, 0, 1, 500}) {
-        const auto x = [](std::size_t length) { return std::string(length, 'x'); };
-        const auto stored = [&](int width) { return "'" + x(static_cast<std::size_t>(width + more)) + "'"; };
-        const auto shown = [&](int width) { return x(static_cast<std::size_t>(more < 0 ? width + more : width)); };
+        const auto x = [](int length) { return std::string(static_cast<std::size_t>(length), 'x'); };
+        const auto stored = [&](int width) { return "'" + x(width + more) + "'"; };
+        const auto shown = [&](int width) { return x(more < 0 ? width + more : width); };
         database_.execute("update user_ipgroup set name=" + stored(149) + ",startip=" + stored(29) +
                           ",endip=" + stored(29) + " where id=3;");
         EXPECT_EQ(difference(record_of(shown(149), shown(29), shown(29)), found(3, database_)), "") << more;
