@@ -80,22 +80,12 @@ TEST(DbUpdateInfo, executes_under_the_lock_and_tells_nobody) {
     insert_device();
     const Recorder recorder;
     EXPECT_EQ(DB_UpdateInfo(sample_device()), 0);
-    EXPECT_EQ(recorder.calls(), (Lines{
-                                    "open lock file",
-                                    "gettimeofday",
-                                    "srand",
-                                    "rand",
-                                    "lock",
-                                    "sqlite3_open /etc/config/systemconf/database/myrouter.db",
-                                    "sqlite3_exec PRAGMA synchronous = NORMAL; ",
-                                    "sqlite3_exec PRAGMA page_size = 12000; ",
-                                    "sqlite3_exec PRAGMA cache_size = 4000; ",
-                                    "sqlite3_exec " + statements::configuration(),
-                                    "sqlite3_free",
-                                    "sqlite3_close",
-                                    "unlock",
-                                    "close lock file",
-                                }));
+    Lines expected{"open lock file", "gettimeofday", "srand",
+                   "rand",           "lock",         "sqlite3_open /etc/config/systemconf/database/myrouter.db"};
+    const Lines write = statements::write_of(statements::configuration());
+    expected.insert(expected.end(), write.begin(), write.end());
+    expected.insert(expected.end(), {"sqlite3_free", "sqlite3_close", "unlock", "close lock file"});
+    EXPECT_EQ(recorder.calls(), expected);
 }
 
 TEST(DbUpdateInfo, a_number_without_a_row_changes_nothing_and_gives_0) {
@@ -127,12 +117,7 @@ TEST(DbSaveinfo, executes_once_and_tells_nobody) {
     const Recorder recorder;
     DB_saveinfo(&device);
     EXPECT_EQ(recorder.calls({"sqlite3_exec", "sqlite3_prepare_v2", "system", "usleep", "syslog"}),
-              (Lines{
-                  "sqlite3_exec PRAGMA synchronous = NORMAL; ",
-                  "sqlite3_exec PRAGMA page_size = 12000; ",
-                  "sqlite3_exec PRAGMA cache_size = 4000; ",
-                  "sqlite3_exec " + statements::saving(),
-              }));
+              statements::write_of(statements::saving()));
 }
 
 TEST(DbSaveinfo, writes_all_rows_of_its_address_and_inserts_none) {

@@ -1,7 +1,5 @@
 #include "apinventory/device_statements.h"
 
-#include <vector>
-
 #include "apinventory/tables.h"
 
 namespace statements {
@@ -144,6 +142,11 @@ std::string configuration(int wlans, const std::string &first_power, const std::
     return std::string("update DevInfo set ") + configured_device + first_of(configured_wlans, wlans) +
            configured_channel + first_power + configured_first_radio + second_power + configured_second_radio +
            " Dev_Status='1'   where Dev_Sn='77'  ;";
+}
+
+std::vector<std::string> write_of(const std::string &sql) {
+    return {"sqlite3_exec PRAGMA synchronous = NORMAL; ", "sqlite3_exec PRAGMA page_size = 12000; ",
+            "sqlite3_exec PRAGMA cache_size = 4000; ", "sqlite3_exec " + sql};
 }
 
 }  // namespace statements

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "routerdb.h"
 
@@ -21,5 +22,8 @@ std::string saving(const std::string &wlan_count = "8", int wlans = 8);
 /// The update of DB_UpdateInfo, with the fragments of the transmit powers.
 std::string configuration(int wlans = 8, const std::string &first_power = " Dev_Wlan_Txpower='55',",
                           const std::string &second_power = " Dev_Wlan_Txpower_sec='66',");
+
+/// What a recorder notes of a write: the settings that go before it, and its statement.
+std::vector<std::string> write_of(const std::string &sql);
 
 }  // namespace statements

@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
 #include "support/database.h"
 #include "support/recorder.h"
@@ -74,13 +75,11 @@ DevInfo sample_group() {
 }
 
 std::string update_of(const std::string &number) {
-    return std::string("sqlite3_exec update WlanZeroCfgGroupInfo set ") + assignments + "  where WlanGroup_Id='" +
-           number + "' ";
+    return std::string("update WlanZeroCfgGroupInfo set ") + assignments + "  where WlanGroup_Id='" + number + "' ";
 }
 
 std::string insertion_of(const std::string &number) {
-    return "sqlite3_exec insert into WlanZeroCfgGroupInfo (WlanGroup_Id,WlanGroup_Name) values('" + number +
-           "','c1') ;";
+    return "insert into WlanZeroCfgGroupInfo (WlanGroup_Id,WlanGroup_Name) values('" + number + "','c1') ;";
 }
 
 /// The row of the sample.
@@ -109,10 +108,11 @@ TEST(GroupSaving, of_a_number_updates_its_row_and_inserts_none) {
     insert_groups({"3", "4"});
     const Recorder recorder;
     EXPECT_EQ(DB_savezerocfgwlangroupinfo(sample_group(), 3), 3);
-    EXPECT_EQ(recorder.calls({"lock", "sqlite3_prepare_v2", "sqlite3_exec", "unlock", "usleep", "system"}),
-              (Lines{"lock", first_number, "unlock", "lock", "sqlite3_exec PRAGMA synchronous = NORMAL; ",
-                     "sqlite3_exec PRAGMA page_size = 12000; ", "sqlite3_exec PRAGMA cache_size = 4000; ",
-                     update_of("3"), "unlock"}));
+    Lines expected{"lock", first_number, "unlock", "lock"};
+    const Lines write = statements::write_of(update_of("3"));
+    expected.insert(expected.end(), write.begin(), write.end());
+    expected.emplace_back("unlock");
+    EXPECT_EQ(recorder.calls({"lock", "sqlite3_prepare_v2", "sqlite3_exec", "unlock", "usleep", "system"}), expected);
     EXPECT_EQ(tables::difference(saved_row("3"), row_where(zero_config_groups, "WlanGroup_Id=3")), "");
     EXPECT_EQ(row_where(zero_config_groups, "WlanGroup_Id=4"), (Row{{0, "4"}}));
 }
@@ -121,9 +121,10 @@ TEST(GroupSaving, of_a_new_group_inserts_a_row_under_the_next_number_and_updates
     insert_groups({"1", "4"});
     const Recorder recorder;
     EXPECT_EQ(DB_savezerocfgwlangroupinfo(sample_group(), 0), 5);
-    EXPECT_EQ(recorder.calls({"lock", "sqlite3_prepare_v2", "sqlite3_exec insert", "sqlite3_exec update", "unlock"}),
-              (Lines{"lock", first_number, "unlock", "lock", highest_number, "unlock", "lock", insertion_of("5"),
-                     "unlock", "lock", update_of("5"), "unlock"}));
+    EXPECT_EQ(
+        recorder.calls({"lock", "sqlite3_prepare_v2", "sqlite3_exec insert", "sqlite3_exec update", "unlock"}),
+        (Lines{"lock", first_number, "unlock", "lock", highest_number, "unlock", "lock",
+               "sqlite3_exec " + insertion_of("5"), "unlock", "lock", "sqlite3_exec " + update_of("5"), "unlock"}));
     EXPECT_EQ(tables::difference(saved_row("5"), row_where(zero_config_groups, "WlanGroup_Id=5")), "");
     EXPECT_EQ(GetTableCount("WlanZeroCfgGroupInfo"), 3);
 }
@@ -132,7 +133,7 @@ TEST(GroupSaving, of_a_first_group_gives_it_the_number_1_without_asking_for_the_
     const Recorder recorder;
     EXPECT_EQ(DB_savezerocfgwlangroupinfo(sample_group(), 0), 1);
     EXPECT_EQ(recorder.calls({"sqlite3_prepare_v2", "sqlite3_exec insert", "sqlite3_exec update"}),
-              (Lines{first_number, insertion_of("1"), update_of("1")}));
+              (Lines{first_number, "sqlite3_exec " + insertion_of("1"), "sqlite3_exec " + update_of("1")}));
     EXPECT_EQ(tables::difference(saved_row("1"), row_where(zero_config_groups, "1")), "");
 }
 
@@ -225,7 +226,7 @@ TEST(GroupSaving, a_failing_insertion_is_not_noticed) {
     recorder.answer("sqlite3_exec", {Recorder::really, Recorder::really, Recorder::really, SQLITE_ERROR});
     support::streams_of([] { EXPECT_EQ(DB_savezerocfgwlangroupinfo(sample_group(), 0), 1); });
     EXPECT_EQ(recorder.calls({"sqlite3_exec insert", "sqlite3_exec update"}),
-              (Lines{insertion_of("1"), update_of("1")}));
+              (Lines{"sqlite3_exec " + insertion_of("1"), "sqlite3_exec " + update_of("1")}));
 }
 
 TEST(GroupSaving, without_a_table_gives_the_number_back_all_the_same) {

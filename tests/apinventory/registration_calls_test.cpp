@@ -52,10 +52,9 @@ void insert_device(const std::string &number, const std::string &mac_address) {
     insert(devices, {{0, number}, {8, mac_address}});
 }
 
-/// A write, with the settings that go before it.
 void append_write(Lines &lines, const std::string &sql) {
-    lines.insert(lines.end(), {"sqlite3_exec PRAGMA synchronous = NORMAL; ", "sqlite3_exec PRAGMA page_size = 12000; ",
-                               "sqlite3_exec PRAGMA cache_size = 4000; ", "sqlite3_exec " + sql});
+    const Lines write = statements::write_of(sql);
+    lines.insert(lines.end(), write.begin(), write.end());
 }
 
 /// Expects that a registration fails, its write number n being the last thing that is done.

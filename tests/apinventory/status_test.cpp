@@ -1,10 +1,12 @@
 // Small statements on access points: status, identity, counts.
 #include <gtest/gtest.h>
 
+#include <functional>
+
+#include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
 #include "support/database.h"
 #include "support/named.h"
-#include "support/process.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -15,8 +17,6 @@ using tables::devices;
 using Lines = std::vector<std::string>;
 
 constexpr char mac[] = "00:1a:2b:3c:4d:5e";
-constexpr char settings[][48] = {"sqlite3_exec PRAGMA synchronous = NORMAL; ",
-                                 "sqlite3_exec PRAGMA page_size = 12000; ", "sqlite3_exec PRAGMA cache_size = 4000; "};
 
 /// A text that a function is given room for, which it may leave as it is.
 struct Room {
@@ -85,39 +85,34 @@ std::vector<Function> functions() {
 class StatusFunction : public testing::TestWithParam<Function> {
 protected:
     /// The statements that it runs for a key.
-    static Lines statements(const char *key) {
+    static Lines run(const char *key) {
         const Recorder recorder;
         support::streams_of([&] { GetParam().run(key); });
         return recorder.calls({"sqlite3_exec", "sqlite3_prepare_v2"});
     }
 
-    /// The statement with a key, and the settings before a write.
+    /// What it runs for a key.
     static Lines expected(const std::string &key) {
-        Lines expected;
-        if (GetParam().writes) {
-            expected.assign(std::begin(settings), std::end(settings));
-        }
-        expected.push_back((GetParam().writes ? "sqlite3_exec " : "sqlite3_prepare_v2 ") +
-                           GetParam().statement_before_key + key + GetParam().statement_after_key);
-        return expected;
+        const std::string statement = GetParam().statement_before_key + key + GetParam().statement_after_key;
+        return GetParam().writes ? statements::write_of(statement) : Lines{"sqlite3_prepare_v2 " + statement};
     }
 };
 
 TEST_P(StatusFunction, runs_one_statement) {
-    EXPECT_EQ(statements(mac), expected(mac));
+    EXPECT_EQ(run(mac), expected(mac));
 }
 
 TEST_P(StatusFunction, puts_its_key_into_the_statement_as_given) {
-    EXPECT_EQ(statements("it's \"so\"; --"), expected("it's \"so\"; --"));
+    EXPECT_EQ(run("it's \"so\"; --"), expected("it's \"so\"; --"));
 }
 
 TEST_P(StatusFunction, never_cuts_the_statement) {
     const std::string key(5000, 'k');
-    EXPECT_EQ(statements(key.c_str()), expected(key));
+    EXPECT_EQ(run(key.c_str()), expected(key));
 }
 
 TEST_P(StatusFunction, reads_a_null_key_as_an_empty_one) {
-    EXPECT_EQ(statements(nullptr), expected(""));
+    EXPECT_EQ(run(nullptr), expected(""));
 }
 
 TEST_P(StatusFunction, tells_nobody) {
