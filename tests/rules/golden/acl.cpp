@@ -21,8 +21,8 @@ struct Acl {
 
 std::string values(int n) {
     const std::string number = std::to_string(n);
-    return " values(" + number + ",'手机" + filled(293, 'n', n) + "','" + filled(19, 'a', n) + "',-" + number + ",'" +
-           filled(151, 'm', n) + "');";
+    return " values(" + number + ",'手机" + numbered(293, 'n', n) + "','" + numbered(19, 'a', n) + "',-" + number +
+           ",'" + numbered(151, 'm', n) + "');";
 }
 
 const Acl acls[] = {
@@ -34,9 +34,9 @@ const Acl acls[] = {
 std::string record(int n) {
     return Record(size)
         .number(0, n)
-        .text(4, "手机" + filled(293, 'n', n))
-        .text(304, filled(19, 'a', n))
-        .text(324, filled(151, 'm', n))
+        .text(4, "手机" + numbered(293, 'n', n))
+        .text(304, numbered(19, 'a', n))
+        .text(324, numbered(151, 'm', n))
         .number(476, -n)
         .bytes();
 }

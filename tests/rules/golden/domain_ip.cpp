@@ -12,17 +12,17 @@ constexpr std::size_t size = 676;
 
 std::string row(int n) {
     const std::string number = std::to_string(n);
-    return "insert into domain_ip values(" + number + ",'打印机" + filled(290, 'n', n) + "','" + filled(149, 'd', n) +
-           "','" + filled(63, 'i', n) + "',-" + number + ",'" + filled(149, 'm', n) + "');";
+    return "insert into domain_ip values(" + number + ",'打印机" + numbered(290, 'n', n) + "','" +
+           numbered(149, 'd', n) + "','" + numbered(63, 'i', n) + "',-" + number + ",'" + numbered(149, 'm', n) + "');";
 }
 
 std::string record(int n) {
     return Record(size)
         .number(0, n)
-        .text(4, "打印机" + filled(290, 'n', n))
-        .text(304, filled(149, 'd', n))
-        .text(454, filled(63, 'i', n))
-        .text(518, filled(149, 'm', n))
+        .text(4, "打印机" + numbered(290, 'n', n))
+        .text(304, numbered(149, 'd', n))
+        .text(454, numbered(63, 'i', n))
+        .text(518, numbered(149, 'm', n))
         .number(668, -n)
         .bytes();
 }

@@ -12,17 +12,17 @@ constexpr std::size_t size = 336;
 
 std::string row(int n) {
     const std::string number = std::to_string(n);
-    return "insert into famliymember values(" + number + ",'孩子" + filled(143, 'n', n) + "','" + filled(19, 'a', n) +
-           "',-" + number + ",'" + filled(155, 'm', n) + "');";
+    return "insert into famliymember values(" + number + ",'孩子" + numbered(143, 'n', n) + "','" +
+           numbered(19, 'a', n) + "',-" + number + ",'" + numbered(155, 'm', n) + "');";
 }
 
 std::string record(int n) {
     return Record(size)
         .number(0, n)
-        .text(4, "孩子" + filled(143, 'n', n))
-        .text(154, filled(19, 'a', n))
+        .text(4, "孩子" + numbered(143, 'n', n))
+        .text(154, numbered(19, 'a', n))
         .number(176, -n)
-        .text(180, filled(155, 'm', n))
+        .text(180, numbered(155, 'm', n))
         .bytes();
 }
 

@@ -14,20 +14,20 @@ constexpr std::size_t size = 508;
 
 std::string row(int n) {
     const auto number = [n](int offset) { return std::to_string(offset + n); };
-    return "insert into forword_ipport values(" + number(0) + ",'服务器" + filled(290, 'n', n) + "','" +
-           filled(19, 'i', n) + "'," + number(10'000) + "," + number(20'000) + "," + number(30'000) + "," +
+    return "insert into forword_ipport values(" + number(0) + ",'服务器" + numbered(290, 'n', n) + "','" +
+           numbered(19, 'i', n) + "'," + number(10'000) + "," + number(20'000) + "," + number(30'000) + "," +
            number(40'000) + "," + number(50'000) + "," + number(60'000) + "," + number(70'000) + ",'" +
-           filled(151, 'm', n) + "');";
+           numbered(151, 'm', n) + "');";
 }
 
 std::string record(int n) {
     return Record(size)
         .number(0, n)
-        .text(4, "服务器" + filled(290, 'n', n))
+        .text(4, "服务器" + numbered(290, 'n', n))
         .number(304, 10'000 + n)
-        .text(308, filled(19, 'i', n))
+        .text(308, numbered(19, 'i', n))
         .numbers(328, {40'000 + n, 50'000 + n, 20'000 + n, 30'000 + n, 70'000 + n})
-        .text(348, filled(151, 'm', n))
+        .text(348, numbered(151, 'm', n))
         .number(500, 60'000 + n)
         .bytes();
 }

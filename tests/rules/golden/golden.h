@@ -25,12 +25,6 @@ inline std::string numbered(std::size_t count, char letter, int n) {
     return of(count - number.size(), letter) + number;
 }
 
-/// A text of `length` bytes that ends in the number n.
-inline std::string filled(std::size_t length, char letter, int n) {
-    const std::string number = std::to_string(n);
-    return of(length - number.size(), letter) + number;
-}
-
 /// A record or a list, whatever its structure.
 class Pointer {
 public:

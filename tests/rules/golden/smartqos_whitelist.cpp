@@ -11,12 +11,16 @@ using support::Record;
 constexpr std::size_t size = 328;
 
 std::string row(int n) {
-    return "insert into smartqos_whitelist values(" + std::to_string(n) + ",'" + filled(19, 'd', n) + "','电视机" +
-           filled(144, 'm', n) + "');";
+    return "insert into smartqos_whitelist values(" + std::to_string(n) + ",'" + numbered(19, 'd', n) + "','电视机" +
+           numbered(144, 'm', n) + "');";
 }
 
 std::string record(int n) {
-    return Record(size).number(0, n).text(154, filled(19, 'd', n)).text(174, "电视机" + filled(144, 'm', n)).bytes();
+    return Record(size)
+        .number(0, n)
+        .text(154, numbered(19, 'd', n))
+        .text(174, "电视机" + numbered(144, 'm', n))
+        .bytes();
 }
 
 Table table() {

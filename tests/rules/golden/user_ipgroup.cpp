@@ -11,17 +11,17 @@ using support::Record;
 constexpr std::size_t size = 368;
 
 std::string row(int n) {
-    return "insert into user_ipgroup values(" + std::to_string(n) + ",'办公室" + filled(140, 'n', n) + "','" +
-           filled(29, 's', n) + "','" + filled(29, 'e', n) + "','" + filled(153, 'm', n) + "');";
+    return "insert into user_ipgroup values(" + std::to_string(n) + ",'办公室" + numbered(140, 'n', n) + "','" +
+           numbered(29, 's', n) + "','" + numbered(29, 'e', n) + "','" + numbered(153, 'm', n) + "');";
 }
 
 std::string record(int n) {
     return Record(size)
         .number(0, n)
-        .text(4, "办公室" + filled(140, 'n', n))
-        .text(154, filled(29, 's', n))
-        .text(184, filled(29, 'e', n))
-        .text(214, filled(153, 'm', n))
+        .text(4, "办公室" + numbered(140, 'n', n))
+        .text(154, numbered(29, 's', n))
+        .text(184, numbered(29, 'e', n))
+        .text(214, numbered(153, 'm', n))
         .bytes();
 }
 

@@ -11,16 +11,16 @@ using support::Record;
 constexpr std::size_t size = 820;
 
 std::string row(int n) {
-    return "insert into user_urlinfo values(" + std::to_string(n) + ",'网站" + filled(143, 'n', n) + "','" +
-           filled(511, 'u', n) + "','" + filled(153, 'm', n) + "');";
+    return "insert into user_urlinfo values(" + std::to_string(n) + ",'网站" + numbered(143, 'n', n) + "','" +
+           numbered(511, 'u', n) + "','" + numbered(153, 'm', n) + "');";
 }
 
 std::string record(int n) {
     return Record(size)
         .number(0, n)
-        .text(4, "网站" + filled(143, 'n', n))
-        .text(154, filled(511, 'u', n))
-        .text(666, filled(153, 'm', n))
+        .text(4, "网站" + numbered(143, 'n', n))
+        .text(154, numbered(511, 'u', n))
+        .text(666, numbered(153, 'm', n))
         .bytes();
 }
 
