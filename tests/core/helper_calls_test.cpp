@@ -85,6 +85,13 @@ TEST_P(StatementHelper, leaves_no_descriptor_and_no_memory_of_sqlite) {
     }
 }
 
+TEST_P(StatementHelper, steps_nothing_when_there_is_no_statement) {
+    Recorder recorder;
+    recorder.keep_commands_from_running();
+    call(" -- nothing");
+    EXPECT_EQ(recorder.calls({"sqlite3_step", "sqlite3_finalize"}), Lines());
+}
+
 INSTANTIATE_TEST_SUITE_P(, StatementHelper, ::testing::ValuesIn(calls_cases), helper_name<CallsCase>);
 
 TEST(DB_EXEC_SQL_CHAR, executes_without_a_copy_of_the_file) {
