@@ -89,6 +89,7 @@ set_target_properties(
 target_include_directories(
     routerdb_objects
     PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+target_compile_definitions(routerdb_objects PUBLIC ROUTERDB_PROFILE=${ROUTERDB_PROFILE})
 target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
 # Fortified calls have other names, and programs put their own functions in front of the plain ones.
 # Without exceptions nobody unwinds in the field; a debug build keeps what a debugger needs.
