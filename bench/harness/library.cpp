@@ -1,0 +1,32 @@
+#include "harness/library.h"
+
+#include <dlfcn.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace bench {
+
+namespace {
+
+void *must_find(void *found) {
+    if (found == nullptr) {
+        std::fprintf(stderr, "bench: %s\n", dlerror());
+        std::exit(1);
+    }
+    return found;
+}
+
+}  // namespace
+
+Library load_library(const char *path) {
+    void *const handle = must_find(dlopen(path, RTLD_NOW | RTLD_LOCAL));
+    Library library{};
+#define LOAD(function) \
+    library.function = reinterpret_cast<decltype(library.function)>(must_find(dlsym(handle, #function)));
+    BENCH_LIBRARY_FUNCTIONS(LOAD)
+#undef LOAD
+    return library;
+}
+
+}  // namespace bench
