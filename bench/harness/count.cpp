@@ -1,9 +1,12 @@
 #include "harness/count.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
 #include <valgrind/callgrind.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 
 #include "harness/each.h"
 
@@ -16,16 +19,35 @@ void mark(const char *what, const std::string &name) {
     [[maybe_unused]] const int absent = access(path.c_str(), F_OK);
 }
 
-void count_one(const Profiles &profiles, const Operation &operation, Variant variant) {
+constexpr int measured_runs = 3;
+
+void count_runs(const Profiles &profiles, const Operation &operation, Variant variant) {
     const std::string name = std::string(operation.name) + "/" + std::string(name_of(variant));
     prepare(operation);
     run(profiles, operation, variant);
-    prepare(operation);
-    mark("begin:", name);
-    CALLGRIND_ZERO_STATS;
-    run(profiles, operation, variant);
-    CALLGRIND_DUMP_STATS_AT(name.c_str());
-    mark("end:", name);
+    for (int repetition = 0; repetition < measured_runs; ++repetition) {
+        prepare(operation);
+        mark("begin:", name);
+        CALLGRIND_ZERO_STATS;
+        run(profiles, operation, variant);
+        CALLGRIND_DUMP_STATS_AT(name.c_str());
+        mark("end:", name);
+    }
+}
+
+/// Counts in a process of its own: what the allocator does depends on what was done before, which must be the same for
+/// all variants.
+void count_apart(const Profiles &profiles, const Operation &operation, Variant variant) {
+    const pid_t child = fork();
+    if (child == 0) {
+        count_runs(profiles, operation, variant);
+        _exit(0);
+    }
+    int status = -1;
+    if (child < 0 || waitpid(child, &status, 0) != child || status != 0) {
+        std::fprintf(stderr, "bench: %s did not end well\n", operation.name);
+        std::exit(1);
+    }
 }
 
 }  // namespace
@@ -38,7 +60,7 @@ void count(const Profiles &profiles, int variant_count, char **variants) {
     for (const Operation &operation : operations()) {
         for (const Variant variant : variants_of(operation)) {
             if (wanted(variant)) {
-                count_one(profiles, operation, variant);
+                count_apart(profiles, operation, variant);
             }
         }
     }
