@@ -10,7 +10,7 @@ namespace bench {
 namespace {
 
 std::string outcome(const Profiles &profiles, const Operation &operation, Variant variant) {
-    prepare(operation);
+    prepare(operation, variant);
     run(profiles, operation, variant);
     return operation.outcome();
 }

@@ -19,19 +19,24 @@ void mark(const char *what, const std::string &name) {
     [[maybe_unused]] const int absent = access(path.c_str(), F_OK);
 }
 
-constexpr int measured_runs = 3;
+/// Operations that are timed in few rounds are long: once tells enough.
+int measured_runs(const Operation &operation) {
+    return operation.rounds < 10 ? 1 : 3;
+}
 
 void count_runs(const Profiles &profiles, const Operation &operation, Variant variant) {
     const std::string name = std::string(operation.name) + "/" + std::string(name_of(variant));
-    prepare(operation);
+    prepare(operation, variant);
     run(profiles, operation, variant);
-    for (int repetition = 0; repetition < measured_runs; ++repetition) {
-        prepare(operation);
+    for (int repetition = 0; repetition < measured_runs(operation); ++repetition) {
+        prepare(operation, variant);
+        setenv("BENCH_CHILD", ("child," + std::string(operation.name) + ",," + std::string(name_of(variant))).c_str(), 1);
         mark("begin:", name);
         CALLGRIND_ZERO_STATS;
         run(profiles, operation, variant);
         CALLGRIND_DUMP_STATS_AT(name.c_str());
         mark("end:", name);
+        setenv("BENCH_CHILD", "self", 1);
     }
 }
 

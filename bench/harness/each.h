@@ -7,10 +7,6 @@
 
 namespace bench {
 
-inline std::string_view name_of(Variant variant) {
-    return variant_names[static_cast<std::size_t>(variant)];
-}
-
 inline std::vector<Variant> variants_of(const Operation &operation) {
     std::vector<Variant> variants;
     for (std::size_t number = 0; number < variant_names.size(); ++number) {
@@ -19,12 +15,6 @@ inline std::vector<Variant> variants_of(const Operation &operation) {
         }
     }
     return variants;
-}
-
-inline void prepare(const Operation &operation) {
-    if (operation.prepare != nullptr) {
-        operation.prepare();
-    }
 }
 
 }  // namespace bench

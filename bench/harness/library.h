@@ -1,6 +1,8 @@
 // The library under test, loaded from a file: both profiles stand beside each other in one process.
 #pragma once
 
+#include <string>
+
 #include "routerdb.h"
 
 namespace bench {
@@ -24,9 +26,12 @@ struct Library {
 #define MEMBER(function) decltype(&::function) function;
     BENCH_LIBRARY_FUNCTIONS(MEMBER)
 #undef MEMBER
+
+    /// A program that is linked to this library, reads one access point, and ends.
+    std::string start_program;
 };
 
 /// Loads a library; ends the process if it or one of the functions is missing.
-Library load_library(const char *path);
+Library load_library(const char *path, std::string start_program);
 
 }  // namespace bench

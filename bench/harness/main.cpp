@@ -6,6 +6,7 @@
 #include "harness/check.h"
 #include "harness/count.h"
 #include "harness/outcomes.h"
+#include "harness/spawn.h"
 #include "harness/time.h"
 
 namespace {
@@ -29,7 +30,8 @@ int main(int argc, char **argv) {
         std::fputs(usage, stderr);
         return 2;
     }
-    const bench::Profiles profiles{bench::load_library(argv[2]), bench::load_library(argv[3])};
+    const bench::Profiles profiles{bench::load_library(argv[2], bench::beside("start-exact")),
+                                   bench::load_library(argv[3], bench::beside("start-modern"))};
     bench::outcomes::set_up();
     if (std::strcmp(argv[1], "verify") == 0) {
         return bench::verify(profiles) ? 0 : 1;

@@ -3,28 +3,28 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 #include "harness/library.h"
+#include "harness/variant.h"
 
 namespace bench {
 
-enum class Variant : unsigned char { exact, modern, bare, sqlitecpp, soci, program };
 
-inline constexpr std::array<std::string_view, 6> variant_names{"exact",     "modern", "bare",
-                                                               "SQLiteCpp", "SOCI",   "program"};
+/// What a timing counts: work of the SQL service, which has a process for each request, only shows in the elapsed time.
+enum class Clock : unsigned char { processor, elapsed };
 
 struct Operation {
     const char *name;
 
     /// Before each run, outside what is measured: brings back what a run changes. May be null.
-    void (*prepare)();
+    void (*prepare)(Variant);
 
     /// What the last run left behind. Variants are equal when these texts are.
     std::string (*outcome)();
 
-    /// Runs of a timing; those that sleep get by with fewer.
+    /// Rounds of a timing. Operations that sleep get by with few.
     int rounds;
+    Clock clock;
 
     /// The library in either profile, then the other variants from `bare` on; null where there is none.
     void (*library)(const Library &);
@@ -47,6 +47,12 @@ struct Profiles {
 };
 
 bool has(const Operation &operation, Variant variant);
+
+inline void prepare(const Operation &operation, Variant variant) {
+    if (operation.prepare != nullptr) {
+        operation.prepare(variant);
+    }
+}
 
 /// Runs an operation once; what it printed has left the stream.
 void run(const Profiles &profiles, const Operation &operation, Variant variant);

@@ -81,6 +81,11 @@ std::string behavior_rules() {
     return bytes_of(places.behavior_rules);
 }
 
+std::string reply() {
+    const std::size_t size = places.reply.size > 0 ? static_cast<std::size_t>(places.reply.size) : 0;
+    return {static_cast<const char *>(places.reply.data), size};
+}
+
 std::string device_rows() {
     sqlite3 *db = nullptr;
     sqlite3_open(paths::main_database, &db);
@@ -101,27 +106,36 @@ std::string printed() {
     return content_of(STDOUT_FILENO);
 }
 
-void free_devices() {
+void free_devices(Variant /*variant*/) {
     for (unsigned index = 0; index < places.devices.count; ++index) {
         std::free(places.devices.devices[index]);
     }
     places.devices.count = 0;
 }
 
-void restore() {
+void restore(Variant /*variant*/) {
     for (const Kept &database : kept) {
         put_back(database);
     }
 }
 
-void restore_for_update() {
-    restore();
+void restore_for_update(Variant variant) {
+    restore(variant);
     bare::get_device();
     std::strcpy(places.device.wlan[2].Ssid, "Meetings on the 2nd floor");
     std::strcpy(places.device.Dev_Wlan_Channel, "6");
 }
 
-void forget_printed() {
+void restore_for_registration(Variant variant) {
+    restore(variant);
+    bare::get_device_converted();
+    sqlite3 *db = nullptr;
+    sqlite3_open(paths::main_database, &db);
+    sqlite3_exec(db, "delete from DevInfo where Dev_Sn='218212544';", nullptr, nullptr, nullptr);
+    sqlite3_close(db);
+}
+
+void forget_printed(Variant /*variant*/) {
     if (ftruncate(STDOUT_FILENO, 0) != 0) {
         std::perror("bench: cannot empty the output");
         std::exit(1);
@@ -129,6 +143,29 @@ void forget_printed() {
     lseek(STDOUT_FILENO, 0, SEEK_SET);
     if (fcntl(STDIN_FILENO, F_GETFD) < 0 && open("/dev/null", O_RDONLY) != STDIN_FILENO) {
         std::fputs("bench: standard input is taken\n", stderr);
+        std::exit(1);
+    }
+}
+
+void close_left_open(Variant /*variant*/) {
+    constexpr int most = 512;
+    for (int fd = STDERR_FILENO + 1; fd < most; ++fd) {
+        char path[64] = "";
+        const std::string link = "/proc/self/fd/" + std::to_string(fd);
+        if (readlink(link.c_str(), path, sizeof(path) - 1) > 0 && std::strcmp(path, paths::text_leases) == 0) {
+            close(fd);
+        }
+    }
+}
+
+void choose_service(Variant variant) {
+    std::free(places.reply.data);
+    places.reply = {};
+    unlink(paths::service_socket);
+    const char *const socket =
+        variant == Variant::modern ? "/var/sqlserver_socket.modern" : "/var/sqlserver_socket.exact";
+    if (symlink(socket, paths::service_socket) != 0) {
+        std::perror("bench: cannot choose a service");
         std::exit(1);
     }
 }

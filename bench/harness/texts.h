@@ -23,4 +23,8 @@ void copy_text(const char *text, char (&field)[width]) {
 /// Converts the SSIDs of a record to GB2312 where that is possible, with a converter for each.
 void convert_ssids(DevInfo &device);
 
+/// Converts an SSID that was reported in GB2312.
+/// @return `converted`; an empty text if the conversion fails
+const char *in_utf8(const char *ssid, char (&converted)[ROUTERDB_CONVERSION_ROOM]);
+
 }  // namespace bench

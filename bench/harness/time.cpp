@@ -17,21 +17,27 @@ double seconds(const timeval &time) {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
 }
 
-/// Processor time of this process and of the children that it waited for.
-double processor_time() {
-    timespec own{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &own);
+double on_clock(clockid_t clock) {
+    timespec time{};
+    clock_gettime(clock, &time);
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+}
+
+/// Processor time of this process and of the children that it waited for, or the time that passes.
+double time_of(const Operation &operation) {
+    if (operation.clock == Clock::elapsed) {
+        return on_clock(CLOCK_MONOTONIC);
+    }
     rusage children{};
     getrusage(RUSAGE_CHILDREN, &children);
-    return static_cast<double>(own.tv_sec) + static_cast<double>(own.tv_nsec) * 1e-9 + seconds(children.ru_utime) +
-           seconds(children.ru_stime);
+    return on_clock(CLOCK_PROCESS_CPUTIME_ID) + seconds(children.ru_utime) + seconds(children.ru_stime);
 }
 
 double measure(const Profiles &profiles, const Operation &operation, Variant variant) {
-    prepare(operation);
-    const double start = processor_time();
+    prepare(operation, variant);
+    const double start = time_of(operation);
     run(profiles, operation, variant);
-    return processor_time() - start;
+    return time_of(operation) - start;
 }
 
 double median(std::vector<double> values) {

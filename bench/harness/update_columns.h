@@ -7,8 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <cstdlib>
 
+#include "harness/device_columns.h"
+#include "harness/texts.h"
 #include "routerdb.h"
 
 namespace bench {
@@ -41,20 +42,64 @@ inline constexpr std::array configured_columns{
     RADIO_SETTINGS(),       RADIO_SETTINGS(_sec),
 };
 
+#define NETWORK_REPORT(number)                                                                             \
+    NETWORK(number, Enable), NETWORK(number, Hide_Ssid), NETWORK(number, VlanId), NETWORK(number, Bssid), \
+        NETWORK(number, Security), NETWORK(number, Authmode), NETWORK(number, Securitycipher),            \
+        NETWORK(number, Wep_Type), NETWORK(number, Wep_Value), NETWORK(number, Psk_Type), NETWORK(number, Psk_Value)
+#define RADIO_REPORT(suffix)                                                                                      \
+    RADIO_SETTINGS(suffix), COLUMN(Dev_Wlan_Current_Channel##suffix), COLUMN(Dev_Wlan_Rate##suffix),              \
+        COLUMN(Dev_Wlan_MaxTxpower##suffix), COLUMN(Dev_Wlan_Sta_Num##suffix)
+
+/// What DB_addinfo writes of one, the names of its networks and the address as a number left out.
+inline constexpr std::array reported_columns{
+    COLUMN(Dev_Group),        COLUMN(Dev_Name),            COLUMN(Dev_IP_Assign),         COLUMN(Dev_Ipaddress),
+    COLUMN(Dev_Subnet),       COLUMN(Dev_Gateway),         COLUMN(Dev_Dns1),              COLUMN(Dev_Dns2),
+    COLUMN(Dev_MAC),          COLUMN(Dev_OnlineTime),      COLUMN(Dev_SwVer),             COLUMN(Dev_SwName),
+    COLUMN(Dev_Model_Name),   COLUMN(Dev_CurrentDateTime), COLUMN(Dev_RebootTime_Enable), COLUMN(Dev_RebootTime),
+    COLUMN(Dev_Manufacture),  COLUMN(Dev_Wlan_Radio_Num),  COLUMN(Dev_Sys_TrapIP),
+    NETWORK_REPORT(1),        NETWORK_REPORT(2),           NETWORK_REPORT(3),             NETWORK_REPORT(4),
+    NETWORK_REPORT(5),        NETWORK_REPORT(6),           NETWORK_REPORT(7),             NETWORK_REPORT(8),
+    RADIO_REPORT(),           RADIO_REPORT(_sec),
+};
+
+#undef RADIO_REPORT
+#undef NETWORK_REPORT
 #undef RADIO_SETTINGS
 #undef NETWORK_SETTINGS
 #undef NETWORK
 #undef COLUMN
 
-/// Calls `write` with each column and its value.
+/// Calls `write` with the column of the address as a number, and its value.
+template <typename Write>
+void write_address_number(const DevInfo &device, Write write) {
+    char address[24];
+    std::snprintf(address, sizeof(address), "%lu", static_cast<unsigned long>(inet_network(device.Dev_Ipaddress)));
+    write("Dev_IPSUM", address);
+}
+
+/// Calls `write` with each column that DB_UpdateInfo writes, and its value.
 template <typename Write>
 void for_each_configured(const DevInfo &device, Write write) {
     for (const Column &column : configured_columns) {
         write(column.name, reinterpret_cast<const char *>(&device) + column.offset);
     }
-    char address[16];
-    std::snprintf(address, sizeof(address), "%lu", static_cast<unsigned long>(inet_network(device.Dev_Ipaddress)));
-    write("Dev_IPSUM", address);
+    write_address_number(device, write);
+}
+
+/// Calls `write` with each column that DB_addinfo writes, and its value.
+template <typename Write>
+void for_each_reported(const DevInfo &device, Write write) {
+    for (const Column &column : reported_columns) {
+        write(column.name, reinterpret_cast<const char *>(&device) + column.offset);
+    }
+    write_address_number(device, write);
+    constexpr std::array names{"Dev_Wlan1_Ssid", "Dev_Wlan2_Ssid", "Dev_Wlan3_Ssid", "Dev_Wlan4_Ssid",
+                               "Dev_Wlan5_Ssid", "Dev_Wlan6_Ssid", "Dev_Wlan7_Ssid", "Dev_Wlan8_Ssid"};
+    for (unsigned network = 0; network < names.size(); ++network) {
+        char converted[ROUTERDB_CONVERSION_ROOM];
+        const char *const ssid = device.wlan[network].Ssid;
+        write(names[network], is_converted(network) ? in_utf8(ssid, converted) : ssid);
+    }
 }
 
 }  // namespace bench
