@@ -19,18 +19,20 @@ void mark(const char *what, const std::string &name) {
     [[maybe_unused]] const int absent = access(path.c_str(), F_OK);
 }
 
-/// Operations that are timed in few rounds are long: once tells enough.
-int measured_runs(const Operation &operation) {
-    return operation.rounds < 10 ? 1 : 3;
+/// An operation that is timed in few rounds is long: once tells enough, and nothing has to warm up.
+bool is_long(const Operation &operation) {
+    return operation.rounds < 10;
 }
 
-void count_runs(const Profiles &profiles, const Operation &operation, Variant variant) {
-    const std::string name = std::string(operation.name) + "/" + std::string(name_of(variant));
-    prepare(operation, variant);
-    run(profiles, operation, variant);
-    for (int repetition = 0; repetition < measured_runs(operation); ++repetition) {
+void count_runs(const Profiles &profiles, const Operation &operation, Variant variant, const std::string &name) {
+    if (!is_long(operation)) {
         prepare(operation, variant);
-        setenv("BENCH_CHILD", ("child," + std::string(operation.name) + ",," + std::string(name_of(variant))).c_str(), 1);
+        run(profiles, operation, variant);
+    }
+    const int runs = is_long(operation) ? 1 : 3;
+    for (int repetition = 0; repetition < runs; ++repetition) {
+        prepare(operation, variant);
+        setenv("BENCH_CHILD", ("child," + name).c_str(), 1);
         mark("begin:", name);
         CALLGRIND_ZERO_STATS;
         run(profiles, operation, variant);
@@ -40,12 +42,12 @@ void count_runs(const Profiles &profiles, const Operation &operation, Variant va
     }
 }
 
-/// Counts in a process of its own: what the allocator does depends on what was done before, which must be the same for
-/// all variants.
-void count_apart(const Profiles &profiles, const Operation &operation, Variant variant) {
+}  // namespace
+
+void count_apart(const Profiles &profiles, const Operation &operation, Variant variant, const std::string &title) {
     const pid_t child = fork();
     if (child == 0) {
-        count_runs(profiles, operation, variant);
+        count_runs(profiles, operation, variant, title + "|" + std::string(name_of(variant)));
         _exit(0);
     }
     int status = -1;
@@ -55,8 +57,6 @@ void count_apart(const Profiles &profiles, const Operation &operation, Variant v
     }
 }
 
-}  // namespace
-
 void count(const Profiles &profiles, int variant_count, char **variants) {
     const auto wanted = [&](Variant variant) {
         return variant_count == 0 ||
@@ -65,7 +65,7 @@ void count(const Profiles &profiles, int variant_count, char **variants) {
     for (const Operation &operation : operations()) {
         for (const Variant variant : variants_of(operation)) {
             if (wanted(variant)) {
-                count_apart(profiles, operation, variant);
+                count_apart(profiles, operation, variant, operation.name);
             }
         }
     }

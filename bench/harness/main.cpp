@@ -1,10 +1,11 @@
 // bench: runs the operations of every variant, checks that they agree, times them, counts them.
 #include <cstdio>
-#include <cstdlib>
-#include <cstring>
+#include <string>
 
 #include "harness/check.h"
+#include "harness/contention.h"
 #include "harness/count.h"
+#include "harness/curves.h"
 #include "harness/outcomes.h"
 #include "harness/spawn.h"
 #include "harness/time.h"
@@ -12,11 +13,36 @@
 namespace {
 
 constexpr char usage[] =
-    "usage: bench verify|count|time EXACT MODERN [options]\n"
+    "usage: bench verify|count|curves|contention|time EXACT MODERN [options]\n"
     "  verify                        every variant of every operation has the same outcome\n"
     "  count [VARIANT...]            each once, between marks for callgrind and strace\n"
+    "  curves                        some on tables of different sizes, between such marks\n"
+    "  contention FILE               writers at the same time\n"
     "  time [--benchmark_...]        each beside the bare variant, in turns\n"
     "EXACT and MODERN are the libraries. Runs inside the private root.\n";
+
+int run(const std::string &mode, const bench::Profiles &profiles, int argc, char **argv) {
+    if (mode == "verify") {
+        return bench::verify(profiles) ? 0 : 1;
+    }
+    if (mode == "count") {
+        bench::count(profiles, argc - 4, argv + 4);
+        return 0;
+    }
+    if (mode == "curves") {
+        bench::count_curves(profiles);
+        return 0;
+    }
+    if (mode == "contention" && argc == 5) {
+        bench::contend(profiles, argv[4]);
+        return 0;
+    }
+    if (mode == "time") {
+        return bench::time(profiles, argc - 3, argv + 3);
+    }
+    std::fputs(usage, stderr);
+    return 2;
+}
 
 }  // namespace
 
@@ -33,16 +59,5 @@ int main(int argc, char **argv) {
     const bench::Profiles profiles{bench::load_library(argv[2], bench::beside("start-exact")),
                                    bench::load_library(argv[3], bench::beside("start-modern"))};
     bench::outcomes::set_up();
-    if (std::strcmp(argv[1], "verify") == 0) {
-        return bench::verify(profiles) ? 0 : 1;
-    }
-    if (std::strcmp(argv[1], "count") == 0) {
-        bench::count(profiles, argc - 4, argv + 4);
-        return 0;
-    }
-    if (std::strcmp(argv[1], "time") == 0) {
-        return bench::time(profiles, argc - 3, argv + 3);
-    }
-    std::fputs(usage, stderr);
-    return 2;
+    return run(argv[1], profiles, argc, argv);
 }

@@ -49,6 +49,7 @@ double median(std::vector<double> values) {
 void take_turns(benchmark::State &state, const Profiles &profiles, const Operation &operation, Variant variant) {
     std::vector<double> ratios;
     std::vector<double> times;
+    std::vector<double> bare_times;
     measure(profiles, operation, variant);
     measure(profiles, operation, Variant::bare);
     for (auto _ : state) {
@@ -59,9 +60,11 @@ void take_turns(benchmark::State &state, const Profiles &profiles, const Operati
         state.SetIterationTime(own);
         ratios.push_back(own / bare);
         times.push_back(own);
+        bare_times.push_back(bare);
     }
     state.counters["ratio"] = median(ratios);
     state.counters["microseconds"] = median(times) * 1e6;
+    state.counters["bare_microseconds"] = median(bare_times) * 1e6;
 }
 
 }  // namespace
@@ -74,7 +77,7 @@ int time(const Profiles &profiles, int argc, char **argv) {
     for (const Operation &operation : operations()) {
         for (const Variant variant : variants_of(operation)) {
             if (variant != Variant::bare) {
-                const std::string name = std::string(operation.name) + "/" + std::string(name_of(variant));
+                const std::string name = std::string(operation.name) + "|" + std::string(name_of(variant));
                 benchmark::RegisterBenchmark(name.c_str(), take_turns, profiles, operation, variant)
                     ->UseManualTime()
                     ->Iterations(operation.rounds);

@@ -9,7 +9,7 @@ Key = tuple[str, str]  # operation, variant
 
 
 def _key(name: str) -> Key:
-    operation, variant = name.rsplit("/", 1)
+    operation, variant = name.rsplit("|", 1)
     return operation, variant
 
 
@@ -26,7 +26,7 @@ def instructions(directory: pathlib.Path) -> dict[Key, float]:
             key = _key(trigger.group(1))
             runs[key] += 1
         elif label.startswith("child,"):
-            key = _key(label.removeprefix("child,").replace(",,", "/"))
+            key = _key(label.removeprefix("child,"))
         else:
             continue
         totals[key] += int(summary.group(1))
@@ -48,9 +48,9 @@ def system_calls(trace: pathlib.Path) -> dict[Key, float]:
     return {key: totals[key] / count for key, count in runs.items()}
 
 
-def times(file: pathlib.Path) -> dict[Key, dict[str, float]]:
-    """Median ratio to the bare variant, and median microseconds, of each paired timing."""
+def times(file: pathlib.Path) -> dict[Key, dict]:
+    """The paired timings: medians of "ratio" to the bare variant, "microseconds" and "bare_microseconds"."""
     return {
-        _key(run["name"].split("/iterations:")[0]): {"ratio": run["ratio"], "microseconds": run["microseconds"]}
+        _key(run["name"].split("/iterations:")[0]): run
         for run in json.loads(file.read_text())["benchmarks"]
     }
