@@ -1,24 +1,28 @@
-/* Prints the private memory in kilobytes that loading a library adds to a process which has SQLite already:
+/* Prints the private memory in kilobytes that loading a library adds to a process which has SQLite already: written
+   pages, and pages of the file that nobody else maps:
 
      load LIBRARY */
 #include <dlfcn.h>
 #include <sqlite3.h>
 #include <stdio.h>
 
-static long private_memory(void) {
+struct memory {
+    long dirty;
+    long clean;
+};
+
+static struct memory private_memory(void) {
+    struct memory memory = {0, 0};
     FILE *file = fopen("/proc/self/smaps_rollup", "r");
     char line[256];
-    long sum = 0;
     while (file != NULL && fgets(line, sizeof(line), file) != NULL) {
-        long size = 0;
-        if (sscanf(line, "Private_Clean: %ld", &size) == 1 || sscanf(line, "Private_Dirty: %ld", &size) == 1) {
-            sum += size;
-        }
+        sscanf(line, "Private_Dirty: %ld", &memory.dirty);
+        sscanf(line, "Private_Clean: %ld", &memory.clean);
     }
     if (file != NULL) {
         fclose(file);
     }
-    return sum;
+    return memory;
 }
 
 int main(int argc, char **argv) {
@@ -26,11 +30,12 @@ int main(int argc, char **argv) {
         return 2;
     }
     private_memory(); /* so that its own memory is there */
-    const long before = private_memory();
+    const struct memory before = private_memory();
     if (dlopen(argv[1], RTLD_NOW) == NULL) {
         fprintf(stderr, "load: %s\n", dlerror());
         return 1;
     }
-    printf("%ld\n", private_memory() - before);
+    const struct memory after = private_memory();
+    printf("%ld %ld\n", after.dirty - before.dirty, after.clean - before.clean);
     return 0;
 }
