@@ -50,8 +50,7 @@ int print_rows(sqlite3 *db, sqlite3_stmt *statement) {
         join(db, "Name", id, names);
         join(db, "Name_En", id, names_en);
         join(db, "Features", id, features);
-        print_class(
-            {id, text(statement, 1), text(statement, 2), text(statement, 4), names, names_en, features});
+        print_class({id, text(statement, 1), text(statement, 2), text(statement, 4), names, names_en, features});
         ++count;
     }
     return count;

@@ -50,11 +50,9 @@ void insert_row(const DevInfo &device, unsigned long sn) {
 void report(const DevInfo &device) {
     sqlite3_str *const sql = sqlite3_str_new(nullptr);
     sqlite3_str_appendall(sql, "update DevInfo set ");
-    for_each_reported(device, [sql](const char *column, const char *value) {
-        sqlite3_str_appendf(sql, " %s='%q',", column, value);
-    });
-    sqlite3_str_appendf(sql,
-                        " Dev_Wlan_GroupId='0', Dev_Status='1',  Dev_Upgrade_Status='0'   where Dev_MAC='%q';",
+    for_each_reported(
+        device, [sql](const char *column, const char *value) { sqlite3_str_appendf(sql, " %s='%q',", column, value); });
+    sqlite3_str_appendf(sql, " Dev_Wlan_GroupId='0', Dev_Status='1',  Dev_Upgrade_Status='0'   where Dev_MAC='%q';",
                         device.Dev_MAC);
     execute_and_free(sqlite3_str_finish(sql));
 }

@@ -20,7 +20,8 @@ void tell(const Operation &operation, Variant variant, const std::string &expect
     const auto place = std::mismatch(expected.begin(), expected.begin() + static_cast<long>(common), got.begin());
     const auto at = static_cast<std::size_t>(place.first - expected.begin());
     const std::size_t from = at < 20 ? 0 : at - 20;
-    std::fprintf(stderr, "bench: %s, %.*s: differs at byte %zu of %zu (%zu expected)\n  expected  %.*s\n  got       %.*s\n",
+    std::fprintf(stderr,
+                 "bench: %s, %.*s: differs at byte %zu of %zu (%zu expected)\n  expected  %.*s\n  got       %.*s\n",
                  operation.name, static_cast<int>(name_of(variant).size()), name_of(variant).data(), at, got.size(),
                  expected.size(), 60, expected.substr(from).c_str(), 60, got.substr(from).c_str());
 }

@@ -90,15 +90,17 @@ void measure(const char *variant, int processes, const std::function<bool()> &up
 
 void contend(const Profiles &profiles, const char *path) {
     FILE *const file = std::fopen(path, "w");
-    auto *const shares = static_cast<Share *>(mmap(nullptr, most_processes * sizeof(Share), PROT_READ | PROT_WRITE,
-                                                   MAP_SHARED | MAP_ANONYMOUS, -1, 0));
+    auto *const shares = static_cast<Share *>(
+        mmap(nullptr, most_processes * sizeof(Share), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
     if (file == nullptr || shares == MAP_FAILED) {
         std::perror("bench: cannot measure contention");
         std::exit(1);
     }
     for (int processes = 1; processes <= most_processes; processes *= 2) {
-        measure("exact", processes, [&] { return profiles.exact.DB_EXEC_SQL_CHAR(update_sql) == 0; }, shares, file);
-        measure("modern", processes, [&] { return profiles.modern.DB_EXEC_SQL_CHAR(update_sql) == 0; }, shares, file);
+        measure(
+            "exact", processes, [&] { return profiles.exact.DB_EXEC_SQL_CHAR(update_sql) == 0; }, shares, file);
+        measure(
+            "modern", processes, [&] { return profiles.modern.DB_EXEC_SQL_CHAR(update_sql) == 0; }, shares, file);
         measure("busy_timeout", processes, update_with_busy_timeout, shares, file);
     }
     std::fclose(file);

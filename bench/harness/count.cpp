@@ -59,8 +59,8 @@ void count_apart(const Profiles &profiles, const Operation &operation, Variant v
 
 void count(const Profiles &profiles, int variant_count, char **variants) {
     const auto wanted = [&](Variant variant) {
-        return variant_count == 0 ||
-               std::any_of(variants, variants + variant_count, [&](const char *name) { return name_of(variant) == name; });
+        return variant_count == 0 || std::any_of(variants, variants + variant_count,
+                                                 [&](const char *name) { return name_of(variant) == name; });
     };
     for (const Operation &operation : operations()) {
         for (const Variant variant : variants_of(operation)) {

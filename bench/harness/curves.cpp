@@ -46,8 +46,8 @@ void resize(const Curve &curve, int size) {
     std::snprintf(sql, sizeof(sql), curve.resize, size);
 #pragma GCC diagnostic pop
     sqlite3 *db = nullptr;
-    const bool resized = sqlite3_open(curve.database, &db) == SQLITE_OK &&
-                         sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
+    const bool resized =
+        sqlite3_open(curve.database, &db) == SQLITE_OK && sqlite3_exec(db, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
     if (!resized) {
         std::fprintf(stderr, "bench: %s\n", sqlite3_errmsg(db));
         std::exit(1);
@@ -66,7 +66,8 @@ void count_curves(const Profiles &profiles) {
             for (const int size : curve.sizes) {
                 resize(curve, size);
                 for (const Variant variant : compared) {
-                    count_apart(profiles, operation, variant, std::string(curve.operation) + " @ " + std::to_string(size));
+                    count_apart(profiles, operation, variant,
+                                std::string(curve.operation) + " @ " + std::to_string(size));
                 }
             }
         }

@@ -15,14 +15,16 @@ struct Place {
     std::uint16_t width;
 };
 
-#define PLACE(column, member) \
-    Place { column, offsetof(DevInfo, member), sizeof(DevInfo{}.member) }
-#define NETWORK(number, first)                                                                                   \
-    PLACE(first, wlan[number].Enable), PLACE((first) + 1, wlan[number].Hide_Ssid),                               \
-        PLACE((first) + 2, wlan[number].Ssid), PLACE((first) + 3, wlan[number].VlanId),                          \
-        PLACE((first) + 4, wlan[number].Bssid), PLACE((first) + 5, wlan[number].Security),                       \
-        PLACE((first) + 6, wlan[number].Authmode), PLACE((first) + 7, wlan[number].Securitycipher),              \
-        PLACE((first) + 8, wlan[number].Wep_Type), PLACE((first) + 9, wlan[number].Wep_Value),                   \
+#define PLACE(column, member)                                       \
+    Place {                                                         \
+        column, offsetof(DevInfo, member), sizeof(DevInfo{}.member) \
+    }
+#define NETWORK(number, first)                                                                      \
+    PLACE(first, wlan[number].Enable), PLACE((first) + 1, wlan[number].Hide_Ssid),                  \
+        PLACE((first) + 2, wlan[number].Ssid), PLACE((first) + 3, wlan[number].VlanId),             \
+        PLACE((first) + 4, wlan[number].Bssid), PLACE((first) + 5, wlan[number].Security),          \
+        PLACE((first) + 6, wlan[number].Authmode), PLACE((first) + 7, wlan[number].Securitycipher), \
+        PLACE((first) + 8, wlan[number].Wep_Type), PLACE((first) + 9, wlan[number].Wep_Value),      \
         PLACE((first) + 10, wlan[number].Psk_Type), PLACE((first) + 11, wlan[number].Psk_Value)
 #define RADIO(suffix, first)                                                                                     \
     PLACE(first, Dev_Wlan_Channel##suffix), PLACE((first) + 1, Dev_Wlan_Current_Channel##suffix),                \

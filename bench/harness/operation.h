@@ -9,7 +9,6 @@
 
 namespace bench {
 
-
 /// What a timing counts: work of the SQL service, which has a process for each request, only shows in the elapsed time.
 enum class Clock : unsigned char { processor, elapsed };
 

@@ -6,8 +6,8 @@
 namespace bench {
 
 struct Places {
-    DevInfo device;        // read by DB_getinfo, written by DB_UpdateInfo and DB_addinfo
-    ApDevList devices;     // each record from malloc
+    DevInfo device;     // read by DB_getinfo, written by DB_UpdateInfo and DB_addinfo
+    ApDevList devices;  // each record from malloc
     UrlFilterItemList url_filters;
     BehaviorItemList behavior_rules;
     SqlReply reply;  // its data from malloc

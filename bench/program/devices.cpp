@@ -45,13 +45,14 @@ void list_devices() {
 }
 
 void print_device_page() {
-    const std::vector<Row> answer = query(
-        paths::main_database,
-        "select count(*) filter (where Dev_Ipaddress <> ''), count(*) filter (where Dev_Status = '1'),"
-        "sum(Dev_Wlan_Sta_Num) + sum(Dev_Wlan_Sta_Num_sec) from DevInfo;"
-        "select * from DevInfo where Dev_Ipaddress <> '' order by Dev_IPSUM limit 0, 17;");
+    const std::vector<Row> answer =
+        query(paths::main_database,
+              "select count(*) filter (where Dev_Ipaddress <> ''), count(*) filter (where Dev_Status = '1'),"
+              "sum(Dev_Wlan_Sta_Num) + sum(Dev_Wlan_Sta_Num_sec) from DevInfo;"
+              "select * from DevInfo where Dev_Ipaddress <> '' order by Dev_IPSUM limit 0, 17;");
     const Row &numbers = answer.front();
-    const DeviceTotals totals{std::stoi(numbers[0]), std::stoi(numbers[1]), std::stoi(numbers[2]), std::stoi(numbers[0])};
+    const DeviceTotals totals{std::stoi(numbers[0]), std::stoi(numbers[1]), std::stoi(numbers[2]),
+                              std::stoi(numbers[0])};
     std::printf("{\"ApDevList\":{\"data\":[");
     for (std::size_t row = 1; row < answer.size(); ++row) {
         print_device([&](int column) { return answer[row][static_cast<std::size_t>(column)].c_str(); });

@@ -44,23 +44,23 @@ void read_url_filter(const Row &row, UrlFilterItem &rule) {
 
 void list_url_filters() {
     places.url_filters = {};
-    const std::vector<Row> rows = query(
-        paths::main_database,
-        "select * from filter_url as rule left join user_timegroup as time on rule.timecontrol = 2 and "
-        "time.id = rule.timegroup_id order by rule.Id");
+    const std::vector<Row> rows =
+        query(paths::main_database,
+              "select * from filter_url as rule left join user_timegroup as time on rule.timecontrol = 2 and "
+              "time.id = rule.timegroup_id order by rule.Id");
     for (const Row &row : rows) {
         read_url_filter(row, places.url_filters.items[places.url_filters.count++]);
     }
 }
 
 void print_classes() {
-    const std::vector<Row> classes = query(
-        paths::catalogue_database,
-        "select Id, Name, Name_En, Mark, "
-        "(select group_concat(Name || '/', '') from App_Info where Class_Id = App_Class.Id), "
-        "(select group_concat(Name_En || '/', '') from App_Info where Class_Id = App_Class.Id), "
-        "(select group_concat(Features || '/', '') from App_Info where Class_Id = App_Class.Id) "
-        "from App_Class order by Id");
+    const std::vector<Row> classes =
+        query(paths::catalogue_database,
+              "select Id, Name, Name_En, Mark, "
+              "(select group_concat(Name || '/', '') from App_Info where Class_Id = App_Class.Id), "
+              "(select group_concat(Name_En || '/', '') from App_Info where Class_Id = App_Class.Id), "
+              "(select group_concat(Features || '/', '') from App_Info where Class_Id = App_Class.Id) "
+              "from App_Class order by Id");
     std::printf("{\"ItemList\":{\"data\":[");
     for (const Row &row : classes) {
         print_class({row[0].c_str(), row[1].c_str(), row[2].c_str(), row[3].c_str(), row[4].c_str(), row[5].c_str(),

@@ -13,9 +13,8 @@ void print_classes() {
     std::string name;
     std::string name_en;
     std::string feature;
-    soci::statement applications =
-        (sql.prepare << "select Name, Name_En, Features from App_Info where Class_Id = :id", soci::use(id),
-         soci::into(name), soci::into(name_en), soci::into(feature));
+    soci::statement applications = (sql.prepare << "select Name, Name_En, Features from App_Info where Class_Id = :id",
+                                    soci::use(id), soci::into(name), soci::into(name_en), soci::into(feature));
     const Rows classes = (sql.prepare << "select * from App_Class order by Id");
     std::printf("{\"ItemList\":{\"data\":[");
     int count = 0;

@@ -92,8 +92,8 @@ void list_behavior_rules() {
     int id = 0;
     std::string feature;
     Names found;
-    soci::statement classes = (catalogue.prepare << "select Name, Name_En from App_Class where Id = :id",
-                               soci::use(id), soci::into(found.name), soci::into(found.name_en));
+    soci::statement classes = (catalogue.prepare << "select Name, Name_En from App_Class where Id = :id", soci::use(id),
+                               soci::into(found.name), soci::into(found.name_en));
     soci::statement applications =
         (catalogue.prepare << "select Name, Name_En from App_Info where Class_Id = :id and Features = :feature",
          soci::use(id), soci::use(feature), soci::into(found.name), soci::into(found.name_en));

@@ -40,8 +40,7 @@ void print_device_page() {
     DeviceTotals totals{};
     totals.devices = db.execAndGet("select count(*) from DevInfo where Dev_Ipaddress <> ''").getInt();
     totals.online = db.execAndGet("select count(*) from DevInfo where Dev_Status = '1'").getInt();
-    totals.stations =
-        db.execAndGet("select sum(Dev_Wlan_Sta_Num) + sum(Dev_Wlan_Sta_Num_sec) from DevInfo").getInt();
+    totals.stations = db.execAndGet("select sum(Dev_Wlan_Sta_Num) + sum(Dev_Wlan_Sta_Num_sec) from DevInfo").getInt();
     totals.matching = totals.devices;
     std::printf("{\"ApDevList\":{\"data\":[");
     SQLite::Statement query(db, "select * from DevInfo where Dev_Ipaddress <> '' order by Dev_IPSUM limit ?, ?");

@@ -89,8 +89,7 @@ void list_behavior_rules() {
     const SQLite::Database catalogue(paths::catalogue_database);
     SQLite::Statement query(db, "select * from behavior_rule order by id");
     SQLite::Statement classes(catalogue, "select Name, Name_En from App_Class where Id = ?");
-    SQLite::Statement applications(catalogue,
-                                   "select Name, Name_En from App_Info where Class_Id = ? and Features = ?");
+    SQLite::Statement applications(catalogue, "select Name, Name_En from App_Info where Class_Id = ? and Features = ?");
     std::memset(&places.behavior_rules, 0, sizeof(places.behavior_rules));
     while (query.executeStep()) {
         BehaviorItem &rule = places.behavior_rules.items[places.behavior_rules.count++];

@@ -39,8 +39,7 @@ void execute_update() {
 
 void configure_device() {
     SQLite::Database db(paths::main_database, SQLite::OPEN_READWRITE);
-    update(db, places.device.Dev_Sn, "Dev_Status = '1'",
-           [](auto write) { for_each_configured(places.device, write); });
+    update(db, places.device.Dev_Sn, "Dev_Status = '1'", [](auto write) { for_each_configured(places.device, write); });
 }
 
 void register_device() {
