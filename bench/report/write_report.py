@@ -10,15 +10,16 @@ import sys
 import readings
 
 VARIANTS = ("exact", "modern", "bare", "SQLiteCpp", "SOCI", "program")
+COMPARED = ("bare", "exact", "modern", "SQLiteCpp")  # in the curves
 
 INTRODUCTION = """# Benchmark
 
 Written by `scripts/bench --write`; `bench/README.md` says what is measured and how.
 
 **exact** and **modern** are the library in its two profiles. **bare** is SQLite (or the socket) by hand, with the
-connections, statements, locks and copies of the exact profile. **SQLiteCpp**, **SOCI** and the **sqlite3 program** get the
-same results the way their users would write it, on one fresh connection for each operation and without the lock file.
-All of them were checked for equal results before.
+connections, statements, locks and copies of the exact profile. **SQLiteCpp**, **SOCI** and the **sqlite3 program** get
+the same results the way their users would write it, on one fresh connection for each operation and without the lock
+file. All of them were checked for equal results before.
 
 Instructions, processor time and system calls of *bare* are absolute, those of the others ratios to it.
 """
@@ -62,9 +63,9 @@ def curves(results: pathlib.Path) -> str:
         sizes = sorted({int(title.split(" @ ")[1]) for title, _ in counted if title.startswith(f"{operation} @ ")})
         for size in sizes:
             title = f"{operation} @ {size}"
-            rows.append([operation if size == sizes[0] else "", str(size)] +
-                        [f"{counted[title, variant] / 1e6:.2f}" for variant in ("bare", "exact", "modern", "SQLiteCpp")])
-    return table(["Operation", "Rows", "bare", "exact", "modern", "SQLiteCpp"], rows)
+            counts = [f"{counted[title, variant] / 1e6:.2f}" for variant in COMPARED]
+            rows.append([operation if size == sizes[0] else "", str(size), *counts])
+    return table(["Operation", "Rows", *COMPARED], rows)
 
 
 def contention(results: pathlib.Path) -> str:
@@ -82,7 +83,8 @@ def load(results: pathlib.Path) -> str:
     for line in (results / "load").read_text().splitlines():
         profile, needed, relocations, dirty, clean = line.split()
         rows.append([profile, needed.replace(",", ", "), relocations, f"{dirty} KB", f"{clean} KB"])
-    return table(["Profile", "Libraries needed", "Relocations", "Private memory, written", "and mapped by nobody else"], rows)
+    head = ["Profile", "Libraries needed", "Relocations", "Private memory, written", "and mapped by nobody else"]
+    return table(head, rows)
 
 
 def machine(results: pathlib.Path) -> str:
