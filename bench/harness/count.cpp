@@ -19,17 +19,12 @@ void mark(const char *what, const std::string &name) {
     [[maybe_unused]] const int absent = access(path.c_str(), F_OK);
 }
 
-/// An operation that is timed in few rounds is long: once tells enough, and nothing has to warm up.
-bool is_long(const Operation &operation) {
-    return operation.rounds < 10;
-}
-
 void count_runs(const Profiles &profiles, const Operation &operation, Variant variant, const std::string &name) {
-    if (!is_long(operation)) {
+    if (!operation.is_long()) {
         prepare(operation, variant);
         run(profiles, operation, variant);
     }
-    const int runs = is_long(operation) ? 1 : 3;
+    const int runs = operation.is_long() ? 1 : 3;
     for (int repetition = 0; repetition < runs; ++repetition) {
         prepare(operation, variant);
         setenv("BENCH_CHILD", ("child," + name).c_str(), 1);
@@ -57,12 +52,15 @@ void count_apart(const Profiles &profiles, const Operation &operation, Variant v
     }
 }
 
-void count(const Profiles &profiles, int variant_count, char **variants) {
+void count(const Profiles &profiles, std::string_view which, int variant_count, char **variants) {
     const auto wanted = [&](Variant variant) {
         return variant_count == 0 || std::any_of(variants, variants + variant_count,
                                                  [&](const char *name) { return name_of(variant) == name; });
     };
     for (const Operation &operation : operations()) {
+        if (which != "all" && which != (operation.is_long() ? "long" : "short")) {
+            continue;
+        }
         for (const Variant variant : variants_of(operation)) {
             if (wanted(variant)) {
                 count_apart(profiles, operation, variant, operation.name);

@@ -14,6 +14,7 @@ namespace bench {
 void count_apart(const Profiles &profiles, const Operation &operation, Variant variant, const std::string &title);
 
 /// Does so for the given variants of every operation, all if none is given.
-void count(const Profiles &profiles, int variant_count, char **variants);
+/// @param which  "all", or "long" or "short" for these operations alone, which take about as much together
+void count(const Profiles &profiles, std::string_view which, int variant_count, char **variants);
 
 }  // namespace bench

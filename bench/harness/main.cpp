@@ -15,7 +15,7 @@ namespace {
 constexpr char usage[] =
     "usage: bench verify|count|curves|contention|time EXACT MODERN [options]\n"
     "  verify                        every variant of every operation has the same outcome\n"
-    "  count [VARIANT...]            each once, between marks for callgrind and strace\n"
+    "  count WHICH [VARIANT...]      each, between marks for callgrind and strace; WHICH is all, long or short\n"
     "  curves                        some on tables of different sizes, between such marks\n"
     "  contention FILE               writers at the same time\n"
     "  time [--benchmark_...]        each beside the bare variant, in turns\n"
@@ -25,8 +25,8 @@ int run(const std::string &mode, const bench::Profiles &profiles, int argc, char
     if (mode == "verify") {
         return bench::verify(profiles) ? 0 : 1;
     }
-    if (mode == "count") {
-        bench::count(profiles, argc - 4, argv + 4);
+    if (mode == "count" && argc > 4) {
+        bench::count(profiles, argv[4], argc - 5, argv + 5);
         return 0;
     }
     if (mode == "curves") {

@@ -34,7 +34,7 @@ def instructions(directory: pathlib.Path) -> dict[Key, float]:
 
 
 def system_calls(trace: pathlib.Path) -> dict[Key, float]:
-    """System calls of a run on average, those of the processes that it started included."""
+    """System calls of a run on average, those of the processes that it started included and the allocator's left out."""
     totals: dict[Key, int] = collections.defaultdict(int)
     runs: dict[Key, int] = collections.defaultdict(int)
     current = None
@@ -43,7 +43,7 @@ def system_calls(trace: pathlib.Path) -> dict[Key, float]:
         if mark:
             current = _key(mark.group(2)) if mark.group(1) == "begin" else None
             runs[_key(mark.group(2))] += mark.group(1) == "begin"
-        elif current and re.match(r"\d+ +\w+\(", line):
+        elif current and re.match(r"\d+ +(?!brk)\w+\(", line):
             totals[current] += 1
     return {key: totals[key] / count for key, count in runs.items()}
 
