@@ -312,23 +312,23 @@ ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
 
 /// Table ids, the first word of each request.
 enum {
-    ROUTERDB_TABLE_DHCP_STATIC = 1,
-    ROUTERDB_TABLE_URL_FILTER = 2,
-    ROUTERDB_TABLE_MAC_FILTER = 3,
-    ROUTERDB_TABLE_IP_FILTER = 4,
-    ROUTERDB_TABLE_TIME_GROUP = 5,
-    ROUTERDB_TABLE_IP_GROUP = 6,
-    ROUTERDB_TABLE_SMART_QOS = 7,
-    ROUTERDB_TABLE_USER_URL = 8,
-    ROUTERDB_TABLE_FAMLIY_MEMBER = 11,
-    ROUTERDB_TABLE_PORT_FORWARD = 12,
-    ROUTERDB_TABLE_QOS = 13,
-    ROUTERDB_TABLE_BEHAVIOR = 14,
-    ROUTERDB_TABLE_ACL0 = 15,
-    ROUTERDB_TABLE_ACL1 = 16,
-    ROUTERDB_TABLE_ACL2 = 17,
-    ROUTERDB_TABLE_DOMAIN_IP = 18,
-    ROUTERDB_TABLE_SCALAR = 100  ///< not a table: the reply is the first column of the first row as text
+    ROUTERDB_TABLE_DHCP_STATIC = 1,     ///< DhcpStaticItem
+    ROUTERDB_TABLE_URL_FILTER = 2,      ///< UrlFilterItem
+    ROUTERDB_TABLE_MAC_FILTER = 3,      ///< MacFilterItem
+    ROUTERDB_TABLE_IP_FILTER = 4,       ///< IpFilterItem
+    ROUTERDB_TABLE_TIME_GROUP = 5,      ///< TimeGroupItem
+    ROUTERDB_TABLE_IP_GROUP = 6,        ///< IpGroupItem
+    ROUTERDB_TABLE_SMART_QOS = 7,       ///< SmartQosItem
+    ROUTERDB_TABLE_USER_URL = 8,        ///< UserUrlItem
+    ROUTERDB_TABLE_FAMLIY_MEMBER = 11,  ///< FamliyMemberItem
+    ROUTERDB_TABLE_PORT_FORWARD = 12,   ///< PortFwItem
+    ROUTERDB_TABLE_QOS = 13,            ///< QosItem
+    ROUTERDB_TABLE_BEHAVIOR = 14,       ///< BehaviorItem
+    ROUTERDB_TABLE_ACL0 = 15,           ///< AclItem, `wifi0acl`
+    ROUTERDB_TABLE_ACL1 = 16,           ///< AclItem, `wifi1acl`
+    ROUTERDB_TABLE_ACL2 = 17,           ///< AclItem, `wifi2acl`
+    ROUTERDB_TABLE_DOMAIN_IP = 18,      ///< DomainIpItem
+    ROUTERDB_TABLE_SCALAR = 100         ///< not a table: the reply is the first column of the first row as text
 };
 
 /// Table ids of the three Wi-Fi access lists, by their number.
