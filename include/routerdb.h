@@ -1322,6 +1322,7 @@ ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 ///             converted becomes empty
 /// @return the serial number as an int, or -1. Compare with -1 only: an address whose last octet is 128 or more gives a
 ///         negative number on success, and an empty address gives -1 although the row was written
+/// @note Copies the database as DbSqlExec() does when the text of its update contains "insert".
 /// @note Errors: "not have enough mem" in the system log.
 ROUTERDB_API int DB_addinfo(DevInfo dev);
 
