@@ -5,14 +5,13 @@
 #include <stdarg.h>
 #include <stdio.h>
 #include <time.h>
-#include <unistd.h>
 
 static sqlite3 *occupant;  // keeps the database busy
 static int waits;
 
-int usleep(useconds_t microseconds) {
+int usleep(unsigned microseconds) {
     const struct timespec pause = {0, (long)microseconds * 1000};
-    printf("The library waits %u microseconds.\n", (unsigned)microseconds);
+    printf("The library waits %u microseconds.\n", microseconds);
     if (++waits == 3) {
         sqlite3_exec(occupant, "rollback;", NULL, NULL, NULL);
     }
