@@ -57,11 +57,11 @@ int DB_UpdateInfo(DevInfo dev) {
 }
 
 void SetDevStatus(const char *mac, const char *status) {
-    set_status(Key::mac, or_empty(mac), or_empty(status));
+    set_status(LookupKey::mac, or_empty(mac), or_empty(status));
 }
 
 void SetDevStatusbyIP(const char *ip, const char *status) {
-    set_status(Key::ip, or_empty(ip), or_empty(status));
+    set_status(LookupKey::ip, or_empty(ip), or_empty(status));
 }
 
 void GetDevStatus(const char *mac, char *out) {
@@ -77,11 +77,11 @@ void GetDevMacBySN(unsigned long sn, char *out) {
 }
 
 void GetDevSNByMac(const char *mac, unsigned long *sn) {
-    read_sn(Key::mac, or_empty(mac), *sn);
+    read_sn(LookupKey::mac, or_empty(mac), *sn);
 }
 
 void GetDevSNByIp(const char *ip, unsigned long *sn) {
-    read_sn(Key::ip, or_empty(ip), *sn);
+    read_sn(LookupKey::ip, or_empty(ip), *sn);
 }
 
 void SetDevUpgradeStatus(const char *mac, const char *status) {

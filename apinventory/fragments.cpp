@@ -57,18 +57,18 @@ bool is_left_out(Value value, std::string_view member) {
 
 }  // namespace
 
-void append_fragment(Text &sql, const Fragment &fragment, const Scope &scope) {
-    const std::string_view member = field_text(static_cast<const char *>(scope.base) + fragment.offset, fragment.width);
-    if (is_left_out(fragment.value, member)) {
+void append_fragment(Text &sql, const char *column, Content content, const Scope &scope) {
+    const std::string_view member = field_text(static_cast<const char *>(scope.base) + content.offset, content.width);
+    if (is_left_out(content.value, member)) {
         return;
     }
-    sql.append(fragment.lead == Lead::blank ? " " : "").append(scope.prefix);
+    sql.append(content.lead == Lead::blank ? " " : "").append(scope.prefix);
     if (scope.wlan != 0) {
         sql.append(static_cast<unsigned long>(scope.wlan)).append("_");
     }
-    sql.append(fragment.column).append(scope.suffix).append("='");
-    append_value(sql, fragment.value, member, scope);
-    sql.append(tails[static_cast<unsigned>(fragment.tail)]);
+    sql.append(column).append(scope.suffix).append("='");
+    append_value(sql, content.value, member, scope);
+    sql.append(tails[static_cast<unsigned>(content.tail)]);
 }
 
 Scope scope_of(const DevInfo &record, const char *prefix, bool doubles_quotes) {

@@ -21,14 +21,25 @@ enum class Value : std::uint8_t {
     power,           // the member; without a number from 10 to 100 the fragment is left out
 };
 
-struct Fragment {
-    char column[28];
-    Lead lead;
-    Tail tail;
-    Value value;
+/// What stands between the quotes and around them.
+struct Content {
+    Lead lead : 1;
+    Tail tail : 2;
+    Value value : 2;
     std::uint8_t width;
     std::uint16_t offset;  // of the member, from the base of its scope
 };
+
+/// A row has its column's name in itself: a pointer would take a relocation each time the library is loaded.
+template <std::size_t room>
+struct Fragment {
+    char column[room];
+    Content content;
+};
+
+using DeviceFragment = Fragment<24>;
+using WlanFragment = Fragment<16>;
+using RadioFragment = Fragment<18>;
 
 /// What a list of fragments is about, and what it puts around each column's name: "Dev_Wlan3_" before it for a
 /// network, "Dev_Wlan_" before and "_sec" behind it for the second radio.
@@ -40,11 +51,16 @@ struct Scope {
     bool doubles_quotes;
 };
 
-void append_fragment(Text &sql, const Fragment &fragment, const Scope &scope);
+void append_fragment(Text &sql, const char *column, Content content, const Scope &scope);
 
-template <std::size_t count>
-void append_fragments(Text &sql, const Fragment (&fragments)[count], const Scope &scope) {
-    for (const Fragment &fragment : fragments) {
+template <std::size_t room>
+void append_fragment(Text &sql, const Fragment<room> &fragment, const Scope &scope) {
+    append_fragment(sql, fragment.column, fragment.content, scope);
+}
+
+template <std::size_t room, std::size_t count>
+void append_fragments(Text &sql, const Fragment<room> (&fragments)[count], const Scope &scope) {
+    for (const Fragment<room> &fragment : fragments) {
         append_fragment(sql, fragment, scope);
     }
 }
@@ -61,10 +77,12 @@ Scope scope_of_radio(const DevInfo &record, const char *prefix, bool second, boo
 }  // namespace routerdb
 
 // Rows of fragment arrays: the member gives place and width, and the column's name where the two are alike.
-#define FRAGMENT(Type, member, column, lead, value, tail)                                                 \
-    {                                                                                                     \
-        column, routerdb::Lead::lead, routerdb::Tail::tail, routerdb::Value::value, sizeof(Type::member), \
-            offsetof(Type, member)                                                                        \
+#define FRAGMENT(Type, member, column, lead, value, tail)                                             \
+    {                                                                                                 \
+        column, {                                                                                     \
+            routerdb::Lead::lead, routerdb::Tail::tail, routerdb::Value::value, sizeof(Type::member), \
+                offsetof(Type, member)                                                                \
+        }                                                                                             \
     }
 #define DEVICE(lead, member, tail) FRAGMENT(DevInfo, member, #member, lead, text, tail)
 #define DEVICE_AS(lead, member, column, tail) FRAGMENT(DevInfo, member, column, lead, text, tail)

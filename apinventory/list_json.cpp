@@ -136,7 +136,7 @@ void print_rows(Reading &reading, Totals totals) {
     json::Element closing;
     for (const Key &key : keys) {
         if (key.in_closing) {
-            closing.print(key.name, std::string_view());
+            closing.print(key.name, "");
         }
     }
     json::close_list(count);

@@ -47,7 +47,7 @@ void read_sn_by_mac(const DevInfo &device, unsigned long &sn) {
     Sql mac;
     mac.append_escaped(field_text(device.Dev_MAC));
     if (mac.complete()) {
-        read_sn(Key::mac, mac.c_str(), sn);
+        read_sn(LookupKey::mac, mac.c_str(), sn);
     }
 }
 

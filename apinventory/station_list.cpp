@@ -70,8 +70,8 @@ void print_lines(FILE *file) {
     while (std::fgets(line, sizeof(line), file) != nullptr) {
         if (parse(line, station)) {
             json::Element element;
-            element.print("mac", std::string_view(station.mac));
-            element.print("time", std::string_view(station.time));
+            element.print("mac", station.mac);
+            element.print("time", station.time);
             // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0
             element.print("signal", long{std::atoi(station.signal)});
             json::close_element();
@@ -80,7 +80,7 @@ void print_lines(FILE *file) {
     }
     json::Element closing;
     for (const char *key : {"mac", "time", "signal"}) {
-        closing.print(key, std::string_view());
+        closing.print(key, "");
     }
     json::close_list(count);
     json::print("}}\n");

@@ -15,8 +15,8 @@ namespace {
 
 using Sql = StackText<200>;
 
-const char *column_of(Key key) {
-    return key == Key::mac ? "Dev_MAC" : "Dev_Ipaddress";
+const char *column_of(LookupKey key) {
+    return key == LookupKey::mac ? "Dev_MAC" : "Dev_Ipaddress";
 }
 
 // These functions report nothing: what becomes of a statement shows in the row alone.
@@ -33,7 +33,7 @@ void read_text(const Text &sql, char *out) {
 
 }  // namespace
 
-void set_status(Key key, const char *value, const char *status) {
+void set_status(LookupKey key, const char *value, const char *status) {
     Sql sql;
     sql.append("update DevInfo set Dev_Status=").append_quoted(status);
     if (std::atoi(status) == 0) {  // NOLINT(cert-err34-c): a text that is no number counts as offline
@@ -56,7 +56,7 @@ void read_mac(unsigned long sn, char *out) {
     read_text(sql, out);
 }
 
-void read_sn(Key key, const char *value, unsigned long &sn) {
+void read_sn(LookupKey key, const char *value, unsigned long &sn) {
     Sql sql;
     sql.append("select Dev_Sn from  DevInfo where ")
         .append(column_of(key))
@@ -74,7 +74,7 @@ void set_upgrade_status(const char *mac, const char *status) {
     sql.append("  where Dev_MAC=").append_quoted(mac).append(";");
     run(sql);
     unsigned long sn = 0;  // announced for an unknown address
-    read_sn(Key::mac, mac, sn);
+    read_sn(LookupKey::mac, mac, sn);
     notify(Event::modified, sn);
 }
 

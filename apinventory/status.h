@@ -6,10 +6,10 @@
 namespace routerdb {
 
 /// The column that tells an access point.
-enum class Key : std::uint8_t { mac, ip };
+enum class LookupKey : std::uint8_t { mac, ip };
 
 /// Sets the status; going offline clears the station counts.
-void set_status(Key key, const char *value, const char *status);
+void set_status(LookupKey key, const char *value, const char *status);
 
 /// Reads a column of the access point with a MAC address; "0" without one.
 void read_status(const char *column, const char *mac, char *out);
@@ -18,7 +18,7 @@ void read_status(const char *column, const char *mac, char *out);
 void read_mac(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point; untouched without a row.
-void read_sn(Key key, const char *value, unsigned long &sn);
+void read_sn(LookupKey key, const char *value, unsigned long &sn);
 
 /// Sets the upgrade status and announces the change.
 void set_upgrade_status(const char *mac, const char *status);

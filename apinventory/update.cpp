@@ -11,7 +11,7 @@ namespace {
 constexpr bool doubled = true;
 
 // clang-format off
-constexpr Fragment reported_device[] = {
+constexpr DeviceFragment reported_device[] = {
     DEVICE(blank, Dev_Group, comma),
     DEVICE(blank, Dev_Name, comma),
     DEVICE(blank, Dev_IP_Assign, comma),
@@ -32,11 +32,11 @@ constexpr Fragment reported_device[] = {
     DEVICE(blank, Dev_Manufacture, comma),
 };
 
-constexpr Fragment group_id     = DEVICE(blank, Dev_Wlan_GroupId, comma);
-constexpr Fragment wlan_count   = DEVICE(blank, Dev_Wlan_Radio_Num, comma);
-constexpr Fragment trap_address = DEVICE(blank, Dev_Sys_TrapIP, blank);
+constexpr DeviceFragment group_id      = DEVICE(blank, Dev_Wlan_GroupId, comma);
+constexpr DeviceFragment wlan_count    = DEVICE(blank, Dev_Wlan_Radio_Num, comma);
+constexpr DeviceFragment trap_address  = DEVICE(blank, Dev_Sys_TrapIP, blank);
 
-constexpr Fragment reported_wlan[] = {
+constexpr WlanFragment reported_wlan[] = {
     WLAN(blank, Enable, comma),
     WLAN(blank, Hide_Ssid, comma),
     FRAGMENT(DevWlanEntry, Ssid, "Ssid", blank, reported_ssid, comma),
@@ -51,7 +51,7 @@ constexpr Fragment reported_wlan[] = {
     WLAN(nothing, Psk_Value, comma),
 };
 
-constexpr Fragment reported_radio[] = {
+constexpr RadioFragment reported_radio[] = {
     RADIO(blank, Channel, comma),
     RADIO(blank, Current_Channel, comma),
     RADIO(blank, Isolate, comma),
@@ -71,7 +71,7 @@ constexpr Fragment reported_radio[] = {
     RADIO(blank, CoverageThreshold, comma_blank),
 };
 
-constexpr Fragment configured_device[] = {
+constexpr DeviceFragment configured_device[] = {
     DEVICE(blank, Dev_IP_Assign, comma),
     DEVICE(blank, Dev_Ipaddress, comma),
     FRAGMENT(DevInfo, Dev_Ipaddress, "Dev_IPSUM", blank, address_number, comma),
@@ -79,7 +79,7 @@ constexpr Fragment configured_device[] = {
     DEVICE(blank, Dev_Wlan_GroupId, comma),
 };
 
-constexpr Fragment configured_radio[] = {
+constexpr RadioFragment configured_radio[] = {
     RADIO(blank, Channel, comma),
     FRAGMENT(DevInfo, Dev_Wlan_Txpower, "Txpower", blank, power, comma),
     RADIO(blank, Isolate, comma),
@@ -97,8 +97,8 @@ constexpr Fragment configured_radio[] = {
 // clang-format on
 
 /// The networks in use, as many as the record has room for, and both radios.
-template <std::size_t wlan_fragments, std::size_t radio_fragments>
-void append_wireless(Text &sql, const Fragment (&wlan)[wlan_fragments], const Fragment (&radio)[radio_fragments],
+template <std::size_t wlan_rows, std::size_t radio_rows>
+void append_wireless(Text &sql, const WlanFragment (&wlan)[wlan_rows], const RadioFragment (&radio)[radio_rows],
                      const DevInfo &device) {
     const int in_use = wlans_in_use(device);
     for (int number = 0; number < in_use && number < ROUTERDB_WLANS; ++number) {

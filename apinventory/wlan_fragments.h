@@ -7,7 +7,7 @@
 namespace routerdb {
 
 // clang-format off
-inline constexpr Fragment settings_of_wlan[] = {
+inline constexpr WlanFragment settings_of_wlan[] = {
     WLAN(blank, Enable, comma),
     WLAN(blank, Hide_Ssid, comma),
     WLAN(blank, Ssid, comma),

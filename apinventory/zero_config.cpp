@@ -19,20 +19,20 @@ namespace {
 constexpr bool as_given = false;
 
 // clang-format off
-constexpr Fragment saved_name = DEVICE_AS(blank, wlan_group_name, "Name", comma);
+constexpr DeviceFragment saved_name  = DEVICE_AS(blank, wlan_group_name, "Name", comma);
 
 // Between the rate and the mode of the first radio, the RADIUS server is written.
-constexpr Fragment saved_radio_head[] = {
+constexpr RadioFragment saved_radio_head[] = {
     RADIO(blank, Channel, comma),
     RADIO(blank, Isolate, comma),
     RADIO(blank, Rate, comma),
 };
-constexpr Fragment saved_radius[] = {
+constexpr DeviceFragment saved_radius[] = {
     DEVICE_AS(blank, radius_server_ip, "Wlan_Radius_ServerIP", comma),
     DEVICE_AS(blank, radius_server_port, "Wlan_Radius_ServerPort", comma),
     DEVICE_AS(blank, radius_shared_key, "Wlan_Radius_Sharekey", comma),
 };
-constexpr Fragment saved_radio[] = {
+constexpr RadioFragment saved_radio[] = {
     RADIO(blank, Mode, comma),
     RADIO(blank, Bw, comma),
     RADIO(blank, Ampdu, comma),
@@ -44,12 +44,12 @@ constexpr Fragment saved_radio[] = {
     RADIO_AS(blank, RxOption, "RevOption", comma_blank),
     RADIO(blank, MaxStaNum, comma_blank),
 };
-constexpr Fragment saved_threshold = RADIO(blank, CoverageThreshold, comma_blank);
+constexpr RadioFragment saved_threshold = RADIO(blank, CoverageThreshold, comma_blank);
+constexpr RadioFragment saved_second_threshold = RADIO(blank, CoverageThreshold, blank);
 
-constexpr Fragment saved_reboot[] = {
+constexpr DeviceFragment saved_reboot[] = {
     DEVICE(blank, Dev_RebootTime_Enable, comma_blank),
     DEVICE(blank, Dev_RebootTime, comma_blank),
-    DEVICE_AS(blank, Dev_Wlan_CoverageThreshold_sec, "Wlan_CoverageThreshold_sec", blank),
 };
 // clang-format on
 
@@ -104,6 +104,7 @@ void append_update(Text &sql, const DevInfo &group, int id) {
     append_fragments(sql, saved_radio_head, second);
     append_fragments(sql, saved_radio, second);
     append_fragments(sql, saved_reboot, whole);
+    append_fragment(sql, saved_second_threshold, second);
     sql.append("  where WlanGroup_Id=").append_quoted(long{id}).append(" ");
 }
 

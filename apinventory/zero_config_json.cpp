@@ -67,7 +67,7 @@ void print_rows(Reading &reading) {
     }
     json::Element closing;
     for (const Key &key : keys) {
-        closing.print(key.name, std::string_view());
+        closing.print(key.name, "");
     }
     json::close_list(count);
     json::close_object();

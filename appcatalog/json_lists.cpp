@@ -52,11 +52,11 @@ void print_member(json::Element &element, const Key &key, const Row &row, const 
         case From::zero:
             return element.print(key.name, 0L);
         case From::argument:
-            return element.print(key.name, std::string_view(argument));
+            return element.print(key.name, argument);
         case From::names:
         case From::names_en:
         case From::features:
-            return element.print(key.name, std::string_view(joined[index_in_joined(key.from)]));
+            return element.print(key.name, joined[index_in_joined(key.from)]);
     }
 }
 
@@ -75,7 +75,7 @@ void print_rows(const ListSpec &spec, Reading &reading, const char *argument, in
     }
     json::Element closing;
     for (unsigned index = 0; index < spec.key_count; ++index) {
-        closing.print(spec.keys[index].name, std::string_view());
+        closing.print(spec.keys[index].name, "");
     }
     json::close_list(spec.count == Count::of_table ? table_count : count, spec.closing_blank);
     json::close_object();

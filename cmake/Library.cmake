@@ -92,12 +92,12 @@ target_include_directories(
 target_compile_definitions(routerdb_objects PUBLIC ROUTERDB_PROFILE=${ROUTERDB_PROFILE})
 target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
 # Fortified calls have other names, and programs put their own functions in front of the plain ones.
-# Without exceptions nobody unwinds in the field; a debug build keeps what a debugger needs.
 target_compile_options(
     routerdb_objects
-    PRIVATE $<$<CONFIG:MinSizeRel>:-fno-asynchronous-unwind-tables>
-            -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
+    PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
             -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0)
+
+include(SmallBuild)
 
 add_library(routerdb SHARED)
 add_library(routerdb::routerdb ALIAS routerdb)
@@ -117,4 +117,5 @@ target_link_options(
             LINKER:--no-undefined-version
             LINKER:-z,defs
             LINKER:--gc-sections
-            LINKER:--as-needed)
+            LINKER:--as-needed
+            $<$<CONFIG:MinSizeRel>:${small_link_options}>)

@@ -4,10 +4,8 @@
 
 namespace routerdb::json {
 
-void print(std::string_view piece) {
-    if (!piece.empty()) {  // an empty one may have no address, which fwrite does not take
-        std::fwrite(piece.data(), 1, piece.size(), stdout);
-    }
+void print(const char *piece) {
+    std::fputs(piece, stdout);
 }
 
 void open_object(const char *name) {
@@ -22,7 +20,7 @@ void open_list(const char *name) {
     std::printf("{\"%s\":[", name);
 }
 
-void Element::open_member(std::string_view key) {
+void Element::open_member(const char *key) {
     json::print(separator_);
     json::print("\"");
     json::print(key);
@@ -30,18 +28,24 @@ void Element::open_member(std::string_view key) {
     separator_ = ",";
 }
 
-void Element::print(std::string_view key, std::string_view value) {
+void Element::print(const char *key, const char *value) {
+    print(key, std::string_view(value));
+}
+
+void Element::print(const char *key, std::string_view value) {
     open_member(key);
-    json::print(value);
+    if (!value.empty()) {  // an empty one may have no address, which fwrite does not take
+        std::fwrite(value.data(), 1, value.size(), stdout);
+    }
     json::print("\"");
 }
 
-void Element::print(std::string_view key, long value) {
+void Element::print(const char *key, long value) {
     open_member(key);
     std::printf("%ld\"", value);
 }
 
-void Element::print(std::string_view key, unsigned long value) {
+void Element::print(const char *key, unsigned long value) {
     open_member(key);
     std::printf("%lu\"", value);
 }
@@ -50,7 +54,7 @@ void close_element() {
     print("},");
 }
 
-void close_list(int count, std::string_view blank) {
+void close_list(int count, const char *blank) {
     print(blank);
     std::printf("}],\"count\":\"%d\"", count);
 }

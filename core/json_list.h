@@ -7,7 +7,7 @@
 namespace routerdb::json {
 
 /// Prints a literal piece.
-void print(std::string_view piece);
+void print(const char *piece);
 
 /// "{\"ItemList\":"
 void open_object(const char *name);
@@ -23,14 +23,15 @@ class Element {
 public:
     Element() { json::print("{"); }
 
-    void print(std::string_view key, std::string_view value);
-    void print(std::string_view key, long value);
-    void print(std::string_view key, unsigned long value);
+    void print(const char *key, const char *value);
+    void print(const char *key, std::string_view value);
+    void print(const char *key, long value);
+    void print(const char *key, unsigned long value);
 
 private:
-    void open_member(std::string_view key);
+    void open_member(const char *key);
 
-    std::string_view separator_;
+    const char *separator_ = "";
 };
 
 /// "},": more elements follow, the closing one at least.
@@ -38,7 +39,7 @@ void close_element();
 
 /// "}],\"count\":\"3\"": this was the closing element.
 /// @param blank  stands before the brace in some lists
-void close_list(int count, std::string_view blank = "");
+void close_list(int count, const char *blank = "");
 
 /// ",\"sumcount\":\"3\"", behind the count.
 void print_total(const char *key, int value);

@@ -7,32 +7,41 @@
 namespace routerdb {
 
 // The format stays a literal in every call: the compiler checks it, and a syslog of the program's own sees it.
-#define PRINT(stream, ...)                                                    \
-    ((stream) == Stream::standard_output  ? std::printf(__VA_ARGS__)          \
-     : (stream) == Stream::standard_error ? std::fprintf(stderr, __VA_ARGS__) \
-     : (stream) == Stream::system_log     ? (syslog(LOG_ERR, __VA_ARGS__), 0) \
-                                          : 0)
+#define PRINT(...)                                                              \
+    (file != nullptr                        ? std::fprintf(file, __VA_ARGS__)   \
+     : message.stream == Stream::system_log ? (syslog(LOG_ERR, __VA_ARGS__), 0) \
+                                            : 0)
+
+namespace {
+
+/// Null for a stream that is no file.
+FILE *file_of(Stream stream) {
+    return stream == Stream::standard_output ? stdout : stream == Stream::standard_error ? stderr : nullptr;
+}
+
+}  // namespace
 
 int report(Message message, const Failure &failure) {
+    FILE *const file = file_of(message.stream);
     // "(null)" is what callers have always seen where there is no text, whichever C library prints it.
-    const char *text = failure.text != nullptr ? failure.text : "(null)";
+    const bool has_text = failure.text != nullptr && message.wording != Wording::cannot_exec_no_message;
+    const char *text = has_text ? failure.text : "(null)";
     switch (message.wording) {
         case Wording::cannot_open:
-            return PRINT(message.stream, "cannot open %s!\n", failure.path);
+            return PRINT("cannot open %s!\n", failure.path);
         case Wording::cannot_open_code:
-            return PRINT(message.stream, "cannot open %s, ErrorCode: %d!\n", failure.path, failure.code);
+            return PRINT("cannot open %s, ErrorCode: %d!\n", failure.path, failure.code);
         case Wording::cannot_exec:
-            return PRINT(message.stream, "cannot exec sql cmdline, Error: %s\n", text);
         case Wording::cannot_exec_no_message:
-            return PRINT(message.stream, "cannot exec sql cmdline, Error: %s\n", "(null)");
+            return PRINT("cannot exec sql cmdline, Error: %s\n", text);
         case Wording::cannot_prepare:
-            return PRINT(message.stream, "cannot prepare sql cmdline, Error: %s\n", text);
+            return PRINT("cannot prepare sql cmdline, Error: %s\n", text);
         case Wording::busy:
-            return PRINT(message.stream, "sql busy/locked cmdline, Error: %s\n", text);
+            return PRINT("sql busy/locked cmdline, Error: %s\n", text);
         case Wording::error:
-            return PRINT(message.stream, "Error: %s", text);
+            return PRINT("Error: %s", text);
         case Wording::webserver_error:
-            return PRINT(message.stream, "Webserver Error: %s", text);
+            return PRINT("Webserver Error: %s", text);
     }
     return 0;
 }

@@ -1,20 +1,9 @@
 #include "core/text.h"
 
-#include <charconv>
 #include <cstdlib>
 #include <cstring>
 
 namespace routerdb {
-
-namespace {
-
-template <typename Number>
-std::string_view in_digits(Number number, char (&digits)[24]) {
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof(digits), number);
-    return {digits, static_cast<std::size_t>(end.ptr - digits)};
-}
-
-}  // namespace
 
 std::string_view field_text(const char *field, std::size_t width) {
     return {field, strnlen(field, width)};
@@ -41,20 +30,33 @@ Text &Text::append(std::string_view piece) {
     return *this;
 }
 
-Text &Text::append(long number) {
-    char digits[24];
-    return append(in_digits(number, digits));
+Text &Text::append(const char *piece) {
+    return append(std::string_view(piece));
 }
 
+Text &Text::append(long number) {
+    const unsigned long magnitude =
+        number < 0 ? 0 - static_cast<unsigned long>(number) : static_cast<unsigned long>(number);
+    return append(number < 0 ? "-" : "").append(magnitude);
+}
+
+// std::to_chars would bring its table of digits along.
 Text &Text::append(unsigned long number) {
-    char digits[24];
-    return append(in_digits(number, digits));
+    char digits[3 * sizeof(number)];
+    char *const end = digits + sizeof(digits);
+    char *first = end;
+    do {
+        *--first = static_cast<char>('0' + number % 10);
+        number /= 10;
+    } while (number != 0);
+    return append({first, static_cast<std::size_t>(end - first)});
 }
 
 Text &Text::append_escaped(std::string_view value) {
-    for (std::size_t quote = value.find('\''); quote != std::string_view::npos; quote = value.find('\'')) {
-        append({value.data(), quote + 1}).append("'");
-        value.remove_prefix(quote + 1);
+    while (const void *quote = std::memchr(value.data(), '\'', value.size())) {
+        const std::size_t size = static_cast<std::size_t>(static_cast<const char *>(quote) - value.data()) + 1;
+        append({value.data(), size}).append("'");
+        value.remove_prefix(size);
     }
     return append(value);
 }
@@ -65,7 +67,7 @@ bool Text::make_room(std::size_t size) {
     }
     const std::size_t capacity = size > 2 * capacity_ ? size : 2 * capacity_;
     const bool on_stack = data_ == buffer_;
-    char *data = static_cast<char *>(std::realloc(on_stack ? nullptr : data_, capacity));
+    char *data = static_cast<char *>(on_stack ? std::malloc(capacity) : std::realloc(data_, capacity));
     if (data == nullptr) {
         out_of_memory_ = true;
         return false;

@@ -32,6 +32,7 @@ public:
     Text &operator=(const Text &) = delete;
 
     Text &append(std::string_view piece);
+    Text &append(const char *piece);  // a call with a literal takes a third of the code that a view of it takes
     Text &append(long number);
     Text &append(unsigned long number);
 

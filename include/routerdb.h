@@ -18,10 +18,10 @@
 /// 5. Messages. They go to standard output, standard error or the system log (LOG_ERR), as each function says. None
 ///    of them is meant for the caller's program.
 /// 6. Busy databases. While SQLite answers 5 (busy), 6 (locked) or 10 (I/O error) a call sleeps and tries again,
-///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR).
+///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()).
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
-///    own, or write through DB_EXEC_SQL_CHAR, which takes db_mutex. Functions with a random first delay reseed the
+///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay reseed the
 ///    process-wide generator of rand().
 /// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache.
 /// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
@@ -44,10 +44,10 @@ extern "C" {
 /// An SQLite connection, as <sqlite3.h> declares it.
 typedef struct sqlite3 sqlite3;
 
-/// @name Database core: lock file, guarded execution, maintenance
+/// @defgroup guarded_execution Database core: lock file, guarded execution, maintenance
 /// @{
 
-/// The mutex that DB_EXEC_SQL_CHAR holds, before the lock file, for its whole duration. A program that holds it
+/// The mutex that DB_EXEC_SQL_CHAR() holds, before the lock file, for its whole duration. A program that holds it
 /// keeps its own threads from writing that way.
 extern ROUTERDB_API pthread_mutex_t db_mutex;
 
@@ -63,13 +63,13 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 ROUTERDB_API int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len);
 
 /// Opens the database lock file, which must exist, and waits for a write lock on the whole of it.
-/// @return the lock handle, a descriptor to be given to free_db_lock; -1 if the file cannot be opened, after
+/// @return the lock handle, a descriptor to be given to free_db_lock(); -1 if the file cannot be opened, after
 ///         "cannot open %s!\n" on standard error
 /// @note Any thread may call it, yet two threads of one process do not exclude each other.
 ROUTERDB_API int get_db_lock(void);
 
 /// Releases a lock handle and closes it.
-/// @param fd  a handle from get_db_lock
+/// @param fd  a handle from get_db_lock()
 /// @return 0
 /// @note Thread-safe. It releases every other lock that the process holds on the lock file.
 ROUTERDB_API int free_db_lock(int fd);
@@ -93,34 +93,34 @@ ROUTERDB_API int DbSqlExec(char *sql);
 ROUTERDB_API int backup_sqlite_db(void);
 
 /// Copies the backup over the main database. Without a backup the main database stays as it is.
-/// @return as backup_sqlite_db
-/// @note Locks as backup_sqlite_db.
+/// @return as backup_sqlite_db()
+/// @note Locks as backup_sqlite_db().
 ROUTERDB_API int restore_sqlite_db(void);
 
 /// Replaces the main database with the factory copy on the read-only file system.
-/// @return as backup_sqlite_db
-/// @note Locks as backup_sqlite_db.
+/// @return as backup_sqlite_db()
+/// @note Locks as backup_sqlite_db().
 ROUTERDB_API int reset_sqlite_db(void);
 
 /// @}
-/// @name Database core: statement helpers
+/// @defgroup statement_helpers Database core: statement helpers
 ///
-/// Each runs one SQL text on a connection of its own (GET_DB_SQLITE_SQL_STR_N on the caller's). Database, lock,
+/// Each runs one SQL text on a connection of its own (GET_DB_SQLITE_SQL_STR_N() on the caller's). Database, lock,
 /// messages and the meaning of the rows differ from one to the next and are stated with each. Only
-/// DB_EXEC_SQL_CHAR excludes other threads; the others are safe in any thread because they share nothing.
+/// DB_EXEC_SQL_CHAR() excludes other threads; the others are safe in any thread because they share nothing.
 /// @{
 
 /// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows.
 /// @param sql  one or more statements
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
-/// @note Errors: as DbSqlExec. The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds
+/// @note Errors: as DbSqlExec(). The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds
 ///       for the first one, 500 more for each next one.
 /// @note Excludes the other threads that call it, and other processes.
 ROUTERDB_API int DB_EXEC_SQL_CHAR(const char *sql);
 
 /// Counts the rows of a query on the main database.
-/// @param sql    the query
-/// @param count  increased by one for each row; set it first
+/// @param         sql    the query
+/// @param[in,out] count  increased by one for each row; set it first
 /// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log,
 ///       there also "sql busy/locked cmdline, Error: %s\n" after each sleep. First sleep 155 microseconds. A
@@ -130,8 +130,8 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
 
 /// Reads a number from a query on the main database. Row k is read at its column k, both counted from 0, and the
 /// last row wins: a query with one row gives its first column.
-/// @param sql    the query
-/// @param value  receives the number, as strtoul reads the column's text; untouched without a row
+/// @param      sql    the query
+/// @param[out] value  receives the number, as strtoul reads the column's text; untouched without a row
 /// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
 ///       First sleep 55 microseconds.
@@ -139,8 +139,8 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
 ROUTERDB_API int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value);
 
 /// Reads the first column of a query on the main database as text; the last row wins.
-/// @param sql  the query
-/// @param out  receives the text with its terminator, whatever its length; untouched without a row or for NULL
+/// @param      sql  the query
+/// @param[out] out  receives the text with its terminator, whatever its length; untouched without a row or for NULL
 /// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds.
@@ -158,7 +158,7 @@ ROUTERDB_API int GET_DB_SQL_INT_COUNT(const char *sql);
 
 /// Counts the rows of a query on the main database, under the lock file.
 /// @param sql  the query
-/// @return the number of rows; -1, messages and locks as GET_DB_SQL_INT_COUNT
+/// @return the number of rows; -1, messages and locks as GET_DB_SQL_INT_COUNT()
 ROUTERDB_API int GET_DB_SQL_INT(const char *sql);
 
 /// Reads the first column of the first row of a query on the main database as a number.
@@ -168,30 +168,30 @@ ROUTERDB_API int GET_DB_SQL_INT(const char *sql);
 /// @note Random first delay. Thread-safe; takes no lock.
 ROUTERDB_API int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql);
 
-/// As GET_DB_SQL_INT_COUNT_ROUTE, on the application catalogue.
+/// As GET_DB_SQL_INT_COUNT_ROUTE(), on the application catalogue.
 /// @param sql  the query
-/// @return as GET_DB_SQL_INT_COUNT_ROUTE
+/// @return as GET_DB_SQL_INT_COUNT_ROUTE()
 ROUTERDB_API int GET_DB_SQL_INT_COUNT_DPI(const char *sql);
 
-/// As GET_DB_SQL_INT_COUNT_DPI, and closes descriptor 0 before it returns, whatever the result. A program that
+/// As GET_DB_SQL_INT_COUNT_DPI(), and closes descriptor 0 before it returns, whatever the result. A program that
 /// still wants its standard input reads it first.
 /// @param sql  the query
-/// @return as GET_DB_SQL_INT_COUNT_ROUTE
+/// @return as GET_DB_SQL_INT_COUNT_ROUTE()
 ROUTERDB_API int GET_DB_SQLITE_SQL_INT(const char *sql);
 
 /// Reads the first column of the first row of a query as text, on the caller's connection.
-/// @param sql  the query
-/// @param out  receives the text with its terminator, whatever its length; "0" for NULL; untouched without a row
-/// @param db   an open connection, left open
+/// @param      sql  the query
+/// @param[out] out  receives the text with its terminator, whatever its length; "0" for NULL; untouched without a row
+/// @param      db   an open connection, left open
 /// @return 0; all bits set if the query cannot be prepared ("Webserver Error: %s" on standard output)
 /// @note Random first delay. As thread-safe as the connection.
 ROUTERDB_API unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db);
 
 /// @}
-/// @name Database core: identifier lists
+/// @defgroup identifier_lists Database core: identifier lists
 /// @{
 
-/// Columns that generate_db_params can test.
+/// Columns that generate_db_params() can test.
 enum {
     ROUTERDB_COLUMN_ID = 0,           ///< "id"
     ROUTERDB_COLUMN_IPGROUP_ID = 1,   ///< "ipgroup_id"
@@ -203,45 +203,46 @@ enum {
 
 /// Reads identifiers separated by '#', such as "3#7#12". Empty fields vanish; a field that is not a number counts
 /// as 0; a text without any '#' is one identifier, also when it is empty.
-/// @param text  the list; its separators are overwritten. Null reads as no identifier
-/// @param ids   room for ROUTERDB_MAX_IDS numbers
+/// @param[in,out] text  the list; its separators are overwritten. Null reads as no identifier
+/// @param[out]    ids   room for ROUTERDB_MAX_IDS numbers
 /// @return the number of identifiers stored, 0 to ROUTERDB_MAX_IDS; those behind are not read
 /// @note Thread-safe.
 ROUTERDB_API int muti_id_convert_int_array(char *text, int *ids);
 
 /// Appends a condition such as "id='3' or id='7'" for the identifiers of a list. Nothing is appended for a list
 /// without identifiers.
-/// @param text    the list, as muti_id_convert_int_array takes it
-/// @param out     a text; the condition is appended and cut where the buffer ends
-/// @param size    size of the whole buffer `out` in bytes, the terminator included
-/// @param column  ROUTERDB_COLUMN_ID, _IPGROUP_ID or _TIMEGROUP_ID; nothing is appended for another value
+/// @param[in,out] text    the list, as muti_id_convert_int_array() takes it
+/// @param[in,out] out     a text; the condition is appended and cut where the buffer ends
+/// @param         size    size of the whole buffer `out` in bytes, the terminator included
+/// @param         column  ROUTERDB_COLUMN_ID, _IPGROUP_ID or _TIMEGROUP_ID; nothing is appended for another value
 /// @return the length of `out` afterwards, in bytes
 /// @note Thread-safe.
 ROUTERDB_API size_t generate_db_params(char *text, char *out, unsigned int size, int column);
 
 /// @}
-/// @name Database core: text encoding and time of day
+/// @defgroup encoding_and_time Database core: text encoding and time of day
 /// @{
 
 /// Room that either conversion takes for granted in its output, in bytes.
 #define ROUTERDB_CONVERSION_ROOM 2048
 
 /// Converts UTF-8 to GB2312.
-/// @param in      the text
-/// @param inlen   bytes of it to convert
-/// @param out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the result where that is known to be shorter
-/// @param outlen  bytes of `out` that are set to zero first; they supply the terminator
+/// @param      in      the text
+/// @param      inlen   bytes of it to convert
+/// @param[out] out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the result where that is known to be
+///                     shorter
+/// @param      outlen  bytes of `out` that are set to zero first; they supply the terminator
 /// @return 0; -1 if the text cannot be converted, `out` then holding what was converted up to there. The converter
 ///         of a failed conversion stays allocated
 /// @note Logs "error1\n" when no converter can be made, `out` then being untouched. Thread-safe.
 ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen);
 
 /// Converts GB2312 to UTF-8.
-/// @param in      the text, NUL-terminated
-/// @param inlen   bytes of it to convert
-/// @param out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the text and for the result where that is
-///                known to be shorter
-/// @param outlen  bytes of `out` that are set to zero first
+/// @param      in      the text, NUL-terminated
+/// @param      inlen   bytes of it to convert
+/// @param[out] out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the text and for the result where that is
+///                     known to be shorter
+/// @param      outlen  bytes of `out` that are set to zero first
 /// @return 0; -1 if the text cannot be converted, `out` then holding the input. The converter of a failed
 ///         conversion stays allocated
 /// @note Logs "gb2312toutf8 error1\n" when no converter can be made, `out` then being untouched. Thread-safe.
@@ -261,7 +262,7 @@ ROUTERDB_API int change_time_to_int(const char *hhmm);
 ROUTERDB_API int check_time_one_day(const char *a, const char *b);
 
 /// @}
-/// @name SQL service
+/// @defgroup sql_service SQL service
 /// @{
 
 /// What a request asks for.
@@ -290,8 +291,8 @@ typedef struct SqlReply {
 ///
 /// Time-outs are 10 seconds for each send and receive. A service that closes early leaves a block of the announced
 /// size whose missing part is zero, and the call succeeds all the same.
-/// @param request  the request; only read
-/// @param reply    untouched while the request is on its way; cleared before the reply is read
+/// @param      request  the request; only read
+/// @param[out] reply    untouched while the request is on its way; cleared before the reply is read
 /// @return 0, and the caller releases reply->data with free; -1 on failure, nothing being allocated
 /// @note Each failure is written to standard error with perror and to the system log with "!\n" behind it: "cannot
 ///       create sql socket client", "cannot connect sql socket client", "send header to sql socket server fail",
@@ -301,33 +302,33 @@ typedef struct SqlReply {
 ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
 
 /// @}
-/// @name Rule tables: identifiers and records
+/// @defgroup rule_records Rule tables: identifiers and records
 ///
 /// A record is one row. Numbers are 32 bits wide in host byte order, and every byte that carries nothing is zero. A
 /// list is a count and that many records; the buffer has room for ROUTERDB_LIST_CAPACITY of them, and whoever adds
 /// rows keeps the table at that size: lists are not cut. Members marked "derived" are filled by the list builders
-/// and never written to a table.
+/// and never written to a table. What a record says beyond its times and groups is carried and not acted on.
 /// @{
 
 /// Table ids, the first word of each request.
 enum {
-    ROUTERDB_TABLE_DHCP_STATIC = 1,
-    ROUTERDB_TABLE_URL_FILTER = 2,
-    ROUTERDB_TABLE_MAC_FILTER = 3,
-    ROUTERDB_TABLE_IP_FILTER = 4,
-    ROUTERDB_TABLE_TIME_GROUP = 5,
-    ROUTERDB_TABLE_IP_GROUP = 6,
-    ROUTERDB_TABLE_SMART_QOS = 7,
-    ROUTERDB_TABLE_USER_URL = 8,
-    ROUTERDB_TABLE_FAMLIY_MEMBER = 11,
-    ROUTERDB_TABLE_PORT_FORWARD = 12,
-    ROUTERDB_TABLE_QOS = 13,
-    ROUTERDB_TABLE_BEHAVIOR = 14,
-    ROUTERDB_TABLE_ACL0 = 15,
-    ROUTERDB_TABLE_ACL1 = 16,
-    ROUTERDB_TABLE_ACL2 = 17,
-    ROUTERDB_TABLE_DOMAIN_IP = 18,
-    ROUTERDB_TABLE_SCALAR = 100  ///< not a table: the reply is the first column of the first row as text
+    ROUTERDB_TABLE_DHCP_STATIC = 1,     ///< DhcpStaticItem
+    ROUTERDB_TABLE_URL_FILTER = 2,      ///< UrlFilterItem
+    ROUTERDB_TABLE_MAC_FILTER = 3,      ///< MacFilterItem
+    ROUTERDB_TABLE_IP_FILTER = 4,       ///< IpFilterItem
+    ROUTERDB_TABLE_TIME_GROUP = 5,      ///< TimeGroupItem
+    ROUTERDB_TABLE_IP_GROUP = 6,        ///< IpGroupItem
+    ROUTERDB_TABLE_SMART_QOS = 7,       ///< SmartQosItem
+    ROUTERDB_TABLE_USER_URL = 8,        ///< UserUrlItem
+    ROUTERDB_TABLE_FAMLIY_MEMBER = 11,  ///< FamliyMemberItem
+    ROUTERDB_TABLE_PORT_FORWARD = 12,   ///< PortFwItem
+    ROUTERDB_TABLE_QOS = 13,            ///< QosItem
+    ROUTERDB_TABLE_BEHAVIOR = 14,       ///< BehaviorItem
+    ROUTERDB_TABLE_ACL0 = 15,           ///< AclItem, `wifi0acl`
+    ROUTERDB_TABLE_ACL1 = 16,           ///< AclItem, `wifi1acl`
+    ROUTERDB_TABLE_ACL2 = 17,           ///< AclItem, `wifi2acl`
+    ROUTERDB_TABLE_DOMAIN_IP = 18,      ///< DomainIpItem
+    ROUTERDB_TABLE_SCALAR = 100         ///< not a table: the reply is the first column of the first row as text
 };
 
 /// Table ids of the three Wi-Fi access lists, by their number.
@@ -348,305 +349,305 @@ enum {
 
 /// A row of `dhcpserverstaticbind`.
 typedef struct DhcpStaticItem {
-    int32_t id;
-    char reserved[152];
-    int32_t devtype;
-    char mac[20];
-    char ip[20];
-    char mark[152];
+    int32_t id;          ///< key of the row
+    char reserved[152];  ///< carries nothing
+    int32_t devtype;     ///< kind of device
+    char mac[20];        ///< MAC address of the device
+    char ip[20];         ///< address that the device gets
+    char mark[152];      ///< what people call the device
 } DhcpStaticItem;
 
 /// A list of DhcpStaticItem records.
 typedef struct DhcpStaticItemList {
-    uint32_t count;
-    DhcpStaticItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                                ///< number of records
+    DhcpStaticItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } DhcpStaticItemList;
 
 /// A row of `user_timegroup`.
 typedef struct TimeGroupItem {
-    int32_t id;
-    char name[152];
-    int32_t weekday[7];  ///< `weekday1` to `weekday7`, each 0 or 1
-    char start_time[20];
-    char end_time[20];
-    char mark[156];
+    int32_t id;           ///< key of the row
+    char name[152];       ///< what people call it
+    int32_t weekday[7];   ///< `weekday1` to `weekday7`, each 0 or 1
+    char start_time[20];  ///< HH:MM
+    char end_time[20];    ///< HH:MM
+    char mark[156];       ///< remark
 } TimeGroupItem;
 
 /// A list of TimeGroupItem records.
 typedef struct TimeGroupItemList {
-    uint32_t count;
-    TimeGroupItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                               ///< number of records
+    TimeGroupItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } TimeGroupItemList;
 
 /// The first 376 bytes of a time group, as `filter_url` carries them.
 typedef struct TimeGroupItemCut {
-    int32_t id;
-    char name[152];
-    int32_t weekday[7];
-    char start_time[20];
-    char end_time[20];
-    char mark[152];  ///< without a terminator when the group's own mark has more than 151 bytes
+    int32_t id;           ///< key of the row
+    char name[152];       ///< what people call it
+    int32_t weekday[7];   ///< as in TimeGroupItem
+    char start_time[20];  ///< as in TimeGroupItem
+    char end_time[20];    ///< as in TimeGroupItem
+    char mark[152];       ///< without a terminator when the group's own mark has more than 151 bytes
 } TimeGroupItemCut;
 
 /// A row of `user_ipgroup`.
 typedef struct IpGroupItem {
-    int32_t id;
-    char name[150];
-    char startip[30];
-    char endip[30];
-    char mark[154];
+    int32_t id;        ///< key of the row
+    char name[150];    ///< what people call it
+    char startip[30];  ///< first address
+    char endip[30];    ///< last address
+    char mark[154];    ///< remark
 } IpGroupItem;
 
 /// A list of IpGroupItem records.
 typedef struct IpGroupItemList {
-    uint32_t count;
-    IpGroupItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                             ///< number of records
+    IpGroupItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } IpGroupItemList;
 
 /// A row of `filter_url`.
 typedef struct UrlFilterItem {
-    int32_t id;
-    char name[150];
-    char url[1030];
+    int32_t id;                  ///< key of the row
+    char name[150];              ///< what people call it
+    char url[1030];              ///< address that the rule is about
     TimeGroupItemCut timegroup;  ///< derived: the referenced group
     int32_t time_valid;          ///< derived: 1 when the rule's time span is known
     int32_t timecontrol;         ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
-    int32_t timegroup_id;
-    char timegroup_name[152];  ///< derived: name of the referenced group
-    int32_t weekday[7];
-    char start_time[20];
-    char end_time[20];
-    int32_t status;
-    int32_t reserved;
-    char mark[152];
+    int32_t timegroup_id;        ///< of the time group; read with ROUTERDB_TIME_GROUP only
+    char timegroup_name[152];    ///< derived: name of the referenced group
+    int32_t weekday[7];          ///< as in TimeGroupItem, own or the group's
+    char start_time[20];         ///< as in TimeGroupItem, own or the group's
+    char end_time[20];           ///< as in TimeGroupItem, own or the group's
+    int32_t status;              ///< whether it applies
+    int32_t reserved;            ///< carries nothing
+    char mark[152];              ///< remark
 } UrlFilterItem;
 
 /// A list of UrlFilterItem records.
 typedef struct UrlFilterItemList {
-    uint32_t count;
-    UrlFilterItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                               ///< number of records
+    UrlFilterItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } UrlFilterItemList;
 
 /// A row of `filter_mac`.
 typedef struct MacFilterItem {
-    int32_t id;
-    char name[150];
-    char hostname[150];  ///< derived: host name of `devmac`
-    char devmac[20];
-    int32_t timecontrol;
-    int32_t timegroup_id;
+    int32_t id;                ///< key of the row
+    char name[150];            ///< what people call it
+    char hostname[150];        ///< derived: host name of `devmac`
+    char devmac[20];           ///< MAC address of the device
+    int32_t timecontrol;       ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
+    int32_t timegroup_id;      ///< of the time group; read with ROUTERDB_TIME_GROUP only
     char timegroup_name[152];  ///< derived
-    int32_t weekday[7];
-    char start_time[20];
-    char end_time[20];
-    int32_t status;
-    char mark[152];
-    TimeGroupItem timegroup;  ///< derived
+    int32_t weekday[7];        ///< as in TimeGroupItem, own or the group's
+    char start_time[20];       ///< as in TimeGroupItem, own or the group's
+    char end_time[20];         ///< as in TimeGroupItem, own or the group's
+    int32_t status;            ///< whether it applies
+    char mark[152];            ///< remark
+    TimeGroupItem timegroup;   ///< derived
 } MacFilterItem;
 
 /// A list of MacFilterItem records.
 typedef struct MacFilterItemList {
-    uint32_t count;
-    MacFilterItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                               ///< number of records
+    MacFilterItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } MacFilterItemList;
 
 /// A row of `filter_ipport`.
 typedef struct IpFilterItem {
-    int32_t id;
-    char name[300];
-    int32_t ipcontrol;
-    int32_t ipgroup_id;
-    char ipgroup_name[152];  ///< derived
-    int32_t timecontrol;
-    int32_t timegroup_id;
+    int32_t id;                ///< key of the row
+    char name[300];            ///< what people call it
+    int32_t ipcontrol;         ///< ROUTERDB_IP_GROUP, or another number for a range of its own
+    int32_t ipgroup_id;        ///< of the IP group; read with ROUTERDB_IP_GROUP only
+    char ipgroup_name[152];    ///< derived
+    int32_t timecontrol;       ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
+    int32_t timegroup_id;      ///< of the time group; read with ROUTERDB_TIME_GROUP only
     char timegroup_name[152];  ///< derived
     TimeGroupItem timegroup;   ///< derived
     IpGroupItem ipgroup;       ///< derived: name and range
-    int32_t weekday[7];
-    char start_time[20];
-    char end_time[20];
-    char devstartip[20];
-    char devendip[20];
-    int32_t devfromport;
-    int32_t devtoport;
-    int32_t protocol;
-    char mark[152];
-    int32_t status;
-    int32_t reserved;
+    int32_t weekday[7];        ///< as in TimeGroupItem, own or the group's
+    char start_time[20];       ///< as in TimeGroupItem, own or the group's
+    char end_time[20];         ///< as in TimeGroupItem, own or the group's
+    char devstartip[20];       ///< first address, own or the group's
+    char devendip[20];         ///< last address, own or the group's
+    int32_t devfromport;       ///< first port
+    int32_t devtoport;         ///< last port
+    int32_t protocol;          ///< by number
+    char mark[152];            ///< remark
+    int32_t status;            ///< whether it applies
+    int32_t reserved;          ///< carries nothing
 } IpFilterItem;
 
 /// A list of IpFilterItem records.
 typedef struct IpFilterItemList {
-    uint32_t count;
-    IpFilterItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                              ///< number of records
+    IpFilterItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } IpFilterItemList;
 
 /// A row of `smartqos_whitelist`.
 typedef struct SmartQosItem {
-    int32_t id;
-    char reserved[150];
-    char devmac[20];
-    char mark[154];
+    int32_t id;          ///< key of the row
+    char reserved[150];  ///< carries nothing
+    char devmac[20];     ///< MAC address of the device
+    char mark[154];      ///< remark
 } SmartQosItem;
 
 /// A list of SmartQosItem records.
 typedef struct SmartQosItemList {
-    uint32_t count;
-    SmartQosItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                              ///< number of records
+    SmartQosItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } SmartQosItemList;
 
 /// A row of `user_urlinfo`.
 typedef struct UserUrlItem {
-    int32_t id;
-    char name[150];
-    char url[512];
-    char mark[154];
+    int32_t id;      ///< key of the row
+    char name[150];  ///< what people call it
+    char url[512];   ///< the address
+    char mark[154];  ///< remark
 } UserUrlItem;
 
 /// A list of UserUrlItem records.
 typedef struct UserUrlItemList {
-    uint32_t count;
-    UserUrlItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                             ///< number of records
+    UserUrlItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } UserUrlItemList;
 
 /// A row of `famliymember`.
 typedef struct FamliyMemberItem {
-    int32_t id;
-    char name[150];
-    char mac[20];
-    char reserved[2];
-    int32_t devtype;
-    char mark[156];
+    int32_t id;        ///< key of the row
+    char name[150];    ///< what people call it
+    char mac[20];      ///< MAC address of the device
+    char reserved[2];  ///< carries nothing
+    int32_t devtype;   ///< kind of device
+    char mark[156];    ///< remark
 } FamliyMemberItem;
 
 /// A list of FamliyMemberItem records.
 typedef struct FamliyMemberItemList {
-    uint32_t count;
-    FamliyMemberItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                                  ///< number of records
+    FamliyMemberItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } FamliyMemberItemList;
 
 /// A row of `forword_ipport`. The order of the members is not that of the columns.
 typedef struct PortFwItem {
-    int32_t id;
-    char name[300];
-    int32_t protocol;
-    char devip[20];
-    int32_t devexternfromport;
-    int32_t devexterntoport;
-    int32_t devinnerfromport;
-    int32_t devinnertoport;
-    int32_t status;
-    char mark[152];
-    int32_t wanid;
-    int32_t reserved;
+    int32_t id;                 ///< key of the row
+    char name[300];             ///< what people call it
+    int32_t protocol;           ///< by number
+    char devip[20];             ///< address of the device inside
+    int32_t devexternfromport;  ///< first port outside
+    int32_t devexterntoport;    ///< last port outside
+    int32_t devinnerfromport;   ///< first port inside
+    int32_t devinnertoport;     ///< last port inside
+    int32_t status;             ///< whether it applies
+    char mark[152];             ///< remark
+    int32_t wanid;              ///< number of the WAN interface
+    int32_t reserved;           ///< carries nothing
 } PortFwItem;
 
 /// A list of PortFwItem records.
 typedef struct PortFwItemList {
-    uint32_t count;
-    PortFwItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                            ///< number of records
+    PortFwItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } PortFwItemList;
 
 /// A row of `qos_rule`.
 typedef struct QosItem {
-    int32_t id;
-    char name[300];
-    int32_t control_type;
-    int32_t ipcontrol;
-    int32_t ipgroup_id;
-    char ipgroup_name[152];  ///< derived
-    IpGroupItem ipgroup;     ///< derived: name and range
-    int32_t timecontrol;
-    int32_t timegroup_id;
+    int32_t id;                ///< key of the row
+    char name[300];            ///< what people call it
+    int32_t control_type;      ///< kind of control
+    int32_t ipcontrol;         ///< ROUTERDB_IP_GROUP, or another number for a range of its own
+    int32_t ipgroup_id;        ///< of the IP group; read with ROUTERDB_IP_GROUP only
+    char ipgroup_name[152];    ///< derived
+    IpGroupItem ipgroup;       ///< derived: name and range
+    int32_t timecontrol;       ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
+    int32_t timegroup_id;      ///< of the time group; read with ROUTERDB_TIME_GROUP only
     char timegroup_name[152];  ///< derived
     TimeGroupItem timegroup;   ///< derived
-    char devmac[20];
-    char devstartip[20];
-    char devendip[20];
-    int32_t bw_up;
-    int32_t bw_down;
-    int32_t bw_shared_mode;
-    int32_t weekday[7];
-    char start_time[20];
-    char end_time[20];
-    int32_t status;
-    int32_t reserved;
-    char mark[152];
+    char devmac[20];           ///< MAC address of the device
+    char devstartip[20];       ///< first address of its own range
+    char devendip[20];         ///< last address of its own range
+    int32_t bw_up;             ///< bandwidth upwards
+    int32_t bw_down;           ///< bandwidth downwards
+    int32_t bw_shared_mode;    ///< how the bandwidth is shared
+    int32_t weekday[7];        ///< as in TimeGroupItem, own or the group's
+    char start_time[20];       ///< as in TimeGroupItem, own or the group's
+    char end_time[20];         ///< as in TimeGroupItem, own or the group's
+    int32_t status;            ///< whether it applies
+    int32_t reserved;          ///< carries nothing
+    char mark[152];            ///< remark
 } QosItem;
 
 /// A list of QosItem records.
 typedef struct QosItemList {
-    uint32_t count;
-    QosItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                         ///< number of records
+    QosItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } QosItemList;
 
 /// A row of `behavior_rule`. The column `behavior_type` is always written as 0 and not carried here.
 typedef struct BehaviorItem {
-    int32_t id;
-    int32_t control_type;
-    char hostname[152];  ///< derived: host name of `devmac`
-    int32_t ipcontrol;
-    int32_t ipgroup_id;
-    IpGroupItem ipgroup;     ///< derived: name and range
-    char ipgroup_name[152];  ///< derived
-    int32_t timecontrol;
-    int32_t timegroup_id;
-    char timegroup_name[152];  ///< derived
-    TimeGroupItem timegroup;   ///< derived
-    char devmac[20];
-    char devstartip[30];
-    char devendip[30];
+    int32_t id;                    ///< key of the row
+    int32_t control_type;          ///< kind of control
+    char hostname[152];            ///< derived: host name of `devmac`
+    int32_t ipcontrol;             ///< ROUTERDB_IP_GROUP, or another number for a range of its own
+    int32_t ipgroup_id;            ///< of the IP group; read with ROUTERDB_IP_GROUP only
+    IpGroupItem ipgroup;           ///< derived: name and range
+    char ipgroup_name[152];        ///< derived
+    int32_t timecontrol;           ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
+    int32_t timegroup_id;          ///< of the time group; read with ROUTERDB_TIME_GROUP only
+    char timegroup_name[152];      ///< derived
+    TimeGroupItem timegroup;       ///< derived
+    char devmac[20];               ///< MAC address of the device
+    char devstartip[30];           ///< first address, own or the group's
+    char devendip[30];             ///< last address, own or the group's
     char behavior_info[2048];      ///< classes and features by number, such as "3:f1?f2AND7:f9"
     char behavior_names[2048];     ///< derived: the same as names
     char behavior_names_en[2048];  ///< derived: the same as English names
-    int32_t weekday[7];
-    char start_time[20];
-    char end_time[20];
-    char mark[152];
-    int32_t status;
-    int32_t reserved;
+    int32_t weekday[7];            ///< as in TimeGroupItem, own or the group's
+    char start_time[20];           ///< as in TimeGroupItem, own or the group's
+    char end_time[20];             ///< as in TimeGroupItem, own or the group's
+    char mark[152];                ///< remark
+    int32_t status;                ///< whether it applies
+    int32_t reserved;              ///< carries nothing
 } BehaviorItem;
 
 /// A list of BehaviorItem records.
 typedef struct BehaviorItemList {
-    uint32_t count;
-    BehaviorItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                              ///< number of records
+    BehaviorItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } BehaviorItemList;
 
 /// A row of one of the Wi-Fi access lists `wifi0acl`, `wifi1acl` and `wifi2acl`.
 typedef struct AclItem {
-    int32_t id;
-    char name[300];
-    char mac[20];
-    char mark[152];
-    int32_t status;
+    int32_t id;      ///< key of the row
+    char name[300];  ///< what people call it
+    char mac[20];    ///< MAC address of the device
+    char mark[152];  ///< remark
+    int32_t status;  ///< whether it applies
 } AclItem;
 
 /// A list of AclItem records.
 typedef struct AclItemList {
-    uint32_t count;
-    AclItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                         ///< number of records
+    AclItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } AclItemList;
 
 /// A row of `domain_ip`.
 typedef struct DomainIpItem {
-    int32_t id;
-    char name[300];
-    char domain[150];
-    char ip[64];
-    char mark[150];
-    int32_t status;
-    int32_t reserved;
+    int32_t id;        ///< key of the row
+    char name[300];    ///< what people call it
+    char domain[150];  ///< domain name
+    char ip[64];       ///< address that it stands for
+    char mark[150];    ///< remark
+    int32_t status;    ///< whether it applies
+    int32_t reserved;  ///< carries nothing
 } DomainIpItem;
 
 /// A list of DomainIpItem records.
 typedef struct DomainIpItemList {
-    uint32_t count;
-    DomainIpItem items[ROUTERDB_LIST_CAPACITY];
+    uint32_t count;                              ///< number of records
+    DomainIpItem items[ROUTERDB_LIST_CAPACITY];  ///< the records; zero behind the last one
 } DomainIpItemList;
 
 /// @}
-/// @name Rule tables: list builders
+/// @defgroup list_builders Rule tables: list builders
 ///
 /// The SQL service calls a builder to answer a query. It runs the query on the main database under the lock file
 /// and fills a list, the derived members included. The list is cleared first and its count set last; the result
@@ -657,23 +658,23 @@ typedef struct DomainIpItemList {
 /// @{
 
 /// Builds the list of static DHCP bindings.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from dhcpserverstaticbind order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from dhcpserverstaticbind order by id;"
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql
 ///       cmdline, Error: %s\n" on standard output.
 ROUTERDB_API int GetDhcpStaticItemListInServer(DhcpStaticItemList *list, const char *sql);
 
 /// Builds the list of URL filters. Looks the referenced time groups up.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from filter_url order by Id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from filter_url order by Id;"
 /// @return no meaning
 ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql);
 
 /// Builds the list of MAC filters. Looks up the referenced time groups, and each host name
-/// with get_hostname_by_mac.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from filter_mac order by id;"
+/// with get_hostname_by_mac().
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from filter_mac order by id;"
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql
 ///       cmdline, Error: %s\n" on standard output.
@@ -681,103 +682,102 @@ ROUTERDB_API int GetMacFilterItemListInServer(MacFilterItemList *list, const cha
 
 /// Builds the list of IP and port filters. Looks the referenced time groups and IP groups up; the
 /// range of an IP group replaces the rule's own.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from filter_ipport order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from filter_ipport order by id;"
 /// @return no meaning
 ROUTERDB_API int GetIpFilterItemListInServer(IpFilterItemList *list, const char *sql);
 
 /// Builds the list of time groups.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from user_timegroup order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from user_timegroup order by id;"
 /// @return no meaning
 ROUTERDB_API int GetTimeGroupItemListInServer(TimeGroupItemList *list, const char *sql);
 
 /// Builds the list of IP groups. Columns are found by name.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from user_ipgroup order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from user_ipgroup order by id;"
 /// @return no meaning
 ROUTERDB_API int GetIpGroupItemListInServer(IpGroupItemList *list, const char *sql);
 
 /// Builds the list of entries of the smart-QoS white list. Columns are found by name.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from smartqos_whitelist order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from smartqos_whitelist order by id;"
 /// @return no meaning
 ROUTERDB_API int GetSmartQosItemListInServer(SmartQosItemList *list, const char *sql);
 
 /// Builds the list of user URLs. Columns are found by name.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from user_urlinfo order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from user_urlinfo order by id;"
 /// @return no meaning
 ROUTERDB_API int GetUserUrlItemListInServer(UserUrlItemList *list, const char *sql);
 
 /// Builds the list of family members.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from famliymember order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from famliymember order by id;"
 /// @return no meaning
 ROUTERDB_API int GetFamliyMemberItemListInServer(FamliyMemberItemList *list, const char *sql);
 
 /// Builds the list of port forwardings.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from forword_ipport order by Id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from forword_ipport order by Id;"
 /// @return no meaning
 ROUTERDB_API int GetPortFwItemListInServer(PortFwItemList *list, const char *sql);
 
 /// Builds the list of QoS rules. Columns are found by name. Looks the referenced time groups and IP groups up; the
 /// rule's own range stays.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from qos_rule order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from qos_rule order by id;"
 /// @return no meaning
 ROUTERDB_API int GetQosItemListInServer(QosItemList *list, const char *sql);
 
 /// Builds the list of behaviour rules. Columns are found by name. Looks up the referenced time groups and IP groups
-/// (whose range replaces the rule's own), each host name with get_hostname_by_mac, and the names of classes and
-/// applications with GetBehaviorItemInfoTypeName.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from behavior_rule order by id;"
+/// (whose range replaces the rule's own), each host name with get_hostname_by_mac(), and the names of classes and
+/// applications with GetBehaviorItemInfoTypeName().
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from behavior_rule order by id;"
 /// @return no meaning
 ROUTERDB_API int GetBehaviorItemListInServer(BehaviorItemList *list, const char *sql);
 
 /// Builds the list of entries of a Wi-Fi access list. The query names the list: any of the three will do.
-/// @param list  the list to fill
-/// @param sql   the query, such as "select * from wifi0acl order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, such as "select * from wifi0acl order by id;"
 /// @return no meaning
 ROUTERDB_API int Get2GAclItemListInServer(AclItemList *list, const char *sql);
 
 /// Builds the list of entries of a Wi-Fi access list. The query names the list: any of the three will do.
-/// @param list  the list to fill
-/// @param sql   the query, such as "select * from wifi0acl order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, such as "select * from wifi0acl order by id;"
 /// @return no meaning
 ROUTERDB_API int Get5GAclItemListInServer(AclItemList *list, const char *sql);
 
 /// Builds the list of domain-to-IP entries.
-/// @param list  the list to fill
-/// @param sql   the query, normally "select * from domain_ip order by id;"
+/// @param[out] list  the list to fill
+/// @param      sql   the query, normally "select * from domain_ip order by id;"
 /// @return no meaning
 ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char *sql);
 
 /// @}
-/// @name Rule tables: client operations
+/// @defgroup client_operations Rule tables: client operations
 ///
-/// Each sends one statement to the SQL service with sqlclient_cmd, whose messages are the only report: when the
+/// Each sends one statement to the SQL service with sqlclient_cmd(), whose messages are the only report: when the
 /// service cannot be reached a list comes back empty, a record cleared, and a change has no effect. Members beyond
-/// the table's own columns are not read. Conditions are SQL, such as generate_db_params makes. Thread-safe.
+/// the table's own columns are not read. Conditions are SQL, such as generate_db_params() makes. Thread-safe.
 /// @{
 
 /// Lists all static DHCP bindings in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetDhcpStaticItemList(DhcpStaticItemList *list);
 
 /// Reads one static DHCP binding.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetDhcpStaticItem(int id, DhcpStaticItem *item);
 
 /// Inserts a static DHCP binding unless its addresses are taken. Two clients that add the same address at the same
 /// moment may both succeed.
 /// @param item  the values; `id` is not read
 /// @return 0 when the row was sent, also if the service could not be reached; 1 when the IP address is taken, 2 when
-/// the
-///         MAC address is
+///         the MAC address is
 ROUTERDB_API int AddDhcpStaticItem(const DhcpStaticItem *item);
 
 /// Writes every column of one static DHCP binding unless another row has its addresses.
@@ -791,12 +791,12 @@ ROUTERDB_API int ModifyDhcpStaticItem(const DhcpStaticItem *item);
 ROUTERDB_API void DelDhcpStaticItem(const char *condition);
 
 /// Lists all URL filters in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetUrlFilterItemList(UrlFilterItemList *list);
 
 /// Reads one URL filter.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetUrlFilterItem(int id, UrlFilterItem *item);
 
 /// Inserts a URL filter. The table chooses the id.
@@ -811,18 +811,18 @@ ROUTERDB_API void ModifyUrlFilterItem(const UrlFilterItem *item);
 /// @param condition  an SQL condition
 ROUTERDB_API void DelUrlFilterItem(const char *condition);
 
-/// Deletes URL filters, exactly as DelUrlFilterItem does.
+/// Deletes URL filters, exactly as DelUrlFilterItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
 ROUTERDB_API void DelUrlFilterItemById(const char *condition, int kind);
 
 /// Lists all MAC filters in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetMacFilterItemList(MacFilterItemList *list);
 
 /// Reads one MAC filter.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetMacFilterItem(int id, MacFilterItem *item);
 
 /// Inserts a MAC filter. The table chooses the id.
@@ -840,18 +840,18 @@ ROUTERDB_API void DelMacFilterItem(const char *condition);
 /// Deletes all MAC filters.
 ROUTERDB_API void DelMacFilterItemAll(void);
 
-/// Deletes MAC filters, exactly as DelMacFilterItem does.
+/// Deletes MAC filters, exactly as DelMacFilterItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
 ROUTERDB_API void DelMacFilterItemById(const char *condition, int kind);
 
 /// Lists all IP and port filters in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetIpFilterItemList(IpFilterItemList *list);
 
 /// Reads one IP and port filter.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetIpFilterItem(int id, IpFilterItem *item);
 
 /// Inserts an IP and port filter. The table chooses the id.
@@ -866,18 +866,18 @@ ROUTERDB_API void ModifyIpFilterItem(const IpFilterItem *item);
 /// @param condition  an SQL condition
 ROUTERDB_API void DelIpFilterItem(const char *condition);
 
-/// Deletes IP and port filters, exactly as DelIpFilterItem does.
+/// Deletes IP and port filters, exactly as DelIpFilterItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
 ROUTERDB_API void DelIpFilterItemById(const char *condition, int kind);
 
 /// Lists all time groups in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetTimeGroupItemList(TimeGroupItemList *list);
 
 /// Reads one time group.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetTimeGroupItem(int id, TimeGroupItem *item);
 
 /// Inserts a time group. The table chooses the id.
@@ -893,12 +893,12 @@ ROUTERDB_API void ModifyTimeGroupItem(const TimeGroupItem *item);
 ROUTERDB_API void DelTimeGroupItem(const char *condition);
 
 /// Lists all IP groups in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetIpGroupItemList(IpGroupItemList *list);
 
 /// Reads one IP group.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetIpGroupItem(int id, IpGroupItem *item);
 
 /// Inserts an IP group. The table chooses the id.
@@ -914,12 +914,12 @@ ROUTERDB_API void ModifyIpGroupItem(const IpGroupItem *item);
 ROUTERDB_API void DelIpGroupItem(const char *condition);
 
 /// Lists all entries of the smart-QoS white list in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetSmartQosItemList(SmartQosItemList *list);
 
 /// Reads one entry of the smart-QoS white list.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetSmartQosItem(int id, SmartQosItem *item);
 
 /// Inserts an entry of the smart-QoS white list. The table chooses the id.
@@ -935,12 +935,12 @@ ROUTERDB_API void ModifySmartQosItem(const SmartQosItem *item);
 ROUTERDB_API void DelSmartQosItem(int id);
 
 /// Lists all user URLs in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetUserUrlItemList(UserUrlItemList *list);
 
 /// Reads one user URL.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetUserUrlItem(int id, UserUrlItem *item);
 
 /// Inserts a user URL. The table chooses the id.
@@ -956,12 +956,12 @@ ROUTERDB_API void ModifyUserUrlItem(const UserUrlItem *item);
 ROUTERDB_API void DelUserUrlItem(int id);
 
 /// Lists all family members in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetFamliyMemberItemList(FamliyMemberItemList *list);
 
 /// Reads one family member.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetFamliyMemberItem(int id, FamliyMemberItem *item);
 
 /// Inserts a family member. The table chooses the id.
@@ -977,12 +977,12 @@ ROUTERDB_API void ModifyFamliyMemberItem(const FamliyMemberItem *item);
 ROUTERDB_API void DelFamliyMemberItem(const char *condition);
 
 /// Lists all port forwardings in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetPortFwItemList(PortFwItemList *list);
 
 /// Reads one port forwarding.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetPortFwItem(int id, PortFwItem *item);
 
 /// Inserts a port forwarding. The table chooses the id.
@@ -998,12 +998,12 @@ ROUTERDB_API void ModifyPortFwItem(const PortFwItem *item);
 ROUTERDB_API void DelPortFwItem(const char *condition);
 
 /// Lists all QoS rules in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetQosItemList(QosItemList *list);
 
 /// Reads one QoS rule.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetQosItem(int id, QosItem *item);
 
 /// Inserts a QoS rule. The table chooses the id.
@@ -1018,18 +1018,18 @@ ROUTERDB_API void ModifyQosItem(const QosItem *item);
 /// @param condition  an SQL condition
 ROUTERDB_API void DelQosItem(const char *condition);
 
-/// Deletes QoS rules, exactly as DelQosItem does.
+/// Deletes QoS rules, exactly as DelQosItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
 ROUTERDB_API void DelQosItemById(const char *condition, int kind);
 
 /// Lists all behaviour rules in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetBehaviorItemList(BehaviorItemList *list);
 
 /// Reads one behaviour rule.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetBehaviorItem(int id, BehaviorItem *item);
 
 /// Inserts a behaviour rule. The table chooses the id.
@@ -1046,20 +1046,20 @@ ROUTERDB_API void ModifyBehaviorItem(const BehaviorItem *item);
 /// @param condition  an SQL condition
 ROUTERDB_API void DelBehaviorItem(const char *condition);
 
-/// Deletes behaviour rules, exactly as DelBehaviorItem does.
+/// Deletes behaviour rules, exactly as DelBehaviorItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
 ROUTERDB_API void DelBehaviorItemById(const char *condition, int kind);
 
 /// Lists all entries of a Wi-Fi access list in order of their ids.
-/// @param list    filled whole: count, that many records, zero behind
-/// @param number  of the access list, 0 to 2; with another one nothing is sent and the list is cleared
+/// @param[out] list    filled whole: count, that many records, zero behind
+/// @param      number  of the access list, 0 to 2; with another one nothing is sent and the list is cleared
 ROUTERDB_API void GetAclItemList(AclItemList *list, int number);
 
 /// Reads one entry of a Wi-Fi access list.
-/// @param id      its id
-/// @param item    filled; cleared when there is no such row
-/// @param number  of the access list, 0 to 2; with another one nothing is sent and the record is cleared
+/// @param      id      its id
+/// @param[out] item    filled; cleared when there is no such row
+/// @param      number  of the access list, 0 to 2; with another one nothing is sent and the record is cleared
 ROUTERDB_API void GetAclItem(int id, AclItem *item, int number);
 
 /// Inserts an entry into a Wi-Fi access list. The table chooses the id.
@@ -1087,12 +1087,12 @@ ROUTERDB_API void DelAclItemAll(int number);
 ROUTERDB_API void DelAclItemByMac(const char *mac, int number);
 
 /// Lists all domain-to-IP entries in order of their ids.
-/// @param list  filled whole: count, that many records, zero behind
+/// @param[out] list  filled whole: count, that many records, zero behind
 ROUTERDB_API void GetDomainIpItemList(DomainIpItemList *list);
 
 /// Reads one domain-to-IP entry.
-/// @param id    its id
-/// @param item  filled; cleared when there is no such row
+/// @param      id    its id
+/// @param[out] item  filled; cleared when there is no such row
 ROUTERDB_API void GetDomainIpItem(int id, DomainIpItem *item);
 
 /// Inserts a domain-to-IP entry. The table chooses the id.
@@ -1109,51 +1109,51 @@ ROUTERDB_API void ModifyDomainIpItem(const DomainIpItem *item);
 ROUTERDB_API void DelDomainIpItem(const char *condition);
 
 /// @}
-/// @name Rule tables: lookups
+/// @defgroup rule_lookups Rule tables: lookups
 ///
 /// Where nothing is found the outputs stay clear (groups) or as they were (names). Random first delay.
 /// @{
 
 /// Reads one time group on a connection that the caller holds open.
-/// @param db     a connection to the main database
-/// @param id     id of the group
-/// @param group  filled; cleared when there is no such group
+/// @param      db     a connection to the main database
+/// @param      id     id of the group
+/// @param[out] group  filled; cleared when there is no such group
 /// @note Errors: "cannot prepare sql cmdline, Error: %s\n" on standard output. As thread-safe as the connection.
 ROUTERDB_API void GetTimeControlById(sqlite3 *db, int id, TimeGroupItem *group);
 
 /// Reads name and range of one IP group on a connection that the caller holds open.
-/// @param db     a connection to the main database
-/// @param id     id of the group
-/// @param group  `name`, `startip` and `endip` are filled, the rest is cleared
+/// @param      db     a connection to the main database
+/// @param      id     id of the group
+/// @param[out] group  `name`, `startip` and `endip` are filled, the rest is cleared
 /// @note Errors: "Error: %s" on standard output. As thread-safe as the connection.
 ROUTERDB_API void GetIpGroup_IpRangeById(sqlite3 *db, int id, IpGroupItem *group);
 
 /// Reads the names of an application class from the application catalogue.
-/// @param id       number of the class
-/// @param name     receives the name whole; untouched when there is no such class
-/// @param name_en  receives the English name whole; untouched when there is no such class
+/// @param      id       number of the class
+/// @param[out] name     receives the name whole; untouched when there is no such class
+/// @param[out] name_en  receives the English name whole; untouched when there is no such class
 /// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
 ROUTERDB_API void GetClassNameByClassId(int id, char *name, char *name_en);
 
 /// Reads the names of an application from the application catalogue.
-/// @param class_id  number of its class
-/// @param feature   its feature text
-/// @param name      receives the name whole; untouched when there is no such application
-/// @param name_en   receives the English name whole; untouched when there is no such application
+/// @param      class_id  number of its class
+/// @param      feature   its feature text
+/// @param[out] name      receives the name whole; untouched when there is no such application
+/// @param[out] name_en   receives the English name whole; untouched when there is no such application
 /// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
 ROUTERDB_API void GetAppNameByClassIdAppfeature(int class_id, const char *feature, char *name, char *name_en);
 
 /// Turns the classes and features of a behaviour rule into names: "3:f1?f2AND7:f9" into "Class A:App 1?App 2ANDClass
 /// B:App 9". What the catalogue does not know, or has no two names for, is left out.
-/// @param info   `behavior_info` of the rule; without a ":" nothing is appended
-/// @param names  a text; the names are appended whole, whatever their length
-/// @param names_en  a text; the English names are appended whole, whatever their length
+/// @param         info      `behavior_info` of the rule; without a ":" nothing is appended
+/// @param[in,out] names     a text; the names are appended whole, whatever their length
+/// @param[in,out] names_en  a text; the English names are appended whole, whatever their length
 /// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
 ROUTERDB_API void GetBehaviorItemInfoTypeName(const char *info, char *names, char *names_en);
 
 /// @}
 
-/// @name Access points: records
+/// @defgroup device_records Access points: records
 ///
 /// Every value is kept as text, as it stands in the table, the serial number excepted. The members are named after
 /// their columns in `DevInfo`.
@@ -1167,84 +1167,84 @@ ROUTERDB_API void GetBehaviorItemInfoTypeName(const char *info, char *names, cha
 
 /// One wireless network, number n of an access point. Its columns are `Dev_Wlan<n>_Enable` and so on.
 typedef struct DevWlanEntry {
-    char Enable[5];
-    char Hide_Ssid[5];
-    char Ssid[100];
-    char VlanId[5];
-    char Bssid[20];
-    char Security[20];
-    char Securitycipher[20];
-    char Authmode[20];
-    char Wep_Type[20];
-    char Wep_Value[200];
-    char Psk_Type[20];
-    char Psk_Value[200];
+    char Enable[5];           ///< whether it is on
+    char Hide_Ssid[5];        ///< whether its name is kept hidden
+    char Ssid[100];           ///< its name
+    char VlanId[5];           ///< its VLAN
+    char Bssid[20];           ///< its MAC address
+    char Security[20];        ///< kind of security
+    char Securitycipher[20];  ///< with "1" or "2" the WEP members count
+    char Authmode[20];        ///< with "1" the PSK members count
+    char Wep_Type[20];        ///< kind of WEP key
+    char Wep_Value[200];      ///< WEP key
+    char Psk_Type[20];        ///< kind of pre-shared key
+    char Psk_Value[200];      ///< pre-shared key
 } DevWlanEntry;
 
 /// One access point; also what a WLAN group or a zero-configuration group holds.
 typedef struct DevInfo {
-    uint32_t Dev_Sn;  ///< serial number, the key of the row
-    char Dev_Group[200];
-    char Dev_Name[200];
-    char Dev_Manufacture[100];
-    char Dev_Model_Name[100];
-    char Dev_IP_Assign[5];
-    char Dev_Ipaddress[20];  ///< dotted; empty without an address
-    char Dev_Status[5];      ///< "1" online, "0" offline
-    char Dev_Upgrade_Status[25];
-    char Dev_Subnet[20];
-    char Dev_Gateway[20];
-    char Dev_Dns1[20];
-    char Dev_Dns2[20];
-    char Dev_Sys_TrapIP[20];
-    char Dev_MAC[20];  ///< six pairs with colons
-    char Dev_OnlineTime[50];
-    char Dev_SwName[200];
-    char Dev_SwVer[200];
-    char Dev_Wlan_GroupId[5];           ///< of the WLAN group that it follows, "0" for none
-    char wlan_group_name[100];          ///< no column of the table
-    char Dev_Wlan_Radio_Num[5];         ///< wireless networks in use: 4 with one radio, 8 with two
-    DevWlanEntry wlan[ROUTERDB_WLANS];  ///< 1 to 4 on the first radio, 5 to 8 on the second
-    char Dev_Wlan_Mode[5];
-    char Dev_Wlan_Bw[5];
-    char Dev_Wlan_Ampdu[5];
-    char Dev_Wlan_Isolate[5];
-    char Dev_Wlan_Rate[5];
-    char Dev_Wlan_Beacon_Inertval[5];  ///< spelled so in the table
-    char Dev_Wlan_Rts[5];
-    char Dev_Wlan_Cts[5];
-    char Dev_Wlan_ShortGI[5];
-    char Dev_Wlan_Txpower[5];  ///< percent
-    char Dev_Wlan_MaxTxpower[5];
-    char Dev_Wlan_Channel[5];
-    char Dev_Wlan_RxOption[5];
-    char Dev_Wlan_CoverageThreshold[5];
-    char Dev_Wlan_Current_Channel[5];
-    char Dev_Wlan_Sta_Num[5];  ///< associated stations
-    char Dev_Wlan_MaxStaNum[5];
-    char Dev_RebootTime_Enable[5];
-    char Dev_RebootTime[50];
-    char Dev_CurrentDateTime[50];
-    char Dev_Wlan_Mode_sec[5];
-    char Dev_Wlan_Bw_sec[5];
-    char Dev_Wlan_Ampdu_sec[5];
-    char Dev_Wlan_Isolate_sec[5];
-    char Dev_Wlan_Rate_sec[5];
-    char Dev_Wlan_Beacon_Inertval_sec[5];  ///< spelled so in the table
-    char Dev_Wlan_Rts_sec[5];
-    char Dev_Wlan_Cts_sec[5];
-    char Dev_Wlan_ShortGI_sec[5];
-    char Dev_Wlan_Txpower_sec[5];  ///< percent
-    char Dev_Wlan_MaxTxpower_sec[5];
-    char Dev_Wlan_Channel_sec[5];
-    char Dev_Wlan_RxOption_sec[5];
-    char Dev_Wlan_CoverageThreshold_sec[5];
-    char Dev_Wlan_Current_Channel_sec[5];
-    char Dev_Wlan_Sta_Num_sec[5];  ///< associated stations
-    char Dev_Wlan_MaxStaNum_sec[5];
-    char radius_server_ip[20];    ///< no column of the table
-    char radius_server_port[20];  ///< no column of the table
-    char radius_shared_key[200];  ///< no column of the table
+    uint32_t Dev_Sn;                         ///< serial number, the key of the row
+    char Dev_Group[200];                     ///< name of the group that it is counted to
+    char Dev_Name[200];                      ///< what people call it
+    char Dev_Manufacture[100];               ///< manufacturer
+    char Dev_Model_Name[100];                ///< model
+    char Dev_IP_Assign[5];                   ///< how it gets its address
+    char Dev_Ipaddress[20];                  ///< dotted; empty without an address
+    char Dev_Status[5];                      ///< "1" online, "0" offline
+    char Dev_Upgrade_Status[25];             ///< state of its firmware upgrade
+    char Dev_Subnet[20];                     ///< network mask
+    char Dev_Gateway[20];                    ///< default gateway
+    char Dev_Dns1[20];                       ///< first name server
+    char Dev_Dns2[20];                       ///< second name server
+    char Dev_Sys_TrapIP[20];                 ///< where its traps go
+    char Dev_MAC[20];                        ///< six pairs with colons
+    char Dev_OnlineTime[50];                 ///< time online
+    char Dev_SwName[200];                    ///< name of its firmware
+    char Dev_SwVer[200];                     ///< version of its firmware
+    char Dev_Wlan_GroupId[5];                ///< of the WLAN group that it follows, "0" for none
+    char wlan_group_name[100];               ///< no column of the table
+    char Dev_Wlan_Radio_Num[5];              ///< wireless networks in use: 4 with one radio, 8 with two
+    DevWlanEntry wlan[ROUTERDB_WLANS];       ///< 1 to 4 on the first radio, 5 to 8 on the second
+    char Dev_Wlan_Mode[5];                   ///< mode of the radio
+    char Dev_Wlan_Bw[5];                     ///< channel width
+    char Dev_Wlan_Ampdu[5];                  ///< frame aggregation
+    char Dev_Wlan_Isolate[5];                ///< whether stations are kept apart
+    char Dev_Wlan_Rate[5];                   ///< transmission rate
+    char Dev_Wlan_Beacon_Inertval[5];        ///< spelled so in the table
+    char Dev_Wlan_Rts[5];                    ///< RTS threshold
+    char Dev_Wlan_Cts[5];                    ///< CTS threshold
+    char Dev_Wlan_ShortGI[5];                ///< short guard interval
+    char Dev_Wlan_Txpower[5];                ///< percent
+    char Dev_Wlan_MaxTxpower[5];             ///< most transmit power
+    char Dev_Wlan_Channel[5];                ///< channel that is set
+    char Dev_Wlan_RxOption[5];               ///< receive option
+    char Dev_Wlan_CoverageThreshold[5];      ///< coverage threshold
+    char Dev_Wlan_Current_Channel[5];        ///< channel in use
+    char Dev_Wlan_Sta_Num[5];                ///< associated stations
+    char Dev_Wlan_MaxStaNum[5];              ///< most stations
+    char Dev_RebootTime_Enable[5];           ///< whether it restarts on schedule
+    char Dev_RebootTime[50];                 ///< when it restarts
+    char Dev_CurrentDateTime[50];            ///< its clock
+    char Dev_Wlan_Mode_sec[5];               ///< as Dev_Wlan_Mode, of the second radio
+    char Dev_Wlan_Bw_sec[5];                 ///< as Dev_Wlan_Bw, of the second radio
+    char Dev_Wlan_Ampdu_sec[5];              ///< as Dev_Wlan_Ampdu, of the second radio
+    char Dev_Wlan_Isolate_sec[5];            ///< as Dev_Wlan_Isolate, of the second radio
+    char Dev_Wlan_Rate_sec[5];               ///< as Dev_Wlan_Rate, of the second radio
+    char Dev_Wlan_Beacon_Inertval_sec[5];    ///< spelled so in the table
+    char Dev_Wlan_Rts_sec[5];                ///< as Dev_Wlan_Rts, of the second radio
+    char Dev_Wlan_Cts_sec[5];                ///< as Dev_Wlan_Cts, of the second radio
+    char Dev_Wlan_ShortGI_sec[5];            ///< as Dev_Wlan_ShortGI, of the second radio
+    char Dev_Wlan_Txpower_sec[5];            ///< percent
+    char Dev_Wlan_MaxTxpower_sec[5];         ///< as Dev_Wlan_MaxTxpower, of the second radio
+    char Dev_Wlan_Channel_sec[5];            ///< as Dev_Wlan_Channel, of the second radio
+    char Dev_Wlan_RxOption_sec[5];           ///< as Dev_Wlan_RxOption, of the second radio
+    char Dev_Wlan_CoverageThreshold_sec[5];  ///< as Dev_Wlan_CoverageThreshold, of the second radio
+    char Dev_Wlan_Current_Channel_sec[5];    ///< as Dev_Wlan_Current_Channel, of the second radio
+    char Dev_Wlan_Sta_Num_sec[5];            ///< associated stations
+    char Dev_Wlan_MaxStaNum_sec[5];          ///< as Dev_Wlan_MaxStaNum, of the second radio
+    char radius_server_ip[20];               ///< no column of the table
+    char radius_server_port[20];             ///< no column of the table
+    char radius_shared_key[200];             ///< no column of the table
 } DevInfo;
 
 /// Room of an ApDevList.
@@ -1252,67 +1252,67 @@ typedef struct DevInfo {
 
 /// All access points, each record on the heap.
 typedef struct ApDevList {
-    uint32_t count;
-    DevInfo *devices[ROUTERDB_DEVICE_LIST_CAPACITY];  ///< released by FreeApDevList
+    uint32_t count;                                   ///< number of records
+    DevInfo *devices[ROUTERDB_DEVICE_LIST_CAPACITY];  ///< released by FreeApDevList()
 } ApDevList;
 
 /// One firmware that access points are to be upgraded to.
 typedef struct ApDevUpgradeInfo {
-    char description[100];
-    char Dev_SwName[200];  ///< key of the `DevUpgradeInfo` row
-    void *block;           ///< on the heap, or null
+    char description[100];  ///< what people call it
+    char Dev_SwName[200];   ///< key of the `DevUpgradeInfo` row
+    void *block;            ///< on the heap, or null
 } ApDevUpgradeInfo;
 
 /// Upgrades, each record on the heap. Only `count` of the pointers are looked at.
 typedef struct ApDevUpgradeList {
-    uint32_t count;
-    ApDevUpgradeInfo *items[ROUTERDB_DEVICE_LIST_CAPACITY];
+    uint32_t count;                                          ///< number of records
+    ApDevUpgradeInfo *items[ROUTERDB_DEVICE_LIST_CAPACITY];  ///< released by FreeApDevUpgradeList()
 } ApDevUpgradeList;
 
 /// @}
-/// @name Access points: reading
+/// @defgroup device_reading Access points: reading
 /// @{
 
 /// Reads one access point.
-/// @param out      cleared in any case, then filled
-/// @param sn       its serial number
-/// @param convert  1 to get the SSIDs of networks 2, 3, 4, 6, 7 and 8 in GB2312; those of 1 and 5, and one that cannot
-///                 be converted, stay UTF-8
+/// @param[out] out      cleared in any case, then filled
+/// @param      sn       its serial number
+/// @param      convert  1 to get the SSIDs of networks 2, 3, 4, 6, 7 and 8 in GB2312; those of 1 and 5, and one that
+///                      cannot be converted, stay UTF-8
 /// @return the number of rows read: 1, or 0 when there is no such row or the database cannot be read
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
 ///       First sleep 55 microseconds. Thread-safe; takes no lock.
 ROUTERDB_API int DB_getinfo(DevInfo *out, unsigned long sn, int convert);
 
 /// Reads all access points in order of their addresses.
-/// @param list     filled; untouched when the rows cannot even be counted. To be released with FreeApDevList
-/// @param convert  as in DB_getinfo
+/// @param[out] list     filled; untouched when the rows cannot even be counted. To be released with FreeApDevList()
+/// @param      convert  as in DB_getinfo()
 /// @return 1 when there is one at least, else 0
-/// @note Errors: those of GET_DB_SQL_INT, then "cannot open %s, ErrorCode: %d!\n" on standard error and "cannot prepare
-///       sql cmdline, Error: %s\n" in the system log. It takes the lock file while it counts. Without memory the list
-///       ends early.
+/// @note Errors: those of GET_DB_SQL_INT(), then "cannot open %s, ErrorCode: %d!\n" on standard error and "cannot
+///       prepare sql cmdline, Error: %s\n" in the system log. It takes the lock file while it counts. Without memory
+///       the list ends early.
 ROUTERDB_API int GetApDevList(ApDevList *list, int convert);
 
 /// Releases the records of a list and sets their pointers to null; the count stays.
-/// @param list  from GetApDevList
+/// @param[in,out] list  from GetApDevList()
 ROUTERDB_API void FreeApDevList(ApDevList *list);
 
 /// @}
-/// @name Access points: registration and update
+/// @defgroup registration Access points: registration and update
 ///
 /// Values are written with their apostrophes doubled: what an access point reports about itself is never SQL. The
-/// statements go through DB_EXEC_SQL_CHAR and DB_EXEC_SQL_CHAR_INT, with their locks and messages.
+/// statements go through DB_EXEC_SQL_CHAR() and DB_EXEC_SQL_CHAR_INT(), with their locks and messages.
 /// @{
 
 /// Looks an access point up by its MAC address, up to sixteen times, 100 microseconds apart.
-/// @param dev  its `Dev_MAC` is read
-/// @param sn   receives the serial number of a known one
+/// @param      dev  its `Dev_MAC` is read
+/// @param[out] sn   receives the serial number of a known one
 /// @return 1 when it is known, 0 when it is not, -1 without a MAC address
 ROUTERDB_API int DB_findinfo2(DevInfo dev, unsigned long *sn);
 
 /// Decides whether an access point is new. For a new one with MAC and IP address, a row that has the same serial
 /// number is deleted: it belongs to a device that had the address before.
-/// @param dev  its `Dev_MAC` and `Dev_Ipaddress` are read
-/// @param sn   receives the serial number: that of the row, or the address as a number in network order
+/// @param      dev  its `Dev_MAC` and `Dev_Ipaddress` are read
+/// @param[out] sn   receives the serial number: that of the row, or the address as a number in network order
 /// @return 1 when it is known, 0 when it is new, -1 when the lookup failed
 ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 
@@ -1322,25 +1322,27 @@ ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 ///             converted becomes empty
 /// @return the serial number as an int, or -1. Compare with -1 only: an address whose last octet is 128 or more gives a
 ///         negative number on success, and an empty address gives -1 although the row was written
+/// @note Copies the database as DbSqlExec() does when the text of its update contains "insert".
 /// @note Errors: "not have enough mem" in the system log.
 ROUTERDB_API int DB_addinfo(DevInfo dev);
 
 /// Writes a record into the rows of its MAC address.
-/// @param dev  the record; SSIDs as in DB_addinfo
+/// @param dev  the record; SSIDs as in DB_addinfo()
 /// @note Errors: "not have enough mem" in the system log; others are not reported.
 ROUTERDB_API void DB_saveinfo(const DevInfo *dev);
 
 /// Writes the configuration in a record into the row of its serial number and marks it online. The transmit power is
 /// written from 10 to 100 only. What the access point reports about itself is left out.
 /// @param dev  the record; SSIDs are written as they stand
-/// @return as DB_EXEC_SQL_CHAR
+/// @return as DB_EXEC_SQL_CHAR()
 ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
 
 /// @}
-/// @name Access points: status, identity, upgrade
+/// @defgroup device_status Access points: status, identity, upgrade
 ///
-/// Each runs one statement with DB_EXEC_SQL_CHAR (to write), DB_EXEC_SQL_CHAR_CHAR, _LONG or _INT (to read), with their
-/// locks and messages, and reports nothing else. Texts are put into the statement as given.
+/// Each runs one statement with DB_EXEC_SQL_CHAR() (to write) or with DB_EXEC_SQL_CHAR_CHAR(), DB_EXEC_SQL_CHAR_LONG()
+/// or DB_EXEC_SQL_CHAR_INT() (to read), with their locks and messages, and reports nothing else. Texts are put into the
+/// statement as given.
 /// @{
 
 /// Sets the status of the access point with a MAC address.
@@ -1348,34 +1350,34 @@ ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
 /// @param status  a text; one that does not start with a number other than 0 also sets both station counts to '0'
 ROUTERDB_API void SetDevStatus(const char *mac, const char *status);
 
-/// As SetDevStatus, by IP address.
+/// As SetDevStatus(), by IP address.
 /// @param ip      the address, dotted
-/// @param status  as in SetDevStatus
+/// @param status  as in SetDevStatus()
 ROUTERDB_API void SetDevStatusbyIP(const char *ip, const char *status);
 
 /// Reads the status of an access point.
-/// @param mac  the address
-/// @param out  room for the text (5 bytes); "0" when there is no such row
+/// @param      mac  the address
+/// @param[out] out  room for the text (5 bytes); "0" when there is no such row
 ROUTERDB_API void GetDevStatus(const char *mac, char *out);
 
 /// Reads the upgrade status of an access point.
-/// @param mac  the address
-/// @param out  room for the text (25 bytes); "0" when there is no such row
+/// @param      mac  the address
+/// @param[out] out  room for the text (25 bytes); "0" when there is no such row
 ROUTERDB_API void GetDevUpgradeStatus(const char *mac, char *out);
 
 /// Reads the MAC address of an access point.
-/// @param sn   its serial number
-/// @param out  room for the text (20 bytes); untouched when there is no such row
+/// @param      sn   its serial number
+/// @param[out] out  room for the text (20 bytes); untouched when there is no such row
 ROUTERDB_API void GetDevMacBySN(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point by its MAC address.
-/// @param mac  the address
-/// @param sn   untouched when there is no such row
+/// @param      mac  the address
+/// @param[out] sn   untouched when there is no such row
 ROUTERDB_API void GetDevSNByMac(const char *mac, unsigned long *sn);
 
 /// Reads the serial number of an access point by its IP address.
-/// @param ip  the address, dotted
-/// @param sn  untouched when there is no such row
+/// @param      ip  the address, dotted
+/// @param[out] sn  untouched when there is no such row
 ROUTERDB_API void GetDevSNByIp(const char *ip, unsigned long *sn);
 
 /// Sets the upgrade status of an access point and announces it with "/bin/send_event 5 4 mod#%lu >/dev/null 2>&1 &",
@@ -1389,10 +1391,12 @@ ROUTERDB_API void SetDevUpgradeStatus(const char *mac, const char *status);
 /// @return the number of rows; 0 when they cannot be read
 ROUTERDB_API int GetTableCount(const char *table);
 
-/// @return the number of access points; 0 when they cannot be read
+/// Counts the access points.
+/// @return their number; 0 when they cannot be read
 ROUTERDB_API int get_devinfo_count(void);
 
-/// @return the number of access points that are online, as GET_DB_SQL_INT_COUNT_ROUTE gives it
+/// Counts the access points that are online.
+/// @return their number, as GET_DB_SQL_INT_COUNT_ROUTE() gives it
 ROUTERDB_API int GetApDevList_count(void);
 
 /// Deletes the upgrade entries of a firmware.
@@ -1405,34 +1409,35 @@ ROUTERDB_API int DeleteApDevUpgradeInfo(const ApDevUpgradeInfo *info);
 ROUTERDB_API void GetApDevUpgradeList(ApDevUpgradeList *list);
 
 /// Releases the records of a list and the block that each owns, and sets their pointers to null; the count stays.
-/// @param list  the list
+/// @param[in,out] list  the list
 ROUTERDB_API void FreeApDevUpgradeList(ApDevUpgradeList *list);
 
 /// Runs "select Dev_Sn from DevInfo order by Dev_IPSUM ;" under the lock file and delivers none of its rows.
-/// @param collection  a collection, which starts with its count; the count becomes 0
-/// @return 0; -1 if the lock file or the database cannot be opened or the statement fails, messages as in DbSqlExec
+/// @param[in,out] collection  a collection, which starts with its count; the count becomes 0
+/// @return 0; -1 if the lock file or the database cannot be opened or the statement fails, messages as in DbSqlExec()
 ROUTERDB_API int DB_GetDevSNCollection(uint32_t *collection);
 
-/// As DB_GetDevSNCollection, with "select WlanGroup_Id from WlanGroupInfo;".
-/// @param collection  as there
+/// As DB_GetDevSNCollection(), with "select WlanGroup_Id from WlanGroupInfo;".
+/// @param[in,out] collection  as there
 /// @return as there
 ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
 
 /// @}
-/// @name WLAN groups
+/// @defgroup wlan_groups WLAN groups
 ///
 /// A group is held in a DevInfo record of which only the members that a group has are filled.
 /// @{
 
 /// Reads one WLAN group.
-/// @param group    cleared, then filled; the SSIDs of networks 2, 3, 4, 6, 7 and 8 come in GB2312
-/// @param groupId  its number
+/// @param[out] group    cleared, then filled; the SSIDs of networks 2, 3, 4, 6, 7 and 8 come in GB2312
+/// @param      groupId  its number
 /// @return 0, also when there is no such group; another number when the database could not be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds. Thread-safe; takes no lock.
 ROUTERDB_API int DB_getwlangroupinfoByindex(DevInfo *group, int groupId);
 
-/// @return the number of WLAN groups; 0 when they cannot be read
+/// Counts the WLAN groups.
+/// @return their number; 0 when they cannot be read
 ROUTERDB_API int get_wlangroupinfo_count(void);
 
 /// Compares what an access point has with what its WLAN group wants. Channel, rate, mode, bandwidth, transmit power,
@@ -1445,39 +1450,40 @@ ROUTERDB_API int get_wlangroupinfo_count(void);
 ROUTERDB_API int CompareDevInfoWithGroupInfo(DevInfo dev, DevInfo group);
 
 /// Gives an access point the settings of its WLAN group.
-/// @param dev    its networks (but their BSSIDs), radio settings that a group has, RADIUS members and group number are
-///               overwritten
-/// @param group  the group
+/// @param[in,out] dev    its networks (but their BSSIDs), radio settings that a group has, RADIUS members and group
+///                       number are overwritten
+/// @param         group  the group
 /// @return no meaning
 /// @note Thread-safe.
 ROUTERDB_API char *SetDevInfoFromWlanGroupInfo(DevInfo *dev, const DevInfo *group);
 
 /// @}
-/// @name Zero-configuration groups
+/// @defgroup zero_config_groups Zero-configuration groups
 /// @{
 
 /// Reads the default group, number 1.
-/// @param group  untouched when there are no groups; else cleared, then filled, SSIDs as in DB_getwlangroupinfoByindex
+/// @param[out] group  untouched when there are no groups; else cleared, then filled, SSIDs as in
+///                    DB_getwlangroupinfoByindex()
 /// @return 0 when there are no groups; a positive number otherwise, also when the group could not be read
-/// @note Errors: as DB_getwlangroupinfoByindex.
+/// @note Errors: as DB_getwlangroupinfoByindex().
 ROUTERDB_API int DB_getwlanzerocfggroupinfo(DevInfo *group);
 
 /// Reads one group.
-/// @param group    cleared, then filled; SSIDs stay as stored
-/// @param groupId  its number
+/// @param[out] group    cleared, then filled; SSIDs stay as stored
+/// @param      groupId  its number
 /// @return 0, also when there is no such group; -1 when the database cannot be opened
-/// @note Errors: as DB_getwlangroupinfoByindex. Random first delay.
+/// @note Errors: as DB_getwlangroupinfoByindex(). Random first delay.
 ROUTERDB_API int DB_getwlanzerocfggroupinfoByindex(DevInfo *group, int groupId);
 
 /// Fills a record with the defaults of a new group. Its name takes the next free number, which is not reserved.
-/// @param group  a cleared record
+/// @param[in,out] group  a cleared record
 /// @return no meaning
 ROUTERDB_API int Initialwlanzerocfggroupinfo(DevInfo *group);
 
 /// Reads a group, or makes a new one.
-/// @param group        cleared, then filled
-/// @param groupIdText  its number; a text that is no number, or 0, asks for a new group
-/// @return as DB_getwlanzerocfggroupinfoByindex, or no meaning for a new group
+/// @param[out] group        cleared, then filled
+/// @param      groupIdText  its number; a text that is no number, or 0, asks for a new group
+/// @return as DB_getwlanzerocfggroupinfoByindex(), or no meaning for a new group
 ROUTERDB_API int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText);
 
 /// Writes a group.
@@ -1487,24 +1493,24 @@ ROUTERDB_API int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText
 /// @note Two callers that save new groups at the same moment may get the same number.
 ROUTERDB_API int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId);
 
-/// As CompareDevInfoWithGroupInfo, except that group numbers do not count, and transmit power and reboot times do.
+/// As CompareDevInfoWithGroupInfo(), except that group numbers do not count, and transmit power and reboot times do.
 /// @param dev    the access point
 /// @param group  the group
 /// @return 0 when they agree, 1 when they differ
 /// @note Thread-safe.
 ROUTERDB_API int CompareDevInfoWithZeroGroupInfo(DevInfo dev, DevInfo group);
 
-/// As SetDevInfoFromWlanGroupInfo, except that the group number stays, and channels, transmit powers and reboot times
+/// As SetDevInfoFromWlanGroupInfo(), except that the group number stays, and channels, transmit powers and reboot times
 /// are set. A channel above 13 becomes "0" on the first radio; an empty one or 0 becomes "15" on the second.
-/// @param dev    the access point
-/// @param group  the group
+/// @param[in,out] dev    the access point
+/// @param         group  the group
 /// @return no meaning
 /// @note Thread-safe.
 ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInfo *group);
 
 /// @}
 
-/// @name Web interface: lists as JSON
+/// @defgroup json_lists Web interface: lists as JSON
 ///
 /// Each prints one JSON object on standard output, through the C library's stream and without a line break behind it
 /// where none is mentioned. Every element but the last ends with a comma: the last one has all its values empty and is
@@ -1514,7 +1520,7 @@ ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInf
 
 /// The feature texts of one application class.
 typedef struct AppFeatureList {
-    uint32_t count;
+    uint32_t count;           ///< number of texts
     char features[128][225];  ///< more rows than that run past the record: the caller's buffer has to hold them
 } AppFeatureList;
 
@@ -1522,54 +1528,52 @@ typedef struct AppFeatureList {
 #define ROUTERDB_JOINED_NAMES 4096
 
 /// Joins the names of the applications of a class, each with a "/" behind it.
-/// @param classId  number of the class
-/// @param out      ROUTERDB_JOINED_NAMES bytes; what does not fit whole is left out with all that follows. Untouched
-/// when
-///                 the query cannot be prepared
-/// @param db       an open connection to the application catalogue
+/// @param      classId  number of the class
+/// @param[out] out      ROUTERDB_JOINED_NAMES bytes; what does not fit whole is left out with all that follows.
+///                      Untouched when the query cannot be prepared
+/// @param      db       an open connection to the application catalogue
 /// @note Errors: "Webserver Error: %s" on standard output. First sleep 55 microseconds.
 ROUTERDB_API void GetAppinfosByClassId(int classId, char *out, sqlite3 *db);
 
-/// As GetAppinfosByClassId, with the English names.
-/// @param classId  number of the class
-/// @param out      as there
-/// @param db       as there
+/// As GetAppinfosByClassId(), with the English names.
+/// @param      classId  number of the class
+/// @param[out] out      as there
+/// @param      db       as there
 ROUTERDB_API void GetAppinfosEnByClassId(int classId, char *out, sqlite3 *db);
 
-/// As GetAppinfosByClassId, with the feature texts.
-/// @param classId  number of the class
-/// @param out      as there
-/// @param db       as there
+/// As GetAppinfosByClassId(), with the feature texts.
+/// @param      classId  number of the class
+/// @param[out] out      as there
+/// @param      db       as there
 ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
 
 /// Prints all application classes, each with its applications.
 /// @return no meaning
-/// @note Errors: those of GET_DB_SQLITE_SQL_INT, and "Webserver Error: %s" on standard output. Closes descriptor 0;
-/// when
-///       the catalogue cannot be opened, the descriptor whose number is SQLite's result code instead.
+/// @note Errors: those of GET_DB_SQLITE_SQL_INT(), and "Webserver Error: %s" on standard output. Closes descriptor 0;
+///       when the catalogue cannot be opened, the descriptor whose number is SQLite's result code instead.
 ROUTERDB_API int GetAppClassItemList(void);
 
 /// Prints one application class. The count is that of all classes.
 /// @param id  its number, put into the statement as given
 /// @return no meaning
-/// @note Errors and descriptors as GetAppClassItemList.
+/// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppClassItem(const char *id);
 
 /// Prints one application.
 /// @param id  its number, put into the statement as given
 /// @return no meaning
-/// @note Errors and descriptors as GetAppClassItemList.
+/// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppInfoItem(const char *id);
 
 /// Prints the applications of a class.
 /// @param classId  number of the class, put into the statement and into each element as given
 /// @return no meaning
-/// @note Errors and descriptors as GetAppClassItemList.
+/// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppInfoItemListByClassid(const char *classId);
 
 /// Reads the feature texts of a class from the main database, under the lock file if there is one.
-/// @param list     cleared, then filled
-/// @param classId  number of the class
+/// @param[out] list     cleared, then filled
+/// @param      classId  number of the class
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "Error: %s" on standard output. Random first delay.
 ROUTERDB_API int GetAppItemListByClassId(AppFeatureList *list, int classId);
@@ -1600,33 +1604,32 @@ ROUTERDB_API int GetWlanZeroCfgGroupList(void);
 /// @param devIp  its address, put into shell commands as given: callers check it
 /// @return no meaning
 /// @note Leaves "/var/stalist_<n>", n from 1 to 10 at random, and the trace "/tmp/sta_log". Two calls at the same
-/// moment
-///       may meet in one file.
+///       moment may meet in one file.
 ROUTERDB_API int GetApDevStaList(const char *devIp);
 
 /// @}
 
-/// @name DHCP leases
+/// @defgroup dhcp_leases DHCP leases
 /// @{
 
 /// One lease of the binary lease file, as it stands there.
 typedef struct LeaseRecord {
-    uint32_t expiry;    ///< big-endian; 0 for a lease that does not count
-    uint32_t ip;        ///< network order
-    uint8_t mac[6];     ///< all zero for a record without a lease
-    char hostname[20];  ///< padded with NUL; without a terminator when it fills the field
-    uint8_t padding[2];
+    uint32_t expiry;     ///< big-endian; 0 for a lease that does not count
+    uint32_t ip;         ///< network order
+    uint8_t mac[6];      ///< all zero for a record without a lease
+    char hostname[20];   ///< padded with NUL; without a terminator when it fills the field
+    uint8_t padding[2];  ///< not read
 } LeaseRecord;
 
 /// One lease in memory, a node of a list.
 typedef struct LeaseNode {
-    uint32_t unused;  ///< 0
-    char ip[40];      ///< dotted
-    char mac[32];     ///< "%02X:%02X:%02X:%02X:%02X:%02X"
-    char expiry[16];  ///< decimal
-    char hostname[152];
-    uint32_t address;  ///< network order
-    struct LeaseNode *next;
+    uint32_t unused;         ///< 0
+    char ip[40];             ///< dotted
+    char mac[32];            ///< "%02X:%02X:%02X:%02X:%02X:%02X"
+    char expiry[16];         ///< decimal
+    char hostname[152];      ///< empty without one
+    uint32_t address;        ///< network order
+    struct LeaseNode *next;  ///< null behind the last node
 } LeaseNode;
 
 /// Reads a process id.
@@ -1637,7 +1640,7 @@ ROUTERDB_API int getPid_sql(const char *pidFile);
 
 /// Allocates a block of zero bytes.
 /// @param size  in bytes
-/// @return the block, to be released with free_buffer_sql or free; null without memory
+/// @return the block, to be released with free_buffer_sql() or free; null without memory
 /// @note Thread-safe.
 ROUTERDB_API void *get_buffer_sql(size_t size);
 
@@ -1649,39 +1652,39 @@ ROUTERDB_API void *get_buffer_sql(size_t size);
 ROUTERDB_API int free_buffer_sql(void *p, size_t size);
 
 /// Frees a list of leases, each node overwritten with zero bytes first.
-/// @param head  the head of the list, null afterwards
+/// @param[in,out] head  the head of the list, null afterwards
 /// @note As thread-safe as the list.
 ROUTERDB_API void free_leaselist_sql(LeaseNode **head);
 
 /// Fills a node from a lease. A null argument ends the process through an assertion.
-/// @param mac_ip_list  the node; its link and its first word stay
-/// @param lease        the lease
+/// @param[in,out] mac_ip_list  the node; its link and its first word stay
+/// @param         lease        the lease
 /// @note Thread-safe.
 ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRecord *lease);
 
 /// Asks the DHCP server to write its leases (SIGUSR1), waits a millisecond, and reads a binary lease file into a list.
-/// @param head       must be null; receives the list, to be released with free_leaselist_sql
-/// @param leaseFile  path of the lease file
-/// @param pidFile    path of the server's pid file; without it no signal is sent
+/// @param[in,out] head       must be null; receives the list, to be released with free_leaselist_sql()
+/// @param         leaseFile  path of the lease file
+/// @param         pidFile    path of the server's pid file; without it no signal is sent
 /// @return the number of nodes; 0 if the lease file cannot be opened ("could not open input file" through perror).
 ///         Without memory the list ends early
 /// @note Thread-safe.
 ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFile, const char *pidFile);
 
 /// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file.
-/// @param mac        the address in upper case, with colons
-/// @param hostname   room for 128 bytes; untouched when no line matches
-/// @param leaseFile  path of the lease file
-/// @param pidFile    path of the server's pid file
+/// @param      mac        the address in upper case, with colons
+/// @param[out] hostname   room for 128 bytes; untouched when no line matches
+/// @param      leaseFile  path of the lease file
+/// @param      pidFile    path of the server's pid file
 /// @return 1 when the file was read, 0 if it cannot be opened ("could not open input file" through perror)
 /// @note Thread-safe. Each call leaves one stream of the lease file open.
 ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname, const char *leaseFile,
                                                 const char *pidFile);
 
-/// As get_hostname_by_mac_from_lease, with "/var/dhcp.leases" and "/var/run/dnsmasq/dnsmasq.pid".
-/// @param mac       the address; null or empty does nothing
-/// @param hostname  room for 128 bytes; null does nothing
-/// @param flag      not read
+/// As get_hostname_by_mac_from_lease(), with "/var/dhcp.leases" and "/var/run/dnsmasq/dnsmasq.pid".
+/// @param      mac       the address; null or empty does nothing
+/// @param[out] hostname  room for 128 bytes; null does nothing
+/// @param      flag      not read
 /// @note Thread-safe. Each call leaves one stream of the lease file open.
 ROUTERDB_API void get_hostname_by_mac(const char *mac, char *hostname, int flag);
 

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 #include "rules/catalogue_names.h"
 
@@ -10,9 +11,9 @@ namespace routerdb {
 
 namespace {
 
-constexpr std::string_view group_separator = "AND";
-constexpr std::string_view feature_separator = "?";
-constexpr std::string_view class_separator = ":";
+constexpr char group_separator[] = "AND";
+constexpr char feature_separator[] = "?";
+constexpr char class_separator[] = ":";
 
 void append(const NameField &field, std::string_view piece) {
     const std::size_t length = std::strlen(field.text);
@@ -23,16 +24,15 @@ void append(const NameField &field, std::string_view piece) {
 }
 
 /// Takes what stands before a separator off a text; all of it if there is none.
-std::string_view take_until(std::string_view &text, std::string_view separator) {
-    const std::size_t end = text.find(separator);
-    std::string_view taken = text;
-    if (end == std::string_view::npos) {
-        text = std::string_view();
-    } else {
-        // substr would do, but it may throw, and so needs the C++ runtime.
-        taken.remove_suffix(text.size() - end);
-        text.remove_prefix(end + separator.size());
+std::string_view take_until(std::string_view &text, const char *separator) {
+    const std::size_t length = std::strlen(separator);
+    const void *found = memmem(text.data(), text.size(), separator, length);
+    if (found == nullptr) {
+        return std::exchange(text, std::string_view());
     }
+    // substr would do, but it may throw, and so needs the C++ runtime.
+    const std::string_view taken(text.data(), static_cast<std::size_t>(static_cast<const char *>(found) - text.data()));
+    text.remove_prefix(taken.size() + length);
     return taken;
 }
 
@@ -47,7 +47,7 @@ public:
 private:
     void write_class(int class_id);
     void write_application(int class_id, std::string_view feature, bool &first);
-    void write_both(std::string_view piece) {
+    void write_both(const char *piece) {
         append(names_, piece);
         append(names_en_, piece);
     }
@@ -58,12 +58,12 @@ private:
 };
 
 void Writer::write_group(std::string_view group) {
-    if (group.find(class_separator) == std::string_view::npos) {
+    const std::string_view id = take_until(group, class_separator);
+    if (group.data() == nullptr) {
         return;
     }
     // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0; the separator, which is no digit, ends it
-    const int class_id = std::atoi(group.data());
-    take_until(group, class_separator);
+    const int class_id = std::atoi(id.data());
     write_class(class_id);
     bool first = true;
     while (!group.empty()) {

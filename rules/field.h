@@ -30,12 +30,12 @@ inline constexpr std::int8_t by_name = -1;
 
 struct Field {
     char column[18];
-    Kind kind;
-    When when;
+    Kind kind : 2;
+    When when : 2;
+    std::int8_t position;   // in the rows of "select *"; of weekdays, the first one
     std::uint16_t control;  // offset of the control member; no meaning with When::always
     std::uint16_t offset;
     std::uint16_t width;
-    std::int8_t position;  // in the rows of "select *"; of weekdays, the first one
 
     constexpr unsigned columns() const { return kind == Kind::weekdays ? 7 : 1; }
 };
@@ -44,10 +44,10 @@ struct Field {
 
 // A row of a table's field list: the member of `Record` gives column name, offset and width, none of which is typed
 // a second time.
-#define ROUTERDB_FIELD(kind, when, control, member, position)                                                     \
-    {                                                                                                             \
-#member, routerdb::Kind::kind, routerdb::When::when, offsetof(Record, control), offsetof(Record, member), \
-            sizeof(Record::member), position                                                                      \
+#define ROUTERDB_FIELD(kind, when, control, member, position)                                     \
+    {                                                                                             \
+#member, routerdb::Kind::kind, routerdb::When::when, position, offsetof(Record, control), \
+            offsetof(Record, member), sizeof(Record::member)                                      \
     }
 
 #define NUMBER(member, position) ROUTERDB_FIELD(number, always, id, member, position)
@@ -62,4 +62,4 @@ struct Field {
 #define IP_GROUP_ID(position) ROUTERDB_FIELD(number, referenced, ipcontrol, ipgroup_id, position)
 
 #define ZERO(column) \
-    { #column, routerdb::Kind::zero, routerdb::When::always, 0, 0, 0, routerdb::by_name }
+    { #column, routerdb::Kind::zero, routerdb::When::always, routerdb::by_name, 0, 0, 0 }

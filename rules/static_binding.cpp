@@ -12,7 +12,7 @@ namespace {
 
 /// A column that no two rows share.
 struct Address {
-    std::string_view column;
+    const char *column;
     std::string_view value;
     int clash;
 };
@@ -28,7 +28,7 @@ int number_in(const Reply &reply) {
 }
 
 /// "select count(*) from dhcpserverstaticbind where ip='192.168.1.2';", sent as a scalar query.
-int ask(std::string_view what, const RuleTable &table, const Address &address) {
+int ask(const char *what, const RuleTable &table, const Address &address) {
     SqlText statement;
     statement.append("select ").append(what).append(" from ").append(table.name);
     statement.append(" where ").append(address.column).append("=").append_quoted(address.value).append(";");

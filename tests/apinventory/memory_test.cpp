@@ -32,7 +32,7 @@ TEST(Memory, without_room_for_the_statement_a_registration_does_nothing_and_says
     const DevInfo device = sample_device();
     const Recorder recorder;
     WrappedCalls calls;
-    calls.fail("realloc", 1, ENOMEM);
+    calls.fail("malloc", 1, ENOMEM);
     EXPECT_EQ(DB_addinfo(device), -1);
     EXPECT_TRUE(calls.failed());
     EXPECT_EQ(recorder.calls(), Lines{"syslog 3 not have enough mem"});
@@ -42,7 +42,7 @@ TEST(Memory, without_room_for_the_statement_saving_does_nothing_and_says_so) {
     const DevInfo device = sample_device();
     const Recorder recorder;
     WrappedCalls calls;
-    calls.fail("realloc", 1, ENOMEM);
+    calls.fail("malloc", 1, ENOMEM);
     DB_saveinfo(&device);
     EXPECT_TRUE(calls.failed());
     EXPECT_EQ(recorder.calls(), Lines{"syslog 3 not have enough mem"});
@@ -55,7 +55,7 @@ TEST(Memory, without_room_for_a_long_insertion_a_registration_ends_without_event
     Recorder recorder;
     recorder.keep_commands_from_running();
     WrappedCalls calls;
-    calls.fail("realloc", 2, ENOMEM);
+    calls.fail("malloc", 2, ENOMEM);
     EXPECT_EQ(DB_addinfo(device), -1);
     EXPECT_TRUE(calls.failed());
     EXPECT_EQ(recorder.calls({"sqlite3_exec insert", "sqlite3_exec update", "system"}), Lines());
@@ -84,7 +84,7 @@ TEST(Memory, without_room_for_a_long_text_nothing_is_executed) {
     const Recorder recorder;
     const auto without_memory = [](const auto &action) {
         WrappedCalls calls;
-        calls.fail("realloc", 1, ENOMEM);
+        calls.fail("malloc", 1, ENOMEM);
         action();
         EXPECT_TRUE(calls.failed());
     };

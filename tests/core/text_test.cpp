@@ -91,7 +91,7 @@ TEST(Text, is_never_cut) {
 TEST(Text, remembers_that_memory_ran_out) {
     for (int n = 1; n <= 5; ++n) {
         WrappedCalls calls;
-        calls.fail("realloc", n, ENOMEM);
+        calls.fail(n == 1 ? "malloc" : "realloc", n == 1 ? 1 : n - 1, ENOMEM);
         SmallText text;
         for (int i = 0; i < 50; ++i) {
             text.append("0123456789");
@@ -105,7 +105,7 @@ TEST(Text, remembers_that_memory_ran_out) {
 
 TEST(Text, takes_nothing_more_once_memory_ran_out) {
     WrappedCalls calls;
-    calls.fail("realloc", 1, ENOMEM);
+    calls.fail("malloc", 1, ENOMEM);
     SmallText text;
     text.append("kept ").append("far too long for it").append("short");
     EXPECT_FALSE(text.complete());

@@ -23,7 +23,8 @@ struct Operation : support::Named {
     std::string before;  // the caller's buffer
     std::string when_failed;
     std::string when_done;
-    int calls;  // that can fail
+    int usual_calls;     // that can fail
+    int outgrown_texts;  // statements that take a block, before anything else does
 };
 
 /// A condition that outgrows the room that a statement has at first.
@@ -44,16 +45,16 @@ void add_operations(std::vector<Operation> &operations, const Table &table) {
     const std::string list = support::list_of(record, 1, table.list_size);
     const std::string reply = support::reply_of(record);
     constexpr int usual = 7;  // socket, connect, two sends, two receives, the block of the data
-    operations.push_back({table.name + " list", table.list, reply, odd_list, no_list, list, usual});
-    operations.push_back({table.name + " get", get, reply, odd_record, no_record, record, usual});
+    operations.push_back({table.name + " list", table.list, reply, odd_list, no_list, list, usual, 0});
+    operations.push_back({table.name + " get", get, reply, odd_record, no_record, record, usual, 0});
     const int room = table.long_statements ? 1 : 0;
-    const int add = usual * table.add_requests + room;
-    const int modify = usual * table.modify_requests + room;
-    operations.push_back({table.name + " add", table.add, reply, record, record, record, add});
-    operations.push_back({table.name + " modify", table.modify, reply, record, record, record, modify});
-    operations.push_back({table.name + " delete", remove, reply, "", "", "", usual});
+    const int add = usual * table.add_requests;
+    const int modify = usual * table.modify_requests;
+    operations.push_back({table.name + " add", table.add, reply, record, record, record, add, room});
+    operations.push_back({table.name + " modify", table.modify, reply, record, record, record, modify, room});
+    operations.push_back({table.name + " delete", remove, reply, "", "", "", usual, 0});
     if (table.remove) {
-        operations.push_back({table.name + " delete, long condition", remove_many, reply, "", "", "", usual + 1});
+        operations.push_back({table.name + " delete, long condition", remove_many, reply, "", "", "", usual, 1});
     }
 }
 
@@ -83,7 +84,7 @@ bool fails(const Operation &operation, const std::string &function, int n) {
     const std::size_t requests = service.requests().size();
     EXPECT_EQ(support::difference(failed ? operation.when_failed : operation.when_done, buffer), "");
     EXPECT_EQ(support::open_descriptors(), descriptors);
-    if (failed && function == "realloc") {
+    if (failed && function == "malloc" && n <= operation.outgrown_texts) {
         EXPECT_EQ(requests, 0U) << "a statement that is not complete was sent";
     }
     return failed;
@@ -93,12 +94,12 @@ class FailingCall : public testing::TestWithParam<Operation> {};
 
 TEST_P(FailingCall, leaves_nothing_behind_and_no_half_result) {
     int failures = 0;
-    for (const char *function : {"socket", "connect", "send", "recv", "malloc", "realloc"}) {
+    for (const char *function : {"socket", "connect", "send", "recv", "malloc"}) {
         for (int n = 1; fails(GetParam(), function, n); ++n) {
             ++failures;
         }
     }
-    EXPECT_EQ(failures, GetParam().calls);
+    EXPECT_EQ(failures, GetParam().usual_calls + GetParam().outgrown_texts);
 }
 
 INSTANTIATE_TEST_SUITE_P(, FailingCall, testing::ValuesIn(operations()));

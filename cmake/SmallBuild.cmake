@@ -1,0 +1,27 @@
+# What makes the release build small, each beyond -Os: `docs/footprint.md` holds the result.
+
+include(CheckCXXCompilerFlag)
+include(CheckIPOSupported)
+
+# Without exceptions nobody unwinds in the field; a debug build keeps what a debugger needs. Where unwind tables are
+# left out, 32-bit x86 would keep a frame pointer instead.
+set(small_compile_options -fno-asynchronous-unwind-tables -fomit-frame-pointer)
+
+# Tables of constants are not aligned beyond what their members need; functions that are called once stay functions,
+# because inside the caller they cost more registers than the call. Not every compiler has these.
+foreach(flag -malign-data=abi -fno-inline-functions-called-once)
+    string(MAKE_C_IDENTIFIER "has${flag}" has_flag)
+    check_cxx_compiler_flag("-Werror ${flag}" ${has_flag})
+    if(${has_flag})
+        list(APPEND small_compile_options ${flag})
+    endif()
+endforeach()
+
+# Code and constants share a segment: the pages between them would be half empty.
+set(small_link_options LINKER:-z,noseparate-code)
+
+target_compile_options(routerdb_objects PRIVATE "$<$<CONFIG:MinSizeRel>:${small_compile_options}>")
+
+# Calls inside the library pass their arguments in registers when the compiler sees all of them.
+check_ipo_supported(RESULT has_ipo LANGUAGES CXX)
+set_target_properties(routerdb_objects PROPERTIES INTERPROCEDURAL_OPTIMIZATION_MINSIZEREL ${has_ipo})
