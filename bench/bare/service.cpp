@@ -29,8 +29,8 @@ int connect_to_service() {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     std::strcpy(address.sun_path, paths::service_socket);
-    connect(fd, reinterpret_cast<const sockaddr *>(&address),
-            static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + std::strlen(paths::service_socket)));
+    (void)connect(fd, reinterpret_cast<const sockaddr *>(&address),
+                  static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + std::strlen(paths::service_socket)));
     return fd;
 }
 

@@ -23,6 +23,7 @@ namespace bench {
 
 /// The exported functions that are measured, by their names.
 struct Library {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a declaration takes none
 #define MEMBER(function) decltype(&::function) function;
     BENCH_LIBRARY_FUNCTIONS(MEMBER)
 #undef MEMBER

@@ -16,7 +16,7 @@ struct Places {
 extern Places places;
 
 /// The access point that single records are read from and written to.
-inline constexpr unsigned long known_device = 192UL + 168 * 256 + 65536 + 13 * 16777216;
+inline constexpr unsigned long known_device = 192UL + 168UL * 256 + 65536 + 13UL * 16777216;
 inline constexpr char known_device_sql[] = "select * from DevInfo where Dev_Sn='218212544';";
 static_assert(known_device == 218212544);
 

@@ -22,6 +22,7 @@ void must(bool succeeded, const std::vector<std::string> &command) {
 /// @param output  takes the place of standard output unless it is negative
 pid_t start(const std::vector<std::string> &command, int output) {
     std::vector<char *> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string &argument : command) {
         arguments.push_back(const_cast<char *>(argument.c_str()));
     }

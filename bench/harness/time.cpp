@@ -52,7 +52,7 @@ void take_turns(benchmark::State &state, const Profiles &profiles, const Operati
     std::vector<double> bare_times;
     measure(profiles, operation, variant);
     measure(profiles, operation, Variant::bare);
-    for (auto _ : state) {
+    for (auto _ : state) {  // NOLINT(clang-analyzer-deadcode.DeadStores): so it is to be written
         const bool bare_first = ratios.size() % 2 == 1;
         double bare = bare_first ? measure(profiles, operation, Variant::bare) : 0;
         const double own = measure(profiles, operation, variant);
