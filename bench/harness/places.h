@@ -1,0 +1,34 @@
+// Where operations find what they work on and leave what they read: the same memory for every variant.
+#pragma once
+
+#include "routerdb.h"
+
+namespace bench {
+
+struct Places {
+    DevInfo device;     // read by DB_getinfo, written by DB_UpdateInfo and DB_addinfo
+    ApDevList devices;  // each record from malloc
+    UrlFilterItemList url_filters;
+    BehaviorItemList behavior_rules;
+    SqlReply reply;  // its data from malloc
+};
+
+extern Places places;
+
+/// The access point that single records are read from and written to.
+inline constexpr unsigned long known_device = 192UL + 168 * 256 + 65536 + 13 * 16777216;
+inline constexpr char known_device_sql[] = "select * from DevInfo where Dev_Sn='218212544';";
+static_assert(known_device == 218212544);
+
+namespace paths {
+
+inline constexpr char main_database[] = "/etc/config/systemconf/database/myrouter.db";
+inline constexpr char catalogue_database[] = "/etc/config/systemconf/database/dpilib.db";
+inline constexpr char lock_file[] = "/var/databaselock";
+inline constexpr char text_leases[] = "/var/dhcp.leases";
+inline constexpr char dhcp_server_pid[] = "/var/run/dnsmasq/dnsmasq.pid";
+inline constexpr char service_socket[] = "/var/sqlserver_socket";
+
+}  // namespace paths
+
+}  // namespace bench

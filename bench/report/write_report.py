@@ -1,0 +1,108 @@
+#!/usr/bin/env python3
+"""Prints all results as a document.
+
+    write_report.py RESULTS
+"""
+
+import pathlib
+import sys
+
+import readings
+
+VARIANTS = ("exact", "modern", "bare", "SQLiteCpp", "SOCI", "program")
+COMPARED = ("bare", "exact", "modern", "SQLiteCpp")  # in the curves
+
+INTRODUCTION = """# Benchmark
+
+Written by `scripts/bench --write`; `bench/README.md` says what is measured and how.
+
+**exact** and **modern** are the library in its two profiles. **bare** is SQLite (or the socket) by hand, with the
+connections, statements, locks and copies of the exact profile. **SQLiteCpp**, **SOCI** and the **sqlite3 program** get
+the same results the way their users would write it, on one fresh connection for each operation and without the lock
+file. All of them were checked for equal results before.
+
+Instructions, processor time and system calls of *bare* are absolute, those of the others ratios to it.
+"""
+
+
+def table(head: list[str], rows: list[list[str]]) -> str:
+    lines = [head, ["---"] + ["--:"] * (len(head) - 1), *rows]
+    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
+
+
+def _ratio(value: float | None, base: float | None) -> str:
+    return f"{value / base:.2f}" if value is not None and base else ""
+
+
+def _large(count: float) -> str:
+    return f"{count / 1e6:.2f} million" if count >= 1e5 else f"{count:.0f}"
+
+
+def operations(results: pathlib.Path) -> str:
+    instructions = readings.instructions(results)
+    system_calls = readings.system_calls(results / "system-calls")
+    times = readings.times(results / "times.json")
+    rows = []
+    for operation in dict.fromkeys(key[0] for key in times):
+        base = (operation, "bare")
+        rows.append([f"**{operation}**", "bare", _large(instructions[base]),
+                     f"{times[operation, 'exact']['bare_microseconds']:.0f} µs", f"{system_calls[base]:.0f}"])
+        for variant in VARIANTS:
+            key = (operation, variant)
+            if key in times:
+                rows.append(["", variant, _ratio(instructions[key], instructions[base]), f"{times[key]['ratio']:.2f}",
+                             _ratio(system_calls[key], system_calls[base])])
+    return table(["Operation", "Variant", "Instructions", "Time", "System calls"], rows)
+
+
+def curves(results: pathlib.Path) -> str:
+    counted = {key: value for key, value in readings.instructions(results).items() if " @ " in key[0]}
+    titles = {title.split(" @ ")[0] for title, _ in counted}
+    rows = []
+    for operation in sorted(titles):
+        sizes = sorted({int(title.split(" @ ")[1]) for title, _ in counted if title.startswith(f"{operation} @ ")})
+        for size in sizes:
+            title = f"{operation} @ {size}"
+            counts = [f"{counted[title, variant] / 1e6:.2f}" for variant in COMPARED]
+            rows.append([operation if size == sizes[0] else "", str(size), *counts])
+    return table(["Operation", "Rows", *COMPARED], rows)
+
+
+def contention(results: pathlib.Path) -> str:
+    measured = [line.split() for line in (results / "contention").read_text().splitlines()]
+    rows = []
+    for processes in dict.fromkeys(line[1] for line in measured):
+        cells = {line[0]: line[2:] for line in measured if line[1] == processes}
+        rows.append([processes] + [cell for variant in ("exact", "modern", "busy_timeout") for cell in cells[variant]])
+    return table(["Processes", "exact, updates/s", "longest wait, ms", "modern, updates/s", "longest wait, ms",
+                  "busy timeout, updates/s", "longest wait, ms"], rows)
+
+
+def load(results: pathlib.Path) -> str:
+    rows = []
+    for line in (results / "load").read_text().splitlines():
+        profile, needed, relocations, dirty, clean = line.split()
+        rows.append([profile, needed.replace(",", ", "), relocations, f"{dirty} KB", f"{clean} KB"])
+    head = ["Profile", "Libraries needed", "Relocations", "Private memory, written", "and mapped by nobody else"]
+    return table(head, rows)
+
+
+def machine(results: pathlib.Path) -> str:
+    return "\n".join(f"- {line}" for line in (results / "machine").read_text().splitlines())
+
+
+def main() -> None:
+    results = pathlib.Path(sys.argv[1])
+    print(INTRODUCTION)
+    print(machine(results))
+    print(f"\n## Operations\n\n{operations(results)}")
+    print("\nTime is processor time, but for `GetUrlFilterItemList`, where it is what passes: there the SQL service, in the"
+          "\nprofile of the variant, works too.")
+    print(f"\n## Instructions by number of rows, in millions\n\n{curves(results)}")
+    print("\n## Processes that write at the same time\n\nThe library's writers queue for the lock file;"
+          f" *busy timeout* is SQLite by hand with\n`sqlite3_busy_timeout`.\n\n{contention(results)}")
+    print(f"\n## Loading the library\n\n{load(results)}")
+
+
+if __name__ == "__main__":
+    main()
