@@ -41,7 +41,8 @@ int DB_findinfo2(DevInfo dev, unsigned long *sn) {
 }
 
 int DB_findinfo(DevInfo dev, unsigned long *sn) {
-    return find_or_make_way(dev, *sn);
+    SharedConnection connection;
+    return find_or_make_way(dev, *sn, connection);
 }
 
 int DB_addinfo(DevInfo dev) {

@@ -2,7 +2,6 @@
 
 #include "apinventory/device_fields.h"
 #include "apinventory/numbers.h"
-#include "core/encoding.h"
 
 namespace routerdb {
 
@@ -26,7 +25,7 @@ void append_converted(Text &sql, std::string_view ssid, const Scope &scope) {
     copy_cut(ssid, in, sizeof(in));
     char out[ROUTERDB_CONVERSION_ROOM];
     // Deliberate: an SSID that cannot be converted is written empty.
-    if (convert_gb2312_to_utf8(in, ssid.size(), out, sizeof(out)) == 0) {
+    if (convert(*scope.converter, in, ssid.size(), out, sizeof(out)) == 0) {
         append_text(sql, out, scope);
     }
 }
@@ -72,16 +71,17 @@ void append_fragment(Text &sql, const char *column, Content content, const Scope
 }
 
 Scope scope_of(const DevInfo &record, const char *prefix, bool doubles_quotes) {
-    return {&record, prefix, 0, "", doubles_quotes};
+    return {&record, prefix, 0, "", doubles_quotes, nullptr};
 }
 
-Scope scope_of_wlan(const DevInfo &record, const char *prefix, unsigned number, bool doubles_quotes) {
-    return {&record.wlan[number], prefix, number + 1, "", doubles_quotes};
+Scope scope_of_wlan(const DevInfo &record, const char *prefix, unsigned number, bool doubles_quotes,
+                    Gb2312ToUtf8 *converter) {
+    return {&record.wlan[number], prefix, number + 1, "", doubles_quotes, converter};
 }
 
 Scope scope_of_radio(const DevInfo &record, const char *prefix, bool second, bool doubles_quotes) {
     const char *base = reinterpret_cast<const char *>(&record);
-    return {second ? base + second_radio : base, prefix, 0, second ? "_sec" : "", doubles_quotes};
+    return {second ? base + second_radio : base, prefix, 0, second ? "_sec" : "", doubles_quotes, nullptr};
 }
 
 }  // namespace routerdb

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "core/encoding.h"
 #include "core/text.h"
 #include "routerdb.h"
 
@@ -49,6 +50,7 @@ struct Scope {
     unsigned wlan;  // number of the network, from 1; 0 for none
     const char *suffix;
     bool doubles_quotes;
+    Gb2312ToUtf8 *converter;  // of the record; null where nothing is converted
 };
 
 void append_fragment(Text &sql, const char *column, Content content, const Scope &scope);
@@ -69,9 +71,11 @@ void append_fragments(Text &sql, const Fragment<room> (&fragments)[count], const
 /// @param prefix  "WlanGroup_", or nothing in `DevInfo`
 Scope scope_of(const DevInfo &record, const char *prefix, bool doubles_quotes);
 
-/// The same for network `number`, from 0, and for the first and the second radio.
+/// The same for network `number`, from 0, with a converter where SSIDs are converted, and for the first and the second
+/// radio.
 /// @param prefix  "Dev_Wlan" or "WlanGroup_Wlan", with "_" for a radio
-Scope scope_of_wlan(const DevInfo &record, const char *prefix, unsigned number, bool doubles_quotes);
+Scope scope_of_wlan(const DevInfo &record, const char *prefix, unsigned number, bool doubles_quotes,
+                    Gb2312ToUtf8 *converter);
 Scope scope_of_radio(const DevInfo &record, const char *prefix, bool second, bool doubles_quotes);
 
 }  // namespace routerdb

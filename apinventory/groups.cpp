@@ -41,13 +41,14 @@ int read_wlan_group(DevInfo &record, int id) {
 }
 
 int read_default_zero_config(DevInfo &record) {
-    if (count_rows("WlanZeroCfgGroupInfo") == 0) {
+    SharedConnection connection;
+    if (count_rows("WlanZeroCfgGroupInfo", &connection) == 0) {
         return 0;
     }
     record = {};
     StackText<80> sql;
     sql.append("select * from WlanZerocfgGroupInfo where WlanGroup_Id='1';");  // spelled so here; SQLite does not mind
-    Reading reading(group);
+    Reading reading(group, &connection);
     if (!reading.open()) {
         return reading.printed();
     }

@@ -13,8 +13,10 @@ namespace routerdb {
 namespace {
 
 using profiles::parts::free_printing_random;
+using profiles::parts::free_silent;
 
 constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
+constexpr ReadProfile silent{free_silent, no_message};
 
 enum class From : std::uint8_t { text, serial_number, stations, no_group_name };
 
@@ -70,17 +72,40 @@ struct Totals {
     int stations;
 };
 
-int read_number(const char *sql) {
-    return query(profiles::sql_int_count_route, sql);
+int read_number(SharedConnection &connection, const char *sql) {
+    return query(profiles::sql_int_count_route, sql, {nullptr}, &connection);
 }
 
-Totals read_totals() {
-    Totals totals{};
-    totals.devices = read_number("select count(*) from DevInfo where Dev_Ipaddress <> '';");
-    totals.online = count_online();
+void read_each(Totals &totals, SharedConnection &connection) {
+    totals.devices = read_number(connection, "select count(*) from DevInfo where Dev_Ipaddress <> '';");
+    totals.online = count_online(&connection);
     if (totals.devices > 0) {
-        totals.stations = read_number("select sum(Dev_Wlan_Sta_Num) from DevInfo ;") +
-                          read_number("select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
+        totals.stations = read_number(connection, "select sum(Dev_Wlan_Sta_Num) from DevInfo ;") +
+                          read_number(connection, "select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
+    }
+}
+
+/// Reads all of them by one statement that says nothing when it fails.
+/// @return whether they are what the statements one by one would give
+bool read_at_once(Totals &totals, SharedConnection &connection) {
+    Reading reading(silent, &connection);
+    if (!reading.open() ||
+        !reading.prepare("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
+                         "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") ||
+        !reading.first_row()) {
+        return false;
+    }
+    const Row row = reading.row();
+    totals.devices = row.number(0);
+    totals.online = row.number(1);
+    totals.stations = totals.devices > 0 ? row.number(2) + row.number(3) : 0;
+    return true;
+}
+
+Totals read_totals(SharedConnection &connection) {
+    Totals totals{};
+    if (!build_profile.merges_totals || !read_at_once(totals, connection)) {
+        read_each(totals, connection);
     }
     return totals;
 }
@@ -146,10 +171,11 @@ void print_rows(Reading &reading, Totals totals) {
 }  // namespace
 
 void print_page(const PageRequest &request) {
-    Totals totals = read_totals();
+    SharedConnection connection;
+    Totals totals = read_totals(connection);
     SqlText count;
     append_count(count, request);
-    const int rows = query(profiles::sql_int_count_route, count, {nullptr});
+    const int rows = query(profiles::sql_int_count_route, count, {nullptr}, &connection);
     totals.pages = pages_for(rows, request);
     const int last = totals.pages < request.page ? totals.pages : request.page;
     totals.page = last == 0 ? 1 : last;
@@ -163,7 +189,7 @@ void print_page(const PageRequest &request) {
     json::open_list();
     SqlText sql;
     append_page(sql, request);
-    Reading reading(page);
+    Reading reading(page, &connection);
     if (sql.complete() && reading.open() && reading.prepare(sql.c_str())) {
         print_rows(reading, totals);
     }

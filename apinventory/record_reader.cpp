@@ -18,15 +18,16 @@ void read_fields(const Row &row, const DeviceField (&fields)[count], DevInfo &re
 }
 
 /// Replaces the text by its conversion; one that cannot be converted stays.
-void convert_ssid(char (&ssid)[sizeof(DevWlanEntry::Ssid)]) {
+void convert_ssid(Utf8ToGb2312 &converter, char (&ssid)[sizeof(DevWlanEntry::Ssid)]) {
     char converted[ROUTERDB_CONVERSION_ROOM];
     // The terminator is converted too, so that nothing has to be cleared first.
-    if (convert_utf8_to_gb2312(ssid, std::strlen(ssid) + 1, converted, 0) == 0) {
+    if (convert(converter, ssid, std::strlen(ssid) + 1, converted, 0) == 0) {
         copy_cut(converted, ssid, sizeof(ssid));
     }
 }
 
 void read_wlans(const Row &row, const Layout &layout, std::uint8_t WlanField::*position, Ssids ssids, DevInfo &record) {
+    Utf8ToGb2312 converter;
     for (unsigned number = 0; number < ROUTERDB_WLANS; ++number) {
         DevWlanEntry &wlan = record.wlan[number];
         for (const WlanField &field : wlan_fields) {
@@ -36,7 +37,7 @@ void read_wlans(const Row &row, const Layout &layout, std::uint8_t WlanField::*p
             }
         }
         if (ssids == Ssids::in_gb2312 && !leads_its_radio(number)) {
-            convert_ssid(wlan.Ssid);
+            convert_ssid(converter, wlan.Ssid);
         }
     }
 }

@@ -27,11 +27,11 @@ struct RowCount {
     unsigned int count;
 };
 
-RowCount count_rows(const Text &sql) {
+RowCount count_rows(const Text &sql, SharedConnection &connection) {
     RowCount found{false, 0};
     Destination destination;
     destination.counter = &found.count;
-    found.succeeded = query(profiles::exec_char_int, sql, destination) == 0;
+    found.succeeded = query(profiles::exec_char_int, sql, destination, &connection) == 0;
     return found;
 }
 
@@ -43,11 +43,11 @@ void append_mac_lookup(Text &sql, const DevInfo &device) {
     sql.append("select Dev_Sn  from DevInfo where Dev_MAC='").append_escaped(field_text(device.Dev_MAC)).append("';");
 }
 
-void read_sn_by_mac(const DevInfo &device, unsigned long &sn) {
+void read_sn_by_mac(const DevInfo &device, unsigned long &sn, SharedConnection &connection) {
     Sql mac;
     mac.append_escaped(field_text(device.Dev_MAC));
     if (mac.complete()) {
-        read_sn(LookupKey::mac, mac.c_str(), sn);
+        read_sn(LookupKey::mac, mac.c_str(), sn, &connection);
     }
 }
 
@@ -58,13 +58,13 @@ bool has_mac(const DevInfo &device) {
 }
 
 /// Deletes the row that has the serial number of a new access point: its device had the IP address before.
-void make_way(const DevInfo &device, unsigned long sn) {
+void make_way(const DevInfo &device, unsigned long sn, SharedConnection &connection) {
     if (!has_mac(device) || field_text(device.Dev_Ipaddress).empty()) {
         return;
     }
     Sql lookup;
     lookup.append("select *  from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
-    const RowCount found = count_rows(lookup);
+    const RowCount found = count_rows(lookup, connection);
     if (found.succeeded && found.count != 0) {
         Sql removal;
         removal.append("delete from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
@@ -99,6 +99,7 @@ bool take_memory(Text &sql) {
 }  // namespace
 
 int find_known(const DevInfo &device, unsigned long &sn) {
+    SharedConnection connection;
     if (field_text(device.Dev_MAC).empty()) {
         return lookup_failed;
     }
@@ -106,7 +107,7 @@ int find_known(const DevInfo &device, unsigned long &sn) {
     append_mac_lookup(lookup, device);
     RowCount found{false, 0};
     for (int attempt = 0; attempt < attempts && found.count == 0; ++attempt) {
-        found = count_rows(lookup);
+        found = count_rows(lookup, connection);
         if (found.count == 0) {
             usleep(between_attempts);
         }
@@ -114,28 +115,28 @@ int find_known(const DevInfo &device, unsigned long &sn) {
     if (found.count == 0 || !found.succeeded) {
         return is_new;
     }
-    read_sn_by_mac(device, sn);
+    read_sn_by_mac(device, sn, connection);
     return is_known;
 }
 
-int find_or_make_way(const DevInfo &device, unsigned long &sn) {
+int find_or_make_way(const DevInfo &device, unsigned long &sn, SharedConnection &connection) {
     Sql lookup;
     append_mac_lookup(lookup, device);
     for (int attempt = 1;; ++attempt) {
         sn = address_in_network_order(field_text(device.Dev_Ipaddress));
-        const RowCount found = count_rows(lookup);
+        const RowCount found = count_rows(lookup, connection);
         if (found.count != 0) {
             if (!found.succeeded) {
                 return lookup_failed;
             }
-            read_sn_by_mac(device, sn);
+            read_sn_by_mac(device, sn, connection);
             return is_known;
         }
         if (attempt == attempts) {
             if (!found.succeeded) {
                 return lookup_failed;
             }
-            make_way(device, sn);
+            make_way(device, sn, connection);
             return is_new;
         }
         usleep(between_attempts);
@@ -148,8 +149,9 @@ int register_device(const DevInfo &device) {
         return -1;
     }
     unsigned long sn = 0;
-    const int lookup = find_or_make_way(device, sn);
-    const int count = routerdb::count_rows("DevInfo");
+    SharedConnection connection;
+    const int lookup = find_or_make_way(device, sn, connection);
+    const int count = routerdb::count_rows("DevInfo", &connection);
     if (lookup == lookup_failed || count < 0) {
         return -1;
     }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "core/shared_connection.h"
 #include "routerdb.h"
 
 namespace routerdb {
@@ -15,8 +16,9 @@ enum : int { lookup_failed = -1, is_new = 0, is_known = 1 };
 int find_known(const DevInfo &device, unsigned long &sn);
 
 /// Looks an access point up and, if it is new, removes the row of another device that had its IP address before.
-/// @param sn  receives its serial number, be it known or new
-int find_or_make_way(const DevInfo &device, unsigned long &sn);
+/// @param sn          receives its serial number, be it known or new
+/// @param connection  of the call that the lookup is part of
+int find_or_make_way(const DevInfo &device, unsigned long &sn, SharedConnection &connection);
 
 /// Registers an access point.
 /// @return its serial number as an int, or -1

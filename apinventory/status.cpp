@@ -56,7 +56,7 @@ void read_mac(unsigned long sn, char *out) {
     read_text(sql, out);
 }
 
-void read_sn(LookupKey key, const char *value, unsigned long &sn) {
+void read_sn(LookupKey key, const char *value, unsigned long &sn, SharedConnection *shared) {
     Sql sql;
     sql.append("select Dev_Sn from  DevInfo where ")
         .append(column_of(key))
@@ -65,7 +65,7 @@ void read_sn(LookupKey key, const char *value, unsigned long &sn) {
         .append(";");
     Destination destination;
     destination.number = &sn;
-    [[maybe_unused]] const int result = query(profiles::exec_char_long, sql, destination);
+    [[maybe_unused]] const int result = query(profiles::exec_char_long, sql, destination, shared);
 }
 
 void set_upgrade_status(const char *mac, const char *status) {
@@ -78,17 +78,18 @@ void set_upgrade_status(const char *mac, const char *status) {
     notify(Event::modified, sn);
 }
 
-int count_rows(const char *table) {
+int count_rows(const char *table, SharedConnection *shared) {
     Sql sql;
     sql.append("select *  from ").append(table).append(";");
     unsigned int count = 0;
     Destination destination;
     destination.counter = &count;
-    return query(profiles::exec_char_int, sql, destination) == 0 ? static_cast<int>(count) : 0;
+    return query(profiles::exec_char_int, sql, destination, shared) == 0 ? static_cast<int>(count) : 0;
 }
 
-int count_online() {
-    return query(profiles::sql_int_count_route, "select count(*) from DevInfo  where Dev_Status='1';");
+int count_online(SharedConnection *shared) {
+    return query(profiles::sql_int_count_route, "select count(*) from DevInfo  where Dev_Status='1';", {nullptr},
+                 shared);
 }
 
 }  // namespace routerdb

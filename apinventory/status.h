@@ -1,7 +1,10 @@
-// Small statements on access points: status, identity, counts.
+// Small statements on access points: status, identity, counts. Those that read may be part of a call that shares its
+// connection.
 #pragma once
 
 #include <cstdint>
+
+#include "core/shared_connection.h"
 
 namespace routerdb {
 
@@ -18,15 +21,15 @@ void read_status(const char *column, const char *mac, char *out);
 void read_mac(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point; untouched without a row.
-void read_sn(LookupKey key, const char *value, unsigned long &sn);
+void read_sn(LookupKey key, const char *value, unsigned long &sn, SharedConnection *shared = nullptr);
 
 /// Sets the upgrade status and announces the change.
 void set_upgrade_status(const char *mac, const char *status);
 
 /// Rows of a table of the main database; 0 when they cannot be read.
-int count_rows(const char *table);
+int count_rows(const char *table, SharedConnection *shared = nullptr);
 
 /// Access points that are online.
-int count_online();
+int count_online(SharedConnection *shared = nullptr);
 
 }  // namespace routerdb

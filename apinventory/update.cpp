@@ -101,8 +101,10 @@ template <std::size_t wlan_rows, std::size_t radio_rows>
 void append_wireless(Text &sql, const WlanFragment (&wlan)[wlan_rows], const RadioFragment (&radio)[radio_rows],
                      const DevInfo &device) {
     const int in_use = wlans_in_use(device);
+    Gb2312ToUtf8 converter;
     for (int number = 0; number < in_use && number < ROUTERDB_WLANS; ++number) {
-        append_fragments(sql, wlan, scope_of_wlan(device, "Dev_Wlan", static_cast<unsigned>(number), doubled));
+        append_fragments(sql, wlan,
+                         scope_of_wlan(device, "Dev_Wlan", static_cast<unsigned>(number), doubled, &converter));
     }
     append_fragments(sql, radio, scope_of_radio(device, "Dev_Wlan_", false, doubled));
     append_fragments(sql, radio, scope_of_radio(device, "Dev_Wlan_", true, doubled));

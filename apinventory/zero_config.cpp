@@ -69,12 +69,12 @@ void fill_wlan(unsigned number, DevWlanEntry &wlan) {
 }
 
 /// The first column of the first row, read under the lock file.
-int first_number(const char *sql) {
-    return query(profiles::sql_int_first_number, sql);
+int first_number(SharedConnection &connection, const char *sql) {
+    return query(profiles::sql_int_first_number, sql, {nullptr}, &connection);
 }
 
-int next_group(int first) {
-    return first == 0 ? 1 : first_number("select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;") + 1;
+int next_group(SharedConnection &connection, int first) {
+    return first == 0 ? 1 : first_number(connection, "select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;") + 1;
 }
 
 void run(const Text &sql) {
@@ -95,7 +95,7 @@ void append_update(Text &sql, const DevInfo &group, int id) {
     sql.append("update WlanZeroCfgGroupInfo set ");
     append_fragment(sql, saved_name, whole);
     for (unsigned number = 0; number < ROUTERDB_WLANS; ++number) {
-        append_fragments(sql, settings_of_wlan, scope_of_wlan(group, "WlanGroup_Wlan", number, as_given));
+        append_fragments(sql, settings_of_wlan, scope_of_wlan(group, "WlanGroup_Wlan", number, as_given, nullptr));
     }
     append_fragments(sql, saved_radio_head, first);
     append_fragments(sql, saved_radius, whole);
@@ -110,12 +110,13 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 
 }  // namespace
 
-int first_group_number() {
-    return first_number("select * from WlanZeroCfgGroupInfo;");
+int first_group_number(SharedConnection &connection) {
+    return first_number(connection, "select * from WlanZeroCfgGroupInfo;");
 }
 
 void fill_with_defaults(DevInfo &group) {
-    const int number = next_group(first_group_number());
+    SharedConnection connection;
+    const int number = next_group(connection, first_group_number(connection));
     std::snprintf(group.wlan_group_name, sizeof(group.wlan_group_name), "ZeroCfgGROUP_NAME%d", number);
     fill(default_device, &group);
     for (unsigned wlan = 0; wlan < ROUTERDB_WLANS; ++wlan) {
@@ -136,9 +137,10 @@ int read_or_start_zero_config(DevInfo &group, const char *id_text) {
 }
 
 int save_zero_config(const DevInfo &group, int id) {
-    const int first = first_group_number();  // asked also when it is not needed
+    SharedConnection connection;
+    const int first = first_group_number(connection);  // asked also when it is not needed
     if (id == 0) {
-        id = next_group(first);
+        id = next_group(connection, first);
         insert_group(group, id);
     }
     StackText<16384> sql;

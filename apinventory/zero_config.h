@@ -1,13 +1,14 @@
 // Zero-configuration groups: new ones, and writing them.
 #pragma once
 
+#include "core/shared_connection.h"
 #include "routerdb.h"
 
 namespace routerdb {
 
 /// The number of the first group, read under the lock file: 0 without one, or when it is 0; -1 when it cannot be read.
 /// Whether there are groups is told by it.
-int first_group_number();
+int first_group_number(SharedConnection &connection);
 
 /// Fills a cleared record with the defaults of a new group and the name of the next number.
 void fill_with_defaults(DevInfo &group);

@@ -76,7 +76,8 @@ void print_rows(Reading &reading) {
 }  // namespace
 
 int print_zero_config_groups() {
-    const int first = first_group_number();
+    SharedConnection connection;
+    const int first = first_group_number(connection);
     json::open_object("WlanGroupList");
     // Deliberate: a first group with the number 0 hides all of them.
     if (first < 1) {
@@ -84,7 +85,7 @@ int print_zero_config_groups() {
         return 0;
     }
     json::open_list();
-    Reading reading(groups);
+    Reading reading(groups, &connection);
     if (!reading.open()) {
         return reading.printed();
     }

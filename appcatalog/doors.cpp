@@ -8,15 +8,15 @@
 using namespace routerdb;
 
 void GetAppinfosByClassId(int classId, char *out, sqlite3 *db) {
-    join_names("Name", classId, out, db);
+    join_names(Joined::names, classId, out, db);
 }
 
 void GetAppinfosEnByClassId(int classId, char *out, sqlite3 *db) {
-    join_names("Name_En", classId, out, db);
+    join_names(Joined::names_en, classId, out, db);
 }
 
 void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db) {
-    join_names("Features", classId, out, db);
+    join_names(Joined::features, classId, out, db);
 }
 
 int GetAppClassItemList() {

@@ -25,25 +25,25 @@ constexpr ReadProfile catalogue{
 // clang-format on
 
 /// The joined names of one class.
-using Joined = char[3][ROUTERDB_JOINED_NAMES];
+using JoinedNames = char[joined_columns][ROUTERDB_JOINED_NAMES];
 
 int index_in_joined(From from) {
     return static_cast<int>(from) - static_cast<int>(From::names);
 }
 
 /// Joins the names that the keys ask for. It is done before the element is begun, so that a message stands in front.
-void join(const ListSpec &spec, const Reading &reading, Joined &joined) {
-    constexpr char columns[][9] = {"Name", "Name_En", "Features"};
+void join(const ListSpec &spec, int class_id, NameJoiner &joiner, JoinedNames &joined) {
     for (unsigned key = 0; key < spec.key_count; ++key) {
         const int index = index_in_joined(spec.keys[key].from);
         if (index >= 0) {
             joined[index][0] = '\0';
-            join_names(columns[index], reading.row().number(0), joined[index], reading.db());
+            joiner.join(static_cast<Joined>(index), class_id, joined[index]);
         }
     }
 }
 
-void print_member(json::Element &element, const Key &key, const Row &row, const char *argument, const Joined &joined) {
+void print_member(json::Element &element, const Key &key, const Row &row, const char *argument,
+                  const JoinedNames &joined) {
     switch (key.from) {
         case From::text:
             return element.print(key.name, catalogue_text(row, key.column));
@@ -62,10 +62,11 @@ void print_member(json::Element &element, const Key &key, const Row &row, const 
 
 /// Prints the elements and closes the list.
 void print_rows(const ListSpec &spec, Reading &reading, const char *argument, int table_count) {
-    Joined joined;
+    JoinedNames joined;
+    NameJoiner joiner(reading.db());
     int count = 0;
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
-        join(spec, reading, joined);
+        join(spec, reading.row().number(0), joiner, joined);
         json::Element element;
         for (unsigned index = 0; index < spec.key_count; ++index) {
             print_member(element, spec.keys[index], reading.row(), argument, joined);
@@ -81,10 +82,10 @@ void print_rows(const ListSpec &spec, Reading &reading, const char *argument, in
     json::close_object();
 }
 
-void read_rows(const ListSpec &spec, const char *argument, int table_count) {
+void read_rows(const ListSpec &spec, const char *argument, int table_count, SharedConnection &connection) {
     SqlText sql;
     sql.append(spec.row_query).append(argument).append(spec.query_tail);
-    Reading reading(catalogue);
+    Reading reading(catalogue, &connection);
     if (!reading.open()) {
         close(reading.code());  // Deliberate: callers have come to expect it, as they do the close below.
         return;
@@ -102,14 +103,15 @@ void print_list(const ListSpec &spec, const char *argument) {
     if (spec.count_by_class) {
         sql.append(argument).append(spec.query_tail);
     }
-    const int count = query(profiles::sqlite_sql_int, sql, {nullptr});
+    SharedConnection connection;
+    const int count = query(profiles::sqlite_sql_int, sql, {nullptr}, &connection);
     json::open_object("ItemList");
     if (count < 1) {
         json::print_no_list();
         return;
     }
     json::open_list();
-    read_rows(spec, argument, count);
+    read_rows(spec, argument, count, connection);
 }
 
 }  // namespace

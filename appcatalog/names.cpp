@@ -23,12 +23,14 @@ bool append_name(char *out, std::size_t &length, std::string_view name) {
     return true;
 }
 
+constexpr char column_names[][9] = {"Name", "Name_En", "Features"};  // in the order of Joined
+
 }  // namespace
 
-void join_names(const char *column, int class_id, char *out, sqlite3 *db) {
+void join_names(Joined column, int class_id, char *out, sqlite3 *db) {
     StackText<80> sql;
-    sql.append("select ").append(column).append(" from App_Info where Class_Id=").append_quoted(long{class_id});
-    sql.append(";");
+    sql.append("select ").append(column_names[static_cast<unsigned>(column)]);
+    sql.append(" from App_Info where Class_Id=").append_quoted(long{class_id}).append(";");
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
     const int code = statement.prepare(db, sql.c_str(), backoff);
@@ -42,6 +44,61 @@ void join_names(const char *column, int class_id, char *out, sqlite3 *db) {
     while (more) {
         more = append_name(out, length, catalogue_text(statement.row(), 0)) && statement.next_row();
     }
+}
+
+void NameJoiner::join(Joined column, int class_id, char *out) {
+    if (state_ == State::not_read) {
+        state_ = read_applications() ? State::known : State::not_knowable;
+    }
+    if (state_ == State::not_knowable) {
+        return join_names(column, class_id, out, db_);
+    }
+    out[0] = '\0';
+    std::size_t length = 0;
+    // Ends at the first name that does not fit.
+    applications_.find([&](const Application &application) {
+        return application.class_id == class_id &&
+               !append_name(out, length, application.texts[static_cast<unsigned>(column)]);
+    });
+}
+
+/// @return whether all of them are there, their classes as numbers: others compare in ways of their own
+bool NameJoiner::read_applications() {
+    if (!applications_.enabled) {
+        return false;
+    }
+    Backoff backoff(FirstDelay::microseconds_50);
+    Statement statement;
+    if (statement.prepare(db_, "select Class_Id,Name,Name_En,Features from App_Info;", backoff) != SQLITE_OK) {
+        return false;
+    }
+    for (bool more = statement.first_row(backoff); more; more = statement.next_row()) {
+        if (!remember(statement.row())) {
+            return false;
+        }
+    }
+    return statement.ended_well();
+}
+
+bool NameJoiner::remember(const Row &row) {
+    std::string_view texts[joined_columns];
+    std::size_t size = 0;
+    for (unsigned index = 0; index < joined_columns; ++index) {
+        texts[index] = catalogue_text(row, 1 + static_cast<int>(index));
+        size += texts[index].size() + 1;
+    }
+    Application *const entry = row.is_int(0) ? applications_.add(size) : nullptr;
+    if (entry == nullptr) {
+        return false;
+    }
+    entry->class_id = row.number(0);
+    char *place = reinterpret_cast<char *>(entry + 1);
+    for (unsigned index = 0; index < joined_columns; ++index) {
+        copy_cut(texts[index], place, texts[index].size() + 1);
+        entry->texts[index] = place;
+        place += texts[index].size() + 1;
+    }
+    return true;
 }
 
 }  // namespace routerdb

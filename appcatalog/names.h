@@ -3,11 +3,44 @@
 
 #include <sqlite3.h>
 
+#include <cstdint>
+
+#include "core/remembered.h"
+#include "core/row.h"
+
 namespace routerdb {
 
+/// The columns that are joined.
+enum class Joined : std::uint8_t { names, names_en, features };
+inline constexpr unsigned joined_columns = 3;
+
 /// Joins a column of the applications of a class, each value with a "/" behind it.
-/// @param column  "Name", "Name_En" or "Features"
-/// @param out     ROUTERDB_JOINED_NAMES bytes; untouched when the query cannot be prepared
-void join_names(const char *column, int class_id, char *out, sqlite3 *db);
+/// @param out  ROUTERDB_JOINED_NAMES bytes; untouched when the query cannot be prepared
+void join_names(Joined column, int class_id, char *out, sqlite3 *db);
+
+/// Joins for one list, whose open statement pins what the applications are: where the build profile remembers lookups,
+/// they are read once for all classes.
+class NameJoiner {
+public:
+    explicit NameJoiner(sqlite3 *db) : db_(db) {}
+
+    /// As above.
+    void join(Joined column, int class_id, char *out);
+
+private:
+    /// The texts lie behind the entry.
+    struct Application {
+        int class_id;
+        const char *texts[joined_columns];
+    };
+    enum class State : std::uint8_t { not_read, known, not_knowable };
+
+    bool read_applications();
+    bool remember(const Row &row);
+
+    sqlite3 *db_;
+    State state_ = State::not_read;
+    Remembered<Application> applications_;
+};
 
 }  // namespace routerdb

@@ -51,6 +51,7 @@ add_library(
     dhcp/lease_file.cpp
     dhcp/lease_list.cpp
     rules/behavior_names.cpp
+    rules/catalogue.cpp
     rules/catalogue_names.cpp
     rules/client_ops.cpp
     rules/columns.cpp

@@ -43,11 +43,25 @@ bool Access::take_guard() {
     return true;
 }
 
+int Access::prepare(Statement &statement, const char *sql) {
+    const int code = statement.prepare(db(), sql, backoff_);
+    if (code == SQLITE_OK || !lent_) {
+        return code;
+    }
+    connection_.close();  // what failed on the connection of earlier readings is tried on one of its own
+    return open_database() ? statement.prepare(db(), sql, backoff_) : code_;
+}
+
 bool Access::open_database() {
+    lent_ = shared_ != nullptr && !lent_ && shared_->lend(connection_);
+    if (lent_) {
+        return true;
+    }
     code_ = connection_.open(profile_.database, backoff_);
     if (code_ == SQLITE_OK) {
         return true;
     }
+    shared_ = nullptr;  // what could not be opened is nothing to share
     printed_ = report(profile_.open_failure, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.

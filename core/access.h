@@ -8,6 +8,8 @@
 #include "core/connection.h"
 #include "core/lock_file.h"
 #include "core/report.h"
+#include "core/shared_connection.h"
+#include "core/statement.h"
 
 namespace routerdb {
 
@@ -47,15 +49,24 @@ private:
 
 class Access {
 public:
-    explicit Access(const AccessProfile &profile) : profile_(profile) {}
+    /// @param shared  the connection of the call that this access is part of; null for one of its own
+    explicit Access(const AccessProfile &profile, SharedConnection *shared = nullptr)
+        : profile_(profile), shared_(shared) {}
+    Access(const Access &) = delete;
+    Access &operator=(const Access &) = delete;
+    ~Access() { close_connection(); }
 
     /// Takes what the profile names and opens the database.
     /// @return false after the profile's message; the destructor releases what was taken
     [[nodiscard]] bool open();
 
+    /// Prepares a statement on the connection.
+    /// @return the result code of SQLite
+    [[nodiscard]] int prepare(Statement &statement, const char *sql);
+
     /// Close and release now instead of at the end of the scope, in this order.
     /// @return the result code of SQLite; what closing the lock file returned, 0 when it was not open
-    int close_connection() { return connection_.close(); }
+    int close_connection() { return shared_ != nullptr ? shared_->take_back(connection_) : connection_.close(); }
     int release_lock() { return lock_file_.release(); }
 
     /// What printing the message of a failed open() returned.
@@ -72,6 +83,8 @@ private:
     bool open_database();
 
     const AccessProfile &profile_;
+    SharedConnection *shared_;
+    bool lent_ = false;
     int printed_ = 0;
     int code_ = SQLITE_OK;
     Backoff backoff_;

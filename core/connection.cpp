@@ -16,6 +16,12 @@ int Connection::open(Database database, Backoff &backoff) {
     });
 }
 
+void Connection::adopt(Connection &other) {
+    close();
+    handle_ = other.handle_;
+    other.handle_ = nullptr;
+}
+
 int Connection::close() {
     if (handle_ == nullptr) {
         return SQLITE_OK;

@@ -30,6 +30,9 @@ public:
     /// @return the result code of SQLite; SQLITE_OK when nothing was open
     int close();
 
+    /// Takes over what another owner has, which is empty then.
+    void adopt(Connection &other);
+
     /// Gives the handle up without closing it.
     void abandon() { handle_ = nullptr; }
 

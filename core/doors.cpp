@@ -111,11 +111,13 @@ size_t generate_db_params(char *text, char *out, unsigned int size, int column) 
 }
 
 int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen) {
-    return convert_utf8_to_gb2312(in, inlen, out, outlen);
+    Utf8ToGb2312 converter;
+    return convert(converter, in, inlen, out, outlen);
 }
 
 int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen) {
-    return convert_gb2312_to_utf8(in, inlen, out, outlen);
+    Gb2312ToUtf8 converter;
+    return convert(converter, in, inlen, out, outlen);
 }
 
 int change_time_to_int(const char *hhmm) {

@@ -74,6 +74,8 @@ inline constexpr QueryProfile exec_char_char      {free_printing,         Rows::
 inline constexpr QueryProfile sql_int_count       {guarded,               Rows::summed_diagonal, exec_on_output,      -1, StandardInput::kept};
 /// GET_DB_SQL_INT
 inline constexpr QueryProfile sql_int             {guarded,               Rows::counted,         exec_on_output,      -1, StandardInput::kept};
+/// the same statement for nothing but that it can be prepared, which the list of access points goes by
+inline constexpr QueryProfile sql_int_unseen      {guarded,               Rows::unseen,          exec_on_output,      -1, StandardInput::kept};
 /// the same statement for its first number instead of its rows, which the zero-configuration groups go by
 inline constexpr QueryProfile sql_int_first_number{guarded,               Rows::first_number,    exec_on_output,      -1, StandardInput::kept};
 /// GET_DB_SQL_INT_COUNT_ROUTE

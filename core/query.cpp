@@ -60,6 +60,8 @@ bool Collector::take(const Row &row) {
         case Rows::first_text:
             std::strcpy(destination.text, row.text(0, "0"));  // the caller vouches for the room
             return false;
+        case Rows::unseen:
+            return true;
         case Rows::last_text:
             take_last_text(row);
             return true;
@@ -74,27 +76,15 @@ void Collector::take_last_text(const Row &row) const {
     }
 }
 
-}  // namespace
-
-int query(const QueryProfile &profile, const char *sql, Destination destination) {
-    const InputCloser input_closer(profile.standard_input);
-    Access access(profile.access);
-    if (!access.open()) {
-        return -1;
-    }
-    return query(profile, access.db(), access.backoff(), sql, destination);
-}
-
-int query(const QueryProfile &profile, const Text &sql, Destination destination) {
-    return sql.complete() ? query(profile, sql.c_str(), destination) : -1;
-}
-
-int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql, Destination destination) {
-    Statement statement;
-    const int code = statement.prepare(db, sql, backoff);
+/// Walks the rows of a statement that has been prepared with `code`.
+int deliver(const QueryProfile &profile, int code, Statement &statement, sqlite3 *db, Backoff &backoff,
+            Destination destination) {
     if (code != SQLITE_OK) {
         report(profile.prepare_failure, {nullptr, code, sqlite3_errmsg(db)});
         return profile.failed_prepare_result;
+    }
+    if (build_profile.skips_unseen_rows && profile.rows == Rows::unseen) {
+        return 0;
     }
     Collector collector{profile.rows, destination, 0, 0};
     bool more = statement.first_row(backoff);
@@ -103,6 +93,29 @@ int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char
         ++collector.index;
     }
     return collector.outcome;
+}
+
+}  // namespace
+
+int query(const QueryProfile &profile, const char *sql, Destination destination, SharedConnection *shared) {
+    const InputCloser input_closer(profile.standard_input);
+    Access access(profile.access, shared);
+    if (!access.open()) {
+        return -1;
+    }
+    Statement statement;
+    const int code = access.prepare(statement, sql);
+    return deliver(profile, code, statement, access.db(), access.backoff(), destination);
+}
+
+int query(const QueryProfile &profile, const Text &sql, Destination destination, SharedConnection *shared) {
+    return sql.complete() ? query(profile, sql.c_str(), destination, shared) : -1;
+}
+
+int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql, Destination destination) {
+    Statement statement;
+    const int code = statement.prepare(db, sql, backoff);
+    return deliver(profile, code, statement, db, backoff, destination);
 }
 
 }  // namespace routerdb

@@ -14,6 +14,7 @@ enum class Rows : std::uint8_t {
     last_diagonal,    // column k of the last row k
     first_number,     // the result is the first column of the first row
     first_text,       // that column as text, "0" for NULL
+    unseen,           // the result is 0: all that counts is that the text can be prepared
     last_text,        // the first column of every row, so that the last one stays; NULL leaves what was there
 };
 
@@ -36,13 +37,16 @@ union Destination {
 };
 
 /// Opens as the profile says, runs a query, closes.
+/// @param shared  the connection of the call that the query is part of; null for one of its own
 /// @return the number, for rows that give one; 0 for rows that go to the destination; the profile's result when the
 ///         text cannot be prepared; -1 when the database cannot be opened
-[[nodiscard]] int query(const QueryProfile &profile, const char *sql, Destination destination = {nullptr});
+[[nodiscard]] int query(const QueryProfile &profile, const char *sql, Destination destination = {nullptr},
+                        SharedConnection *shared = nullptr);
 
 /// The same with a text that was built. One that memory ran out for is not run.
 /// @return as above; -1 for a text that is not run
-[[nodiscard]] int query(const QueryProfile &profile, const Text &sql, Destination destination);
+[[nodiscard]] int query(const QueryProfile &profile, const Text &sql, Destination destination,
+                        SharedConnection *shared = nullptr);
 
 /// Runs a query on an open connection.
 /// @return as above

@@ -3,7 +3,7 @@
 namespace routerdb {
 
 bool Reading::prepare(const char *sql) {
-    const int code = statement_.prepare(access_.db(), sql, access_.backoff());
+    const int code = access_.prepare(statement_, sql);
     if (code != SQLITE_OK) {
         report(profile_.prepare_failure, {nullptr, code, sqlite3_errmsg(access_.db())});
     }

@@ -15,7 +15,9 @@ struct ReadProfile {
 /// Opens a database, walks the rows of one query, and closes in the order statement, connection, lock file.
 class Reading {
 public:
-    explicit Reading(const ReadProfile &profile) : profile_(profile), access_(profile.access) {}
+    /// @param shared  the connection of the call that the reading is part of; null for one of its own
+    explicit Reading(const ReadProfile &profile, SharedConnection *shared = nullptr)
+        : profile_(profile), access_(profile.access, shared) {}
 
     /// Takes what the profile names and opens the database.
     /// @return false after the profile's message
@@ -35,6 +37,9 @@ public:
 
     /// @return whether there is another row
     [[nodiscard]] bool next_row() { return statement_.next_row(); }
+
+    /// Whether the rows so far are all that there are.
+    bool ended_well() const { return statement_.ended_well(); }
 
     Row row() const { return statement_.row(); }
     sqlite3_stmt *statement() const { return statement_.handle(); }

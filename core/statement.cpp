@@ -17,12 +17,16 @@ int Statement::prepare(sqlite3 *db, const char *sql, Backoff &backoff) {
 }
 
 bool Statement::first_row(Backoff &backoff) {
-    return statement_ != nullptr &&
-           retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); }) == SQLITE_ROW;
+    if (statement_ == nullptr) {
+        return false;
+    }
+    code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); });
+    return code_ == SQLITE_ROW;
 }
 
 bool Statement::next_row() {
-    return sqlite3_step(statement_) == SQLITE_ROW;
+    code_ = sqlite3_step(statement_);
+    return code_ == SQLITE_ROW;
 }
 
 }  // namespace routerdb

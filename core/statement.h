@@ -30,6 +30,9 @@ public:
     /// @return whether there is another one
     [[nodiscard]] bool next_row();
 
+    /// Whether the steps so far gave all that there is: a row, or the end of the rows.
+    bool ended_well() const { return code_ == SQLITE_ROW || code_ == SQLITE_DONE; }
+
     /// Finalises now instead of at the end of the scope.
     void finalize();
 
@@ -39,6 +42,7 @@ public:
 private:
     sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
+    int code_ = SQLITE_DONE;  // of the last step
 };
 
 }  // namespace routerdb

@@ -37,9 +37,11 @@ void parse(const char *line, LeaseLine &lease) {
     to_upper_case(lease.mac);
 }
 
-}  // namespace
-
-bool find_host_name(const char *mac, char *hostname, const char *lease_file, const char *pid_file) {
+/// Asks the server for its leases and reads them.
+/// @param wants_more  takes a lease
+/// @return whether the file could be read
+template <typename WantsMore>
+bool read_leases(const char *lease_file, const char *pid_file, WantsMore wants_more) {
     hold_open(lease_file);
     LeaseFile file(lease_file, pid_file);
     if (!file.is_open()) {
@@ -47,19 +49,58 @@ bool find_host_name(const char *mac, char *hostname, const char *lease_file, con
     }
     char line[line_length + 1];
     LeaseLine lease;
-    while (std::fgets(line, sizeof(line), file.stream()) != nullptr) {
+    bool more = true;
+    while (more && std::fgets(line, sizeof(line), file.stream()) != nullptr) {
         parse(line, lease);
-        if (std::strcmp(lease.mac, mac) == 0) {
-            copy_cut(lease.hostname, hostname, host_name_width);
-            break;
-        }
+        more = wants_more(lease);
     }
     return true;
+}
+
+}  // namespace
+
+bool find_host_name(const char *mac, char *hostname, const char *lease_file, const char *pid_file) {
+    return read_leases(lease_file, pid_file, [&](const LeaseLine &lease) {
+        const bool matches = std::strcmp(lease.mac, mac) == 0;
+        if (matches) {
+            copy_cut(lease.hostname, hostname, host_name_width);
+        }
+        return !matches;
+    });
 }
 
 void find_host_name(const char *mac, char *hostname) {
     if (*mac != '\0') {
         find_host_name(mac, hostname, paths::text_leases, paths::dhcp_server_pid);
+    }
+}
+
+/// @return whether all leases are known now
+bool HostNames::read() {
+    bool complete = true;
+    const bool readable = read_leases(paths::text_leases, paths::dhcp_server_pid, [&](const LeaseLine &line) {
+        const std::size_t mac_size = std::strlen(line.mac) + 1;
+        const std::size_t hostname_size = std::strlen(line.hostname) + 1;
+        Lease *const lease = leases_.add(mac_size + hostname_size);
+        complete = lease != nullptr;
+        if (complete) {
+            char *const texts = reinterpret_cast<char *>(lease + 1);
+            lease->mac = static_cast<const char *>(std::memcpy(texts, line.mac, mac_size));
+            lease->hostname = static_cast<const char *>(std::memcpy(texts + mac_size, line.hostname, hostname_size));
+        }
+        return complete;
+    });
+    return readable && complete;
+}
+
+void HostNames::find(const char *mac, char *hostname) {
+    if (!leases_.enabled || *mac == '\0') {
+        return find_host_name(mac, hostname);
+    }
+    known_ = known_ || read();
+    const Lease *const found = leases_.find([mac](const Lease &lease) { return std::strcmp(lease.mac, mac) == 0; });
+    if (found != nullptr) {
+        copy_cut(found->hostname, hostname, host_name_width);
     }
 }
 

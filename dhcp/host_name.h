@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "core/remembered.h"
+
 namespace routerdb {
 
 /// Room that a host name takes, its terminator included.
@@ -16,5 +18,25 @@ bool find_host_name(const char *mac, char *hostname, const char *lease_file, con
 
 /// The same with the files of the router's DHCP server. An empty address has no name.
 void find_host_name(const char *mac, char *hostname);
+
+/// Looks for one call in the leases of the router's DHCP server, which is asked for them once where the build profile
+/// remembers lookups.
+class HostNames {
+public:
+    /// As above. An empty address has no name.
+    void find(const char *mac, char *hostname);
+
+private:
+    /// Both texts lie behind the entry.
+    struct Lease {
+        const char *mac;
+        const char *hostname;
+    };
+
+    bool read();
+
+    bool known_ = false;
+    Remembered<Lease> leases_;
+};
 
 }  // namespace routerdb

@@ -39,7 +39,8 @@ std::string_view take_until(std::string_view &text, const char *separator) {
 /// The names of one behaviour rule on their way into its two texts.
 class Writer {
 public:
-    Writer(NameField names, NameField names_en) : names_(names), names_en_(names_en) {}
+    Writer(Catalogue &catalogue, NameField names, NameField names_en)
+        : catalogue_(catalogue), names_(names), names_en_(names_en) {}
 
     /// Writes a group, such as "3:f1?f2". One without a class id is skipped.
     void write_group(std::string_view group);
@@ -52,6 +53,7 @@ private:
         append(names_en_, piece);
     }
 
+    Catalogue &catalogue_;
     NameField names_;
     NameField names_en_;
     bool written_ = false;  // something of an earlier group
@@ -72,7 +74,7 @@ void Writer::write_group(std::string_view group) {
 }
 
 void Writer::write_class(int class_id) {
-    const CatalogueNames names(class_id);
+    const CatalogueNames names(catalogue_, class_id);
     if (!names.complete()) {
         return;
     }
@@ -86,7 +88,7 @@ void Writer::write_class(int class_id) {
 }
 
 void Writer::write_application(int class_id, std::string_view feature, bool &first) {
-    const CatalogueNames names(class_id, feature);
+    const CatalogueNames names(catalogue_, class_id, feature);
     if (!names.complete()) {
         return;
     }
@@ -101,9 +103,9 @@ void Writer::write_application(int class_id, std::string_view feature, bool &fir
 
 }  // namespace
 
-void append_behavior_names(const char *info, NameField names, NameField names_en) {
+void append_behavior_names(Catalogue &catalogue, const char *info, NameField names, NameField names_en) {
     std::string_view rest = info;
-    Writer writer(names, names_en);
+    Writer writer(catalogue, names, names_en);
     while (!rest.empty()) {
         writer.write_group(take_until(rest, group_separator));
     }

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "rules/catalogue.h"
+
 namespace routerdb {
 
 /// A text that pieces are appended to, cut where its field ends.
@@ -12,6 +14,6 @@ struct NameField {
 };
 
 /// Appends the names of the classes and applications in `info`, such as "3:f1?f2AND7:f9", and their English names.
-void append_behavior_names(const char *info, NameField names, NameField names_en);
+void append_behavior_names(Catalogue &catalogue, const char *info, NameField names, NameField names_en);
 
 }  // namespace routerdb

@@ -5,6 +5,7 @@
 
 #include "core/reading.h"
 #include "core/text.h"
+#include "rules/catalogue.h"
 
 namespace routerdb {
 
@@ -13,25 +14,25 @@ namespace routerdb {
 class CatalogueNames {
 public:
     /// Looks up a class.
-    explicit CatalogueNames(int class_id);
+    CatalogueNames(Catalogue &catalogue, int class_id);
 
     /// Looks up an application of a class.
-    CatalogueNames(int class_id, std::string_view feature);
+    CatalogueNames(Catalogue &catalogue, int class_id, std::string_view feature);
 
     /// Whether there is an entry.
-    bool found() const { return found_; }
+    bool found() const { return names_.name != nullptr; }
 
     /// Whether there is an entry that has both names.
-    bool complete() const { return found_ && *name() != '\0' && *name_en() != '\0'; }
+    bool complete() const { return found() && *name() != '\0' && *name_en() != '\0'; }
 
-    const char *name() const { return reading_.row().text(0); }
-    const char *name_en() const { return reading_.row().text(1); }
+    const char *name() const { return names_.name; }
+    const char *name_en() const { return names_.name_en; }
 
 private:
-    void find(const Text &sql);
+    bool look_up(const Text &sql);
 
     Reading reading_;
-    bool found_ = false;
+    Names names_{nullptr, nullptr};
 };
 
 }  // namespace routerdb

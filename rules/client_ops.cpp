@@ -11,8 +11,9 @@ namespace routerdb {
 
 namespace {
 
-Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement) {
-    return table_id == no_table ? Reply() : Reply(table_id, operation, statement);
+Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement,
+              const RecordArea &area = {nullptr, 1, 0}) {
+    return table_id == no_table ? Reply() : Reply(table_id, operation, statement, area);
 }
 
 /// Sends a statement whose reply says nothing.
@@ -25,14 +26,16 @@ void send(std::uint8_t table_id, const Text &statement) {
 void list_items(const RuleTable &table, void *list) {
     SqlText statement;
     append_list_query(statement, table);
-    const Reply reply = request(table.id, ROUTERDB_QUERY, statement);
+    void *const records = member(list, sizeof(std::uint32_t));
+    const Reply reply =
+        request(table.id, ROUTERDB_QUERY, statement, {records, table.record_size, ROUTERDB_LIST_CAPACITY});
 
     // Whole records only, and no limit to what the list holds: the caller's buffer is sized for the table.
     const std::size_t count = reply.size() / table.record_size;
     const std::size_t used = sizeof(std::uint32_t) + count * table.record_size;
     put_number(list, 0, static_cast<std::int32_t>(count));
-    if (count != 0) {
-        std::memcpy(member(list, sizeof(std::uint32_t)), reply.data(), count * table.record_size);
+    if (count != 0 && reply.data() != records) {
+        std::memcpy(records, reply.data(), count * table.record_size);
     }
     if (used < table.list_size()) {
         std::memset(member(list, used), 0, table.list_size() - used);
@@ -42,11 +45,11 @@ void list_items(const RuleTable &table, void *list) {
 void get_item(const RuleTable &table, int id, void *record) {
     SqlText statement;
     append_select(statement, table, id);
-    const Reply reply = request(table.id, ROUTERDB_QUERY, statement);
-    if (reply.size() >= table.record_size) {
-        std::memcpy(record, reply.data(), table.record_size);
-    } else {
+    const Reply reply = request(table.id, ROUTERDB_QUERY, statement, {record, table.record_size, 1});
+    if (reply.size() < table.record_size) {
         std::memset(record, 0, table.record_size);
+    } else if (reply.data() != record) {
+        std::memcpy(record, reply.data(), table.record_size);
     }
 }
 

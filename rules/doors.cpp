@@ -23,21 +23,24 @@ void copy_names(const CatalogueNames &names, char *name, char *name_en) {
 }  // namespace
 
 void GetTimeControlById(sqlite3 *db, int id, TimeGroupItem *group) {
-    References(db).find_time_group(id, *group);
+    find_time_group(db, id, *group);
 }
 
 void GetIpGroup_IpRangeById(sqlite3 *db, int id, IpGroupItem *group) {
-    References(db).find_ip_group(id, *group);
+    find_ip_group(db, id, *group);
 }
 
 void GetClassNameByClassId(int id, char *name, char *name_en) {
-    copy_names(CatalogueNames(id), name, name_en);
+    Catalogue catalogue;
+    copy_names(CatalogueNames(catalogue, id), name, name_en);
 }
 
 void GetAppNameByClassIdAppfeature(int class_id, const char *feature, char *name, char *name_en) {
-    copy_names(CatalogueNames(class_id, or_empty(feature)), name, name_en);
+    Catalogue catalogue;
+    copy_names(CatalogueNames(catalogue, class_id, or_empty(feature)), name, name_en);
 }
 
 void GetBehaviorItemInfoTypeName(const char *info, char *names, char *names_en) {
-    append_behavior_names(or_empty(info), {names, SIZE_MAX}, {names_en, SIZE_MAX});
+    Catalogue catalogue;
+    append_behavior_names(catalogue, or_empty(info), {names, SIZE_MAX}, {names_en, SIZE_MAX});
 }

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "core/build_profile.h"
 #include "sqlservice/sigpipe_hold.h"
 #include "sqlservice/socket.h"
 #include "sqlservice/wire.h"
@@ -49,37 +50,52 @@ int send_request(Socket &socket, const SqlRequest &request) {
     return fail(header_sent ? Step::send_text : Step::send_header);
 }
 
-/// Receives the data behind the header. The service may end it early: what is missing then reads as zero.
-int receive_data(Socket &socket, SqlReply &reply) {
-    char *data = static_cast<char *>(std::malloc(static_cast<std::size_t>(reply.size)));
-    if (data == nullptr) {
-        return fail(Step::allocate);
-    }
+bool takes(const RecordArea &area, std::size_t size) {
+    return build_profile.receives_in_place && area.first != nullptr && size % area.record_size == 0 &&
+           size / area.record_size <= area.capacity;
+}
+
+/// Receives `size` bytes. The service may end them early: what is missing then reads as zero.
+bool receive_all(Socket &socket, char *data, std::size_t size) {
     std::size_t received = 0;
-    while (received < static_cast<std::size_t>(reply.size)) {
-        const std::size_t missing = static_cast<std::size_t>(reply.size) - received;
-        const ssize_t count = socket.receive(data + received, missing);
+    while (received < size) {
+        const ssize_t count = socket.receive(data + received, size - received);
         if (count < 0) {
-            std::free(data);
-            return fail(Step::receive_data);
+            return false;
         }
         if (count == 0) {
-            std::memset(data + received, 0, missing);
+            std::memset(data + received, 0, size - received);
             break;
         }
         received += static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+/// Receives the data behind the header.
+int receive_data(Socket &socket, SqlReply &reply, const RecordArea &area) {
+    const auto size = static_cast<std::size_t>(reply.size);
+    void *const data = takes(area, size) ? area.first : std::malloc(size);
+    if (data == nullptr) {
+        return fail(Step::allocate);
+    }
+    if (!receive_all(socket, static_cast<char *>(data), size)) {
+        if (data != area.first) {
+            std::free(data);
+        }
+        return fail(Step::receive_data);
     }
     reply.data = data;
     return 0;
 }
 
-int receive_reply(Socket &socket, SqlReply &reply) {
+int receive_reply(Socket &socket, SqlReply &reply, const RecordArea &area) {
     reply = {};
     if (socket.receive(&reply, wire::header_size) != static_cast<ssize_t>(wire::header_size)) {
         return fail(Step::receive_header);
     }
     if (reply.size >= 1) {
-        return receive_data(socket, reply);
+        return receive_data(socket, reply, area);
     }
     reply.data = std::malloc(4);  // so that a caller can always free it
     return reply.data != nullptr ? 0 : fail(Step::allocate);
@@ -87,22 +103,25 @@ int receive_reply(Socket &socket, SqlReply &reply) {
 
 }  // namespace
 
-int exchange(const SqlRequest &request, SqlReply &reply) {
+int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea &area) {
     Socket socket;
     const int sent = send_request(socket, request);
-    return sent == 0 ? receive_reply(socket, reply) : sent;
+    return sent == 0 ? receive_reply(socket, reply, area) : sent;
 }
 
-Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement) {
+Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea &area)
+    : area_(area.first) {
     if (statement.complete()) {
         const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
                                  statement.c_str()};
-        exchange(request, reply_);
+        exchange(request, reply_, area);
     }
 }
 
 Reply::~Reply() {
-    std::free(reply_.data);
+    if (reply_.data != area_) {
+        std::free(reply_.data);
+    }
 }
 
 std::size_t Reply::size() const {

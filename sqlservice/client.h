@@ -6,9 +6,18 @@
 
 namespace routerdb {
 
+/// Where a caller wants records to arrive.
+struct RecordArea {
+    void *first;
+    std::size_t record_size;
+    std::size_t capacity;  // in records
+};
+
 /// Sends a request and receives the reply.
-/// @return 0, and `reply` owns a heap block; -1 after the failure was reported, and it owns none
-int exchange(const SqlRequest &request, SqlReply &reply);
+/// @param area  whole records that fit are received there, where the build profile spares the block; a failure may
+///              leave anything in it. Without `first` there is none.
+/// @return 0, and `reply` has a heap block or the area's bytes; -1 after the failure was reported, and it has neither
+int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea &area = {nullptr, 1, 0});
 
 /// Owns the reply to one request. One that failed, or announced data and has no block, is empty.
 class Reply {
@@ -17,7 +26,8 @@ public:
     Reply() = default;
 
     /// Sends a statement; an incomplete text is not sent.
-    Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement);
+    Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement,
+          const RecordArea &area = {nullptr, 1, 0});
     Reply(const Reply &) = delete;
     Reply &operator=(const Reply &) = delete;
     ~Reply();
@@ -28,6 +38,7 @@ public:
 
 private:
     SqlReply reply_{};
+    const void *area_ = nullptr;
 };
 
 }  // namespace routerdb

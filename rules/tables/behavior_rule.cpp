@@ -43,8 +43,8 @@ void derive(References &references, void *record) {
     derive_address_range(address_range, references, record);
     derive_time_span(time_span, references, record);
     Record &rule = *static_cast<Record *>(record);
-    find_host_name(rule.devmac, rule.hostname);
-    append_behavior_names(rule.behavior_info, {rule.behavior_names, sizeof(rule.behavior_names)},
+    references.host_names.find(rule.devmac, rule.hostname);
+    append_behavior_names(references.catalogue, rule.behavior_info, {rule.behavior_names, sizeof(rule.behavior_names)},
                           {rule.behavior_names_en, sizeof(rule.behavior_names_en)});
 }
 

@@ -32,7 +32,7 @@ static_assert(sizeof(Record::hostname) >= host_name_width);
 void derive(References &references, void *record) {
     derive_time_span(time_span, references, record);
     Record &rule = *static_cast<Record *>(record);
-    find_host_name(rule.devmac, rule.hostname);
+    references.host_names.find(rule.devmac, rule.hostname);
 }
 
 constexpr RuleTable table =
