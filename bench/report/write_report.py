@@ -25,6 +25,17 @@ Instructions, processor time and system calls of *bare* are absolute, those of t
 """
 
 
+CONTENTION = """
+## Processes that write at the same time
+
+The library's writers queue for the lock file; *busy timeout* is SQLite by hand with `sqlite3_busy_timeout`.
+
+"""
+TIMES = """
+Time is processor time, but for `GetUrlFilterItemList`, where it is what passes: there the SQL service, in the profile of
+the variant, works too. Instructions and system calls are those of the caller."""
+
+
 def table(head: list[str], rows: list[list[str]]) -> str:
     lines = [head, ["---"] + ["--:"] * (len(head) - 1), *rows]
     return "\n".join("| " + " | ".join(line) + " |" for line in lines)
@@ -96,11 +107,9 @@ def main() -> None:
     print(INTRODUCTION)
     print(machine(results))
     print(f"\n## Operations\n\n{operations(results)}")
-    print("\nTime is processor time, but for `GetUrlFilterItemList`, where it is what passes: there the SQL service, in the"
-          "\nprofile of the variant, works too.")
+    print(TIMES)
     print(f"\n## Instructions by number of rows, in millions\n\n{curves(results)}")
-    print("\n## Processes that write at the same time\n\nThe library's writers queue for the lock file;"
-          f" *busy timeout* is SQLite by hand with\n`sqlite3_busy_timeout`.\n\n{contention(results)}")
+    print(CONTENTION + contention(results))
     print(f"\n## Loading the library\n\n{load(results)}")
 
 
