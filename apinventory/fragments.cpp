@@ -1,5 +1,7 @@
 #include "apinventory/fragments.h"
 
+#include <cstring>
+
 #include "apinventory/device_fields.h"
 #include "apinventory/numbers.h"
 
@@ -68,6 +70,16 @@ void append_fragment(Text &sql, const char *column, Content content, const Scope
     sql.append(column).append(scope.suffix).append("='");
     append_value(sql, content.value, member, scope);
     sql.append(tails[static_cast<unsigned>(content.tail)]);
+}
+
+void append_fragments(Text &sql, const FragmentList &fragments, const Scope &scope) {
+    const char *column = fragments.first;
+    for (unsigned row = 0; row < fragments.count; ++row) {
+        Content content;
+        std::memcpy(&content, column + fragments.room, sizeof(content));
+        append_fragment(sql, column, content, scope);
+        column += fragments.room + sizeof(content);
+    }
 }
 
 Scope scope_of(const DevInfo &record, const char *prefix, bool doubles_quotes) {

@@ -60,12 +60,20 @@ void append_fragment(Text &sql, const Fragment<room> &fragment, const Scope &sco
     append_fragment(sql, fragment.column, fragment.content, scope);
 }
 
-template <std::size_t room, std::size_t count>
-void append_fragments(Text &sql, const Fragment<room> (&fragments)[count], const Scope &scope) {
-    for (const Fragment<room> &fragment : fragments) {
-        append_fragment(sql, fragment, scope);
+/// An array of fragments, whatever room its rows have for names: one loop serves all.
+struct FragmentList {
+    const char *first;   // the name in the first row
+    std::uint8_t room;   // for a name; the content stands behind it
+    std::uint8_t count;  // of rows
+
+    template <std::size_t room_of_names, std::size_t count_of_rows>
+    constexpr FragmentList(const Fragment<room_of_names> (&rows)[count_of_rows])
+        : first(rows[0].column), room(room_of_names), count(count_of_rows) {
+        static_assert(offsetof(Fragment<room_of_names>, content) == room_of_names);
     }
-}
+};
+
+void append_fragments(Text &sql, const FragmentList &fragments, const Scope &scope);
 
 /// The scope of a record as a whole.
 /// @param prefix  "WlanGroup_", or nothing in `DevInfo`

@@ -97,9 +97,7 @@ constexpr RadioFragment configured_radio[] = {
 // clang-format on
 
 /// The networks in use, as many as the record has room for, and both radios.
-template <std::size_t wlan_rows, std::size_t radio_rows>
-void append_wireless(Text &sql, const WlanFragment (&wlan)[wlan_rows], const RadioFragment (&radio)[radio_rows],
-                     const DevInfo &device) {
+void append_wireless(Text &sql, const FragmentList &wlan, const FragmentList &radio, const DevInfo &device) {
     const int in_use = wlans_in_use(device);
     Gb2312ToUtf8 converter;
     for (int number = 0; number < in_use && number < ROUTERDB_WLANS; ++number) {

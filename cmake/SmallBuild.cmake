@@ -8,8 +8,10 @@ include(CheckIPOSupported)
 set(small_compile_options -fno-asynchronous-unwind-tables -fomit-frame-pointer)
 
 # Tables of constants are not aligned beyond what their members need; functions that are called once stay functions,
-# because inside the caller they cost more registers than the call. Not every compiler has these.
-foreach(flag -malign-data=abi -fno-inline-functions-called-once)
+# because inside the caller they cost more registers than the call, and so do addresses that are kept across the calls of a
+# loop. A switch of a few cases is smaller as comparisons than as a table. Not every compiler has these.
+foreach(flag -malign-data=abi -fno-inline-functions-called-once -fno-move-loop-invariants -fno-jump-tables
+             -fno-tree-switch-conversion)
     string(MAKE_C_IDENTIFIER "has${flag}" has_flag)
     check_cxx_compiler_flag("-Werror ${flag}" ${has_flag})
     if(${has_flag})
@@ -17,8 +19,9 @@ foreach(flag -malign-data=abi -fno-inline-functions-called-once)
     endif()
 endforeach()
 
-# Code and constants share a segment: the pages between them would be half empty.
-set(small_link_options LINKER:-z,noseparate-code)
+# Code and constants share a segment: the pages between them would be half empty. The linker's own unwind tables go the
+# way of the compiler's.
+set(small_link_options LINKER:-z,noseparate-code LINKER:--no-ld-generated-unwind-info)
 
 target_compile_options(routerdb_objects PRIVATE "$<$<CONFIG:MinSizeRel>:${small_compile_options}>")
 

@@ -45,7 +45,7 @@ bool Access::take_guard() {
 
 int Access::prepare(Statement &statement, const char *sql) {
     const int code = statement.prepare(db(), sql, backoff_);
-    if (code == SQLITE_OK || !lent_) {
+    if (code == SQLITE_OK || !loan_.taken()) {
         return code;
     }
     connection_.close();  // what failed on the connection of earlier readings is tried on one of its own
@@ -53,15 +53,14 @@ int Access::prepare(Statement &statement, const char *sql) {
 }
 
 bool Access::open_database() {
-    lent_ = shared_ != nullptr && !lent_ && shared_->lend(connection_);
-    if (lent_) {
+    if (loan_.take(connection_)) {
         return true;
     }
     code_ = connection_.open(profile_.database, backoff_);
     if (code_ == SQLITE_OK) {
         return true;
     }
-    shared_ = nullptr;  // what could not be opened is nothing to share
+    loan_.keep();  // what could not be opened is nothing to share
     printed_ = report(profile_.open_failure, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.

@@ -51,7 +51,7 @@ class Access {
 public:
     /// @param shared  the connection of the call that this access is part of; null for one of its own
     explicit Access(const AccessProfile &profile, SharedConnection *shared = nullptr)
-        : profile_(profile), shared_(shared) {}
+        : profile_(profile), loan_(shared) {}
     Access(const Access &) = delete;
     Access &operator=(const Access &) = delete;
     ~Access() { close_connection(); }
@@ -66,7 +66,7 @@ public:
 
     /// Close and release now instead of at the end of the scope, in this order.
     /// @return the result code of SQLite; what closing the lock file returned, 0 when it was not open
-    int close_connection() { return shared_ != nullptr ? shared_->take_back(connection_) : connection_.close(); }
+    int close_connection() { return loan_.give_back(connection_); }
     int release_lock() { return lock_file_.release(); }
 
     /// What printing the message of a failed open() returned.
@@ -83,8 +83,7 @@ private:
     bool open_database();
 
     const AccessProfile &profile_;
-    SharedConnection *shared_;
-    bool lent_ = false;
+    SharedConnection::Loan loan_;
     int printed_ = 0;
     int code_ = SQLITE_OK;
     Backoff backoff_;

@@ -1,6 +1,7 @@
 // What one call has looked up already.
 #pragma once
 
+#include <cstddef>
 #include <cstdlib>
 #include <new>
 
@@ -8,17 +9,17 @@
 
 namespace routerdb {
 
-/// Entries on the heap, in the order in which they came, gone with the call. Where the build profile remembers nothing,
-/// it stays empty. A lookup that failed is not to be remembered: the next one may succeed.
-template <typename Entry>
-class Remembered {
+/// Entries on the heap, in the order in which they came, gone with the call. A lookup that failed is not to be
+/// remembered: the next one may succeed.
+template <typename Entry, bool remembers>
+class EntriesOfCall {
 public:
-    static constexpr bool enabled = build_profile.remembers_lookups;
+    static constexpr bool enabled = true;
 
-    Remembered() = default;
-    Remembered(const Remembered &) = delete;
-    Remembered &operator=(const Remembered &) = delete;
-    ~Remembered() {
+    EntriesOfCall() = default;
+    EntriesOfCall(const EntriesOfCall &) = delete;
+    EntriesOfCall &operator=(const EntriesOfCall &) = delete;
+    ~EntriesOfCall() {
         while (first_ != nullptr) {
             Node *const node = first_;
             first_ = node->next;
@@ -38,11 +39,8 @@ public:
     }
 
     /// Makes a cleared entry, with `room` bytes behind it.
-    /// @return null where nothing is remembered, and without memory
+    /// @return null without memory
     Entry *add(std::size_t room = 0) {
-        if constexpr (!enabled) {
-            return nullptr;
-        }
         void *const block = std::malloc(sizeof(Node) + room);
         if (block == nullptr) {
             return nullptr;
@@ -55,12 +53,28 @@ public:
 
 private:
     struct Node {
-        Entry entry;
         Node *next;
+        Entry entry;
     };
 
     Node *first_ = nullptr;
     Node **end_ = &first_;
 };
+
+/// Where nothing is remembered, it is always empty.
+template <typename Entry>
+class EntriesOfCall<Entry, false> {
+public:
+    static constexpr bool enabled = false;
+
+    template <typename Matches>
+    static Entry *find(Matches /*matches*/) {
+        return nullptr;
+    }
+    static Entry *add(std::size_t /*room*/ = 0) { return nullptr; }
+};
+
+template <typename Entry>
+using Remembered = EntriesOfCall<Entry, build_profile.remembers_lookups>;
 
 }  // namespace routerdb

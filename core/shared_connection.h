@@ -6,34 +6,66 @@
 
 namespace routerdb {
 
-/// Hands one connection from reading to reading, where the build profile shares it: the first one opens it, and it is
-/// closed when the call ends. Writes never use it: a write opens its own connection after it has the lock, or it could
-/// go to a file that a reset has just replaced.
-class SharedConnection {
+/// Handed from reading to reading: the first one opens it, and it is closed when the call ends. Writes never use it: a
+/// write opens its own connection after it has the lock, or it could go to a file that a reset has just replaced.
+template <bool shares>
+class ConnectionOfCall {
 public:
-    SharedConnection() = default;
+    /// One reading's use of it.
+    class Loan {
+    public:
+        /// @param call  null for a reading with a connection of its own
+        explicit Loan(ConnectionOfCall *call) : call_(call) {}
 
-    /// Gives the connection to a reading.
-    /// @return false if there is none yet: the reading opens one
-    bool lend(Connection &reading) {
-        reading.adopt(connection_);
-        return reading.handle() != nullptr;
-    }
+        /// @return whether there was one to lend; otherwise the reading opens one
+        bool take(Connection &reading) {
+            taken_ = call_ != nullptr && !taken_ && call_->connection_.handle() != nullptr;
+            if (taken_) {
+                reading.adopt(call_->connection_);
+            }
+            return taken_;
+        }
 
-    /// Takes the connection of a reading that has ended.
-    /// @return as closing it
-    int take_back(Connection &reading) {
-        if (!build_profile.shares_connection) {
-            return reading.close();
+        bool taken() const { return taken_; }
+
+        /// The reading's connection is of no use to others.
+        void keep() { call_ = nullptr; }
+
+        /// Ends the use.
+        /// @return as closing the connection
+        int give_back(Connection &reading) {
+            if (call_ == nullptr) {
+                return reading.close();
+            }
+            if (reading.handle() != nullptr) {
+                call_->connection_.adopt(reading);
+            }
+            return SQLITE_OK;
         }
-        if (reading.handle() != nullptr) {
-            connection_.adopt(reading);
-        }
-        return SQLITE_OK;
-    }
+
+    private:
+        ConnectionOfCall *call_;
+        bool taken_ = false;
+    };
 
 private:
     Connection connection_;
 };
+
+/// Where nothing is shared, each reading opens its own.
+template <>
+class ConnectionOfCall<false> {
+public:
+    class Loan {
+    public:
+        explicit Loan(ConnectionOfCall * /*call*/) {}
+        static bool take(Connection & /*reading*/) { return false; }
+        static bool taken() { return false; }
+        static void keep() {}
+        static int give_back(Connection &reading) { return reading.close(); }
+    };
+};
+
+using SharedConnection = ConnectionOfCall<build_profile.shares_connection>;
 
 }  // namespace routerdb

@@ -11,8 +11,7 @@ namespace routerdb {
 
 namespace {
 
-Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement,
-              const RecordArea &area = {nullptr, 1, 0}) {
+Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area = nullptr) {
     return table_id == no_table ? Reply() : Reply(table_id, operation, statement, area);
 }
 
@@ -27,8 +26,8 @@ void list_items(const RuleTable &table, void *list) {
     SqlText statement;
     append_list_query(statement, table);
     void *const records = member(list, sizeof(std::uint32_t));
-    const Reply reply =
-        request(table.id, ROUTERDB_QUERY, statement, {records, table.record_size, ROUTERDB_LIST_CAPACITY});
+    const RecordArea area{records, table.record_size, ROUTERDB_LIST_CAPACITY};
+    const Reply reply = request(table.id, ROUTERDB_QUERY, statement, &area);
 
     // Whole records only, and no limit to what the list holds: the caller's buffer is sized for the table.
     const std::size_t count = reply.size() / table.record_size;
@@ -45,7 +44,8 @@ void list_items(const RuleTable &table, void *list) {
 void get_item(const RuleTable &table, int id, void *record) {
     SqlText statement;
     append_select(statement, table, id);
-    const Reply reply = request(table.id, ROUTERDB_QUERY, statement, {record, table.record_size, 1});
+    const RecordArea area{record, table.record_size, 1};
+    const Reply reply = request(table.id, ROUTERDB_QUERY, statement, &area);
     if (reply.size() < table.record_size) {
         std::memset(record, 0, table.record_size);
     } else if (reply.data() != record) {

@@ -50,9 +50,19 @@ int send_request(Socket &socket, const SqlRequest &request) {
     return fail(header_sent ? Step::send_text : Step::send_header);
 }
 
-bool takes(const RecordArea &area, std::size_t size) {
-    return build_profile.receives_in_place && area.first != nullptr && size % area.record_size == 0 &&
-           size / area.record_size <= area.capacity;
+/// Where data of a size goes: to the area if it is whole records that fit, else to a block.
+void *room_for(std::size_t size, const RecordArea *area) {
+    if (build_profile.receives_in_place && area != nullptr && size % area->record_size == 0 &&
+        size / area->record_size <= area->capacity) {
+        return area->first;
+    }
+    return std::malloc(size);
+}
+
+void release(void *data, const RecordArea *area) {
+    if (area == nullptr || data != area->first) {
+        std::free(data);
+    }
 }
 
 /// Receives `size` bytes. The service may end them early: what is missing then reads as zero.
@@ -73,23 +83,21 @@ bool receive_all(Socket &socket, char *data, std::size_t size) {
 }
 
 /// Receives the data behind the header.
-int receive_data(Socket &socket, SqlReply &reply, const RecordArea &area) {
+int receive_data(Socket &socket, SqlReply &reply, const RecordArea *area) {
     const auto size = static_cast<std::size_t>(reply.size);
-    void *const data = takes(area, size) ? area.first : std::malloc(size);
+    void *const data = room_for(size, area);
     if (data == nullptr) {
         return fail(Step::allocate);
     }
     if (!receive_all(socket, static_cast<char *>(data), size)) {
-        if (data != area.first) {
-            std::free(data);
-        }
+        release(data, area);
         return fail(Step::receive_data);
     }
     reply.data = data;
     return 0;
 }
 
-int receive_reply(Socket &socket, SqlReply &reply, const RecordArea &area) {
+int receive_reply(Socket &socket, SqlReply &reply, const RecordArea *area) {
     reply = {};
     if (socket.receive(&reply, wire::header_size) != static_cast<ssize_t>(wire::header_size)) {
         return fail(Step::receive_header);
@@ -103,14 +111,14 @@ int receive_reply(Socket &socket, SqlReply &reply, const RecordArea &area) {
 
 }  // namespace
 
-int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea &area) {
+int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area) {
     Socket socket;
     const int sent = send_request(socket, request);
     return sent == 0 ? receive_reply(socket, reply, area) : sent;
 }
 
-Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea &area)
-    : area_(area.first) {
+Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area)
+    : area_(area) {
     if (statement.complete()) {
         const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
                                  statement.c_str()};
@@ -119,9 +127,7 @@ Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statem
 }
 
 Reply::~Reply() {
-    if (reply_.data != area_) {
-        std::free(reply_.data);
-    }
+    release(reply_.data, area_);
 }
 
 std::size_t Reply::size() const {

@@ -15,9 +15,9 @@ struct RecordArea {
 
 /// Sends a request and receives the reply.
 /// @param area  whole records that fit are received there, where the build profile spares the block; a failure may
-///              leave anything in it. Without `first` there is none.
+///              leave anything in it. Null for none.
 /// @return 0, and `reply` has a heap block or the area's bytes; -1 after the failure was reported, and it has neither
-int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea &area = {nullptr, 1, 0});
+int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area = nullptr);
 
 /// Owns the reply to one request. One that failed, or announced data and has no block, is empty.
 class Reply {
@@ -26,8 +26,8 @@ public:
     Reply() = default;
 
     /// Sends a statement; an incomplete text is not sent.
-    Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement,
-          const RecordArea &area = {nullptr, 1, 0});
+    /// @param area  outlives the reply
+    Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area = nullptr);
     Reply(const Reply &) = delete;
     Reply &operator=(const Reply &) = delete;
     ~Reply();
@@ -38,7 +38,7 @@ public:
 
 private:
     SqlReply reply_{};
-    const void *area_ = nullptr;
+    const RecordArea *area_ = nullptr;
 };
 
 }  // namespace routerdb
