@@ -9,9 +9,6 @@ build_packages=(build-essential cmake ninja-build libsqlite3-dev sqlite3 bubblew
 # What the tests need beyond that.
 test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 nlohmann-json3-dev)
 
-# What packages for Debian are built with.
-packaging_packages=(debhelper lintian)
-
 say() {
     printf '==> %s\n' "$*"
 }

@@ -5,6 +5,8 @@
 # prepare_machine unpacks one below $root, in_machine runs a command there. Both need root. Nothing stays of the machine
 # when the script ends; the minimal system is kept as a tar file, for the next one.
 
+. "$(dirname -- "${BASH_SOURCE[0]}")/apt.sh"
+
 release=bookworm
 work=
 machine=
@@ -18,25 +20,12 @@ require() {
     command -v "$1" >/dev/null || fail "$1 is missing; install the package $2"
 }
 
-# Prints "URI SUITE COMPONENT" of the host's package sources, where they are of the same release.
-# shellcheck disable=SC2016 # apt expands the format
-sources() {
-    ! command -v apt-get >/dev/null ||
-        apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' 'Created-By: Packages' |
-        grep -E " $release(-updates|-security)? " || true
-}
-
-# Prints the settings of apt for the way to the mirrors.
-transport() {
-    ! command -v apt-config >/dev/null || apt-config dump | grep -E '^Acquire::(http|https|Retries|ForceIPv[46])\b' || true
-}
-
 # Makes the tar file of the minimal system, unless it is there. Two calls at once make it twice, and either will do.
 prepare_system() {
     local tar=$1 mirror
     [[ ! -f $tar ]] || return 0
     require debootstrap debootstrap
-    mirror=$(sources | awk -v suite="$release" '$2 == suite { print $1; exit }')
+    mirror=$(package_sources "$release" | awk -v suite="$release" '$2 == suite { print $1; exit }')
     [[ -n $mirror ]] || fail "the host has no package source of Debian $release to take the system from"
     printf '==> Making a minimal Debian system (once)\n'
     if ! debootstrap --variant=minbase --include=git,ca-certificates "$release" "$work/system" \
@@ -73,7 +62,7 @@ prepare_machine() {
     tar -C "$root" -xpf "$tar"
     cp /etc/resolv.conf /etc/hosts "$root/etc/"
     transport >"$root/etc/apt/apt.conf.d/99transport"
-    sources | sed 's/^/deb /' >"$work/sources"
+    package_sources "$release" | sed 's/^/deb /' >"$work/sources"
     [[ ! -s $work/sources ]] || cp "$work/sources" "$root/etc/apt/sources.list"
 }
 

@@ -1,9 +1,10 @@
 # Shared by the checks that build consumers of the library: in C and in C++, in every way that the README names.
 # shellcheck shell=bash
 #
-# The script that reads this sets cc, cxx and options: the compilers, and what they need beyond their defaults.
-# shellcheck disable=SC2154
+# Compilers and options come from the environment: CC, CXX, CFLAGS, CXXFLAGS, LDFLAGS; from LD_LIBRARY_PATH the libraries
+# that the installed one needs. The script that reads this may set emulator, what runs programs of another processor.
 
+emulator=()
 checkout=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 consumer=$checkout/tests/consumer
 private_root=$checkout/scripts/private-root
@@ -23,28 +24,27 @@ start_in() {
 
 # run PROGRAM: on fresh databases, and compares what it prints.
 run() {
-    LD_LIBRARY_PATH=${libraries-} "$private_root" "$1" >"$1.out" || fail "$1 failed"
+    LD_LIBRARY_PATH=${libraries-}:${LD_LIBRARY_PATH-} "$private_root" "${emulator[@]}" "$1" >"$1.out" ||
+        fail "$1 failed"
     diff -u "$consumer/expected.txt" "$1.out" || fail "$1 printed something else"
 }
 
 # compile LANGUAGE PROGRAM FLAG...
 compile() {
-    local language=$1 program=$2 command
+    local language=$1 program=$2 command source
     shift 2
     case $language in
-        C) command=("$cc" -std=c11 "$consumer/consumer.c") ;;
-        CXX) command=("$cxx" -std=c++17 "$consumer/consumer.cpp") ;;
+        C) read -ra command <<<"$CC -std=c11 ${CFLAGS-} ${LDFLAGS-}" && source=consumer.c ;;
+        CXX) read -ra command <<<"$CXX -std=c++17 ${CXXFLAGS-} ${LDFLAGS-}" && source=consumer.cpp ;;
     esac
-    "${command[@]}" -Wall -Wextra -Wpedantic -Werror "${options[@]}" -o "$program" "$@"
+    "${command[@]}" -Wall -Wextra -Wpedantic -Werror "$consumer/$source" -o "$program" "$@"
 }
 
 # configure LANGUAGE DIRECTORY [cmake option...]
 configure() {
-    local language=$1 directory=$2 compiler=$cxx
+    local language=$1 directory=$2
     shift 2
-    [[ $language != C ]] || compiler=$cc
-    cmake -S "$consumer" -B "$directory" -G Ninja -DCONSUMER_LANGUAGE="$language" \
-        -DCMAKE_"$language"_COMPILER="$compiler" -DCMAKE_"$language"_FLAGS="${options[*]}" "$@"
+    cmake -S "$consumer" -B "$directory" -G Ninja -DCONSUMER_LANGUAGE="$language" "$@"
 }
 
 by_hand() {
