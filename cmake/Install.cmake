@@ -1,4 +1,4 @@
-# What `cmake --install` puts in place: header, library, pkg-config file, CMake package, programs.
+# What `cmake --install` puts in place: header, library, pkg-config file, CMake package, programs with their manual pages.
 
 include(CMakePackageConfigHelpers)
 
@@ -16,11 +16,23 @@ write_basic_package_version_file(routerdbConfigVersion.cmake COMPATIBILITY SameM
 install(FILES ${PROJECT_BINARY_DIR}/routerdbConfig.cmake ${PROJECT_BINARY_DIR}/routerdbConfigVersion.cmake
         DESTINATION ${package_dir})
 
-# The pkg-config file finds its prefix from where it lies, so that the installed tree can be moved.
-file(RELATIVE_PATH ROUTERDB_PC_PREFIX /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
+# The pkg-config file finds its prefix from where it lies, so that the installed tree can be moved. A library directory
+# given as an absolute path stays where it is, and an absolute path replaces what it is appended to.
+set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+if(IS_ABSOLUTE ${CMAKE_INSTALL_LIBDIR})
+    set(ROUTERDB_PC_PREFIX ${CMAKE_INSTALL_PREFIX})
+else()
+    set(up /prefix)
+    cmake_path(RELATIVE_PATH up BASE_DIRECTORY /prefix/${pkgconfig_dir})
+    set(ROUTERDB_PC_PREFIX "\${pcfiledir}/${up}")
+endif()
+cmake_path(APPEND ROUTERDB_PC_INCLUDEDIR "\${prefix}" ${CMAKE_INSTALL_INCLUDEDIR})
+cmake_path(APPEND ROUTERDB_PC_LIBDIR "\${prefix}" ${CMAKE_INSTALL_LIBDIR})
 configure_file(cmake/routerdb.pc.in routerdb.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/routerdb.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+install(FILES ${PROJECT_BINARY_DIR}/routerdb.pc DESTINATION ${pkgconfig_dir})
 
 if(ROUTERDB_TOOLS)
     install(TARGETS routerdb-sqld DESTINATION ${CMAKE_INSTALL_SBINDIR})
+    configure_file(tools/routerdb-sqld/routerdb-sqld.8.in routerdb-sqld.8 @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/routerdb-sqld.8 DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
 endif()

@@ -65,16 +65,17 @@ void release(void *data, const RecordArea *area) {
     }
 }
 
-/// Receives `size` bytes. The service may end them early: what is missing then reads as zero.
-bool receive_all(Socket &socket, char *data, std::size_t size) {
+/// Receives the bytes that the reply announces. The service may end them early: what is missing then reads as zero.
+bool receive_all(Socket &socket, char *data, const SqlReply &reply) {
     std::size_t received = 0;
-    while (received < size) {
-        const ssize_t count = socket.receive(data + received, size - received);
+    while (received < static_cast<std::size_t>(reply.size)) {
+        const std::size_t missing = static_cast<std::size_t>(reply.size) - received;
+        const ssize_t count = socket.receive(data + received, missing);
         if (count < 0) {
             return false;
         }
         if (count == 0) {
-            std::memset(data + received, 0, size - received);
+            std::memset(data + received, 0, missing);
             break;
         }
         received += static_cast<std::size_t>(count);
@@ -84,12 +85,11 @@ bool receive_all(Socket &socket, char *data, std::size_t size) {
 
 /// Receives the data behind the header.
 int receive_data(Socket &socket, SqlReply &reply, const RecordArea *area) {
-    const auto size = static_cast<std::size_t>(reply.size);
-    void *const data = room_for(size, area);
+    void *const data = room_for(static_cast<std::size_t>(reply.size), area);
     if (data == nullptr) {
         return fail(Step::allocate);
     }
-    if (!receive_all(socket, static_cast<char *>(data), size)) {
+    if (!receive_all(socket, static_cast<char *>(data), reply)) {
         release(data, area);
         return fail(Step::receive_data);
     }
