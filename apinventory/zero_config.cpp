@@ -11,12 +11,15 @@
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
+#include "core/reading.h"
 
 namespace routerdb {
 
 namespace {
 
 constexpr bool as_given = false;
+
+constexpr ReadProfile silent{profiles::parts::guarded_silent, no_message};
 
 // clang-format off
 constexpr DeviceFragment saved_name  = DEVICE_AS(blank, wlan_group_name, "Name", comma);
@@ -73,6 +76,17 @@ int first_number(SharedConnection &connection, const char *sql) {
     return query(profiles::sql_int_first_number, sql, {nullptr}, &connection);
 }
 
+/// Reads the number without a word about the other columns, and without a message when that fails.
+/// @return whether it is what the statement that names all columns would give
+bool read_first_group_number(SharedConnection &connection, int &number) {
+    Reading reading(silent, &connection);
+    if (!reading.open() || !reading.prepare("select WlanGroup_Id from WlanZeroCfgGroupInfo;")) {
+        return false;
+    }
+    number = reading.first_row() ? reading.row().number(0) : 0;
+    return reading.ended_well();
+}
+
 int next_group(SharedConnection &connection, int first) {
     return first == 0 ? 1 : first_number(connection, "select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;") + 1;
 }
@@ -111,6 +125,10 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 }  // namespace
 
 int first_group_number(SharedConnection &connection) {
+    int number = 0;
+    if (build_profile.names_one_column && read_first_group_number(connection, number)) {
+        return number;
+    }
     return first_number(connection, "select * from WlanZeroCfgGroupInfo;");
 }
 

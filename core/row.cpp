@@ -12,19 +12,21 @@ const char *Row::text(int column, const char *null_text) const {
     return text != nullptr ? reinterpret_cast<const char *>(text) : null_text;
 }
 
-bool Row::is_int(int column) const {
+bool Row::read_int(int column, int &number) const {
     if (sqlite3_column_type(statement_, column) != SQLITE_INTEGER) {
         return false;
     }
     const sqlite3_int64 value = sqlite3_column_int64(statement_, column);
+    number = static_cast<int>(value);
     return value >= INT_MIN && value <= INT_MAX;
 }
 
 int Row::number(int column) const {
     // An integer that fits is what atoi would make of its text; anything else goes through the text, so that digits
     // beyond the range of int come out as atoi has them on this platform.
-    if (is_int(column)) {
-        return sqlite3_column_int(statement_, column);
+    int number = 0;
+    if (read_int(column, number)) {
+        return number;
     }
     return std::atoi(text(column));  // NOLINT(cert-err34-c): callers rely on its reading of odd texts
 }

@@ -19,7 +19,10 @@ public:
     /// Whether the column holds a text, or an integer in the range of int. Others than these are compared after a
     /// conversion.
     bool is_text(int column) const { return sqlite3_column_type(statement_, column) == SQLITE_TEXT; }
-    bool is_int(int column) const;
+    bool is_int(int column) const {
+        int number = 0;
+        return read_int(column, number);
+    }
 
     /// The number that atoi reads in the column's text; 0 for NULL.
     int number(int column) const;
@@ -32,6 +35,9 @@ public:
     void copy(int column, char *field, std::size_t width) const;
 
 private:
+    /// @return false for anything but an integer in the range of int
+    bool read_int(int column, int &number) const;
+
     sqlite3_stmt *statement_;
 };
 

@@ -21,6 +21,14 @@ public:
     /// @return the result code of SQLite
     [[nodiscard]] int prepare(sqlite3 *db, const char *sql, Backoff &backoff);
 
+    /// Binds a text, which stays the caller's, to the one parameter.
+    [[nodiscard]] bool bind(const char *text) {
+        return sqlite3_bind_text(statement_, 1, text, -1, SQLITE_STATIC) == SQLITE_OK;
+    }
+
+    /// Ends the rows, so that the statement can be bound and stepped again.
+    void reset() { sqlite3_reset(statement_); }
+
     /// Steps to the first row, retrying while the database is busy: nothing has been delivered yet, and a reader
     /// beside a writer would come back empty otherwise.
     /// @return whether there is one

@@ -10,11 +10,22 @@ namespace routerdb {
 
 namespace {
 
+void read_time_group(const Statement &statement, void *group) {
+    const Columns columns(tables::user_timegroup, statement.handle());
+    read_record(tables::user_timegroup, columns, statement.row(), group);
+}
+
+void read_ip_group(const Statement &statement, void *group) {
+    IpGroupItem &ip_group = *static_cast<IpGroupItem *>(group);
+    const Row row = statement.row();
+    row.copy(0, ip_group.name, sizeof(ip_group.name));
+    row.copy(1, ip_group.startip, sizeof(ip_group.startip));
+    row.copy(2, ip_group.endip, sizeof(ip_group.endip));
+}
+
 /// Prepares a lookup and steps to its row.
-/// @param read  takes the row if there is one
-/// @return whether the lookup went well, with or without a row
-template <typename Read>
-bool look_up(sqlite3 *db, const Text &sql, Wording failure, Read read) {
+/// @return whether it went well, with or without a row
+bool look_up(sqlite3 *db, const Text &sql, Wording failure, ReadGroup read, void *group) {
     Backoff backoff(FirstDelay::random);
     Statement statement;
     const int code = statement.prepare(db, sql.c_str(), backoff);
@@ -23,8 +34,24 @@ bool look_up(sqlite3 *db, const Text &sql, Wording failure, Read read) {
         return false;
     }
     if (statement.first_row(backoff)) {
-        read(statement);
+        read(statement, group);
     }
+    return statement.ended_well();
+}
+
+/// The same with a statement for all lookups of a list, which is prepared by the first of them. It says nothing when it
+/// fails.
+bool look_up_bound(sqlite3 *db, Statement &statement, const char *sql, int id, ReadGroup read, void *group) {
+    Backoff backoff(FirstDelay::random);
+    if (statement.handle() == nullptr && statement.prepare(db, sql, backoff) != SQLITE_OK) {
+        return false;
+    }
+    StackText<16> text;  // as the other lookups have it, so that the column converts it in the same way
+    text.append(long{id});
+    if (statement.bind(text.c_str()) && statement.first_row(backoff)) {
+        read(statement, group);
+    }
+    statement.reset();
     return statement.ended_well();
 }
 
@@ -34,45 +61,43 @@ bool find_time_group(sqlite3 *db, int id, TimeGroupItem &group) {
     group = {};
     StackText<64> sql;
     append_select(sql, tables::user_timegroup, id);
-    return look_up(db, sql, Wording::cannot_prepare, [&](const Statement &statement) {
-        const Columns columns(tables::user_timegroup, statement.handle());
-        read_record(tables::user_timegroup, columns, statement.row(), &group);
-    });
+    return look_up(db, sql, Wording::cannot_prepare, read_time_group, &group);
 }
 
 bool find_ip_group(sqlite3 *db, int id, IpGroupItem &group) {
     group = {};
     StackText<80> sql;
     sql.append("select name,startip,endip from user_ipgroup where Id=").append_quoted(long{id}).append(" ;");
-    return look_up(db, sql, Wording::error, [&](const Statement &statement) {
-        const Row row = statement.row();
-        row.copy(0, group.name, sizeof(group.name));
-        row.copy(1, group.startip, sizeof(group.startip));
-        row.copy(2, group.endip, sizeof(group.endip));
-    });
+    return look_up(db, sql, Wording::error, read_ip_group, &group);
 }
 
 template <typename Group>
-void References::find(Remembered<Known<Group>> &known, bool (*look_up)(sqlite3 *db, int id, Group &group), int id,
-                      Group &group) {
-    const Known<Group> *found = known.find([id](const Known<Group> &entry) { return entry.id == id; });
-    if (found != nullptr) {
-        group = found->group;
+void References::find(Groups<Group> &groups, const Lookup<Group> &lookup, int id, Group &group) {
+    const Known<Group> *const known = groups.known.find([id](const Known<Group> &entry) { return entry.id == id; });
+    if (known != nullptr) {
+        group = known->group;
         return;
     }
-    if (look_up(db_, id, group)) {
-        if (Known<Group> *entry = known.add()) {
+    group = {};
+    const bool bound =
+        build_profile.binds_ids && look_up_bound(db_, groups.statement, lookup.text, id, lookup.read, &group);
+    if (bound || lookup.find(db_, id, group)) {
+        if (Known<Group> *const entry = groups.known.add()) {
             *entry = {id, group};
         }
     }
 }
 
 void References::find_time_group(int id, TimeGroupItem &group) {
-    find(time_groups_, routerdb::find_time_group, id, group);
+    constexpr Lookup<TimeGroupItem> lookup{"select * from user_timegroup where id=?1;", read_time_group,
+                                           routerdb::find_time_group};
+    find(time_groups_, lookup, id, group);
 }
 
 void References::find_ip_group(int id, IpGroupItem &group) {
-    find(ip_groups_, routerdb::find_ip_group, id, group);
+    constexpr Lookup<IpGroupItem> lookup{"select name,startip,endip from user_ipgroup where Id=?1 ;", read_ip_group,
+                                         routerdb::find_ip_group};
+    find(ip_groups_, lookup, id, group);
 }
 
 }  // namespace routerdb

@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include "core/remembered.h"
+#include "core/statement.h"
 #include "dhcp/host_name.h"
 #include "routerdb.h"
 #include "rules/catalogue.h"
@@ -19,6 +20,9 @@ bool find_time_group(sqlite3 *db, int id, TimeGroupItem &group);
 /// prepare is written to standard output.
 /// @return whether the lookup went well, with or without a group
 bool find_ip_group(sqlite3 *db, int id, IpGroupItem &group);
+
+/// Reads the row of a statement into a group.
+using ReadGroup = void (*)(const Statement &statement, void *group);
 
 /// Looks up for one list, on the connection that reads the rules: its open statement pins what the groups are.
 class References {
@@ -38,13 +42,27 @@ private:
         Group group;
     };
 
+    /// What has been found of one kind, and the statement that finds the rest.
     template <typename Group>
-    void find(Remembered<Known<Group>> &known, bool (*look_up)(sqlite3 *db, int id, Group &group), int id,
-              Group &group);
+    struct Groups {
+        Statement statement;
+        Remembered<Known<Group>> known;
+    };
+
+    /// How a kind is looked up: by a text with a parameter, or by itself.
+    template <typename Group>
+    struct Lookup {
+        const char *text;
+        ReadGroup read;
+        bool (*find)(sqlite3 *db, int id, Group &group);
+    };
+
+    template <typename Group>
+    void find(Groups<Group> &groups, const Lookup<Group> &lookup, int id, Group &group);
 
     sqlite3 *db_;
-    Remembered<Known<TimeGroupItem>> time_groups_;
-    Remembered<Known<IpGroupItem>> ip_groups_;
+    Groups<TimeGroupItem> time_groups_;
+    Groups<IpGroupItem> ip_groups_;
 };
 
 }  // namespace routerdb
