@@ -5,6 +5,11 @@
 
 namespace routerdb {
 
+#ifdef __GLIBC__
+// Programs pass offsets of the C library's default width, which _FILE_OFFSET_BITS=64 doubles on 32 bits.
+static_assert(sizeof(off_t) == sizeof(__off_t), "callers pass a default off_t: build without _FILE_OFFSET_BITS=64");
+#endif
+
 /// fcntl with a record lock put together from the arguments.
 int set_record_lock(int fd, int cmd, int type, off_t offset, int whence, off_t len);
 

@@ -9,6 +9,23 @@ build_packages=(build-essential cmake ninja-build libsqlite3-dev sqlite3 bubblew
 # What the tests need beyond that.
 test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 nlohmann-json3-dev)
 
+# Prints what builds for another architecture need beyond that: the architecture is what a preset begins with.
+architecture_packages() {
+    case ${1%%-*} in
+        i386) printf '%s\n' libc6-dev-i386 lib32stdc++-12-dev ;;
+        armhf) printf '%s\n' clang lld llvm qemu-user ;;
+    esac
+}
+
+# Puts everything in place that a preset builds with.
+prepare_architecture() {
+    local needed
+    mapfile -t needed < <(architecture_packages "$1")
+    ((${#needed[@]})) || return 0
+    need_packages "${needed[@]}"
+    "$checkout/scripts/sysroot" "${1%%-*}"
+}
+
 say() {
     printf '==> %s\n' "$*"
 }

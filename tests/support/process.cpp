@@ -45,13 +45,15 @@ int Process::wait() {
 }
 
 bool become(const std::vector<std::string> &arguments) {
+    std::vector<std::string> command{EMULATOR_WORDS};  // none where the processor runs the program itself
+    command.insert(command.end(), arguments.begin(), arguments.end());
     std::vector<char *> words;
-    words.reserve(arguments.size() + 1);
-    for (const std::string &argument : arguments) {
-        words.push_back(const_cast<char *>(argument.c_str()));  // the program gets copies
+    words.reserve(command.size() + 1);
+    for (std::string &word : command) {
+        words.push_back(word.data());
     }
     words.push_back(nullptr);
-    execv(words[0], words.data());
+    execvp(words[0], words.data());
     return false;
 }
 

@@ -27,7 +27,7 @@ private:
     pid_t id_;
 };
 
-/// Replaces this process with a program. Returns only when there is none: false.
+/// Replaces this process with a program of this build. Returns only when there is none: false.
 bool become(const std::vector<std::string> &arguments);
 
 /// Waits until something holds, up to half a minute.

@@ -1,0 +1,18 @@
+# 32-bit ARM with hardware floating point, as routers have it; `char` is unsigned. Its programs run under qemu-user.
+
+set(CMAKE_SYSTEM_NAME Linux)
+set(CMAKE_SYSTEM_PROCESSOR arm)
+set(architecture armhf)
+include(${CMAKE_CURRENT_LIST_DIR}/sysroot.cmake)
+
+# As plain options, so that whoever compiles without this file can be handed all that it takes.
+set(target_options "--target=arm-linux-gnueabihf --sysroot=${sysroot}")
+set(CMAKE_C_COMPILER clang)
+set(CMAKE_CXX_COMPILER clang++)
+set(CMAKE_C_FLAGS_INIT ${target_options})
+set(CMAKE_CXX_FLAGS_INIT ${target_options})
+set(CMAKE_EXE_LINKER_FLAGS_INIT -fuse-ld=lld)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -fuse-ld=lld)
+set(CMAKE_LIBRARY_ARCHITECTURE arm-linux-gnueabihf)
+
+set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm -L ${sysroot})
