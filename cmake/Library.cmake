@@ -114,7 +114,8 @@ set_target_properties(
                LINK_DEPENDS ${PROJECT_SOURCE_DIR}/routerdb.map)
 target_link_options(
     routerdb
-    PRIVATE LINKER:--version-script=${PROJECT_SOURCE_DIR}/routerdb.map
+    PRIVATE -static-libgcc # 32-bit processors divide with its help
+            LINKER:--version-script=${PROJECT_SOURCE_DIR}/routerdb.map
             LINKER:--no-undefined-version
             LINKER:-z,defs
             LINKER:--gc-sections

@@ -2,10 +2,11 @@
 
 include(CheckCXXCompilerFlag)
 include(CheckIPOSupported)
+include(CheckLinkerFlag)
 
 # Without exceptions nobody unwinds in the field; a debug build keeps what a debugger needs. Where unwind tables are
 # left out, 32-bit x86 would keep a frame pointer instead.
-set(small_compile_options -fno-asynchronous-unwind-tables -fomit-frame-pointer)
+set(small_compile_options -fno-unwind-tables -fno-asynchronous-unwind-tables -fomit-frame-pointer)
 
 # Tables of constants are not aligned beyond what their members need; functions that are called once stay functions,
 # because inside the caller they cost more registers than the call, and so do addresses that are kept across the calls of a
@@ -21,11 +22,20 @@ foreach(flag -malign-data=abi -fno-inline-functions-called-once -fno-move-loop-i
 endforeach()
 
 # Code and constants share a segment: the pages between them would be half empty. The linker's own unwind tables go the
-# way of the compiler's.
-set(small_link_options LINKER:-z,noseparate-code LINKER:--no-ld-generated-unwind-info)
+# way of the compiler's. Not every linker has these.
+set(small_link_options)
+foreach(flag LINKER:-z,noseparate-code LINKER:--no-ld-generated-unwind-info)
+    string(MAKE_C_IDENTIFIER "has_${flag}" has_flag)
+    check_linker_flag(CXX "${flag}" ${has_flag})
+    if(${has_flag})
+        list(APPEND small_link_options ${flag})
+    endif()
+endforeach()
 
 target_compile_options(routerdb_objects PRIVATE "$<$<CONFIG:MinSizeRel>:${small_compile_options}>")
 
 # Calls inside the library pass their arguments in registers when the compiler sees all of them.
-check_ipo_supported(RESULT has_ipo LANGUAGES CXX)
-set_target_properties(routerdb_objects PROPERTIES INTERPROCEDURAL_OPTIMIZATION_MINSIZEREL ${has_ipo})
+if(NOT DEFINED CMAKE_INTERPROCEDURAL_OPTIMIZATION_MINSIZEREL)
+    check_ipo_supported(RESULT has_ipo LANGUAGES CXX)
+    set_target_properties(routerdb_objects PROPERTIES INTERPROCEDURAL_OPTIMIZATION_MINSIZEREL ${has_ipo})
+endif()

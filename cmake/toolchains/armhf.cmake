@@ -1,4 +1,4 @@
-# 32-bit ARM with hardware floating point, as routers have it; `char` is unsigned. Its programs run under qemu-user.
+# 32-bit ARM with hardware floating point, in the instructions that Debian takes for granted; `char` is unsigned. Its programs run under qemu-user.
 
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR arm)
@@ -6,7 +6,7 @@ set(architecture armhf)
 include(${CMAKE_CURRENT_LIST_DIR}/sysroot.cmake)
 
 # As plain options, so that whoever compiles without this file can be handed all that it takes.
-set(target_options "--target=arm-linux-gnueabihf --sysroot=${sysroot}")
+set(target_options "--target=arm-linux-gnueabihf -march=armv7-a -mthumb --sysroot=${sysroot}")
 set(CMAKE_C_COMPILER clang)
 set(CMAKE_CXX_COMPILER clang++)
 set(CMAKE_C_FLAGS_INIT ${target_options})
