@@ -53,7 +53,7 @@ int read_default_zero_config(DevInfo &record) {
         return reading.printed();
     }
     read_rows(reading, sql, read_zero_config_group, Ssids::in_gb2312, record);
-    return 1;
+    return reading.lost() ? reading.printed() : 1;
 }
 
 int read_zero_config(DevInfo &record, int id) {

@@ -13,10 +13,16 @@ namespace routerdb {
 namespace {
 
 using profiles::parts::free_printing_random;
-using profiles::parts::free_silent;
 
 constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
-constexpr ReadProfile silent{free_silent, no_message};
+
+// Nothing is said or left behind here: totals that are not had at once are read one by one, which is said.
+// clang-format off
+constexpr ReadProfile silent_totals{
+    {Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
+     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
+    no_message};
+// clang-format on
 
 enum class From : std::uint8_t { text, serial_number, stations, no_group_name };
 
@@ -88,7 +94,7 @@ void read_each(Totals &totals, SharedConnection &connection) {
 /// Reads all of them by one statement that says nothing when it fails.
 /// @return whether they are what the statements one by one would give
 bool read_at_once(Totals &totals, SharedConnection &connection) {
-    Reading reading(silent, &connection);
+    Reading reading(silent_totals, &connection);
     if (!reading.open() ||
         !reading.prepare("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
                          "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") ||

@@ -92,7 +92,7 @@ int print_zero_config_groups() {
     if (reading.prepare(query_text)) {
         print_rows(reading);
     }
-    return reading.close().connection;
+    return reading.lost() ? reading.printed() : reading.close().connection;
 }
 
 }  // namespace routerdb

@@ -86,12 +86,13 @@ void read_rows(const ListSpec &spec, const char *argument, int table_count, Shar
     SqlText sql;
     sql.append(spec.row_query).append(argument).append(spec.query_tail);
     Reading reading(catalogue, &connection);
-    if (!reading.open()) {
+    const bool opened = reading.open();
+    if (opened && sql.complete() && reading.prepare(sql.c_str())) {
+        print_rows(spec, reading, argument, table_count);
+    }
+    if (!opened || reading.lost()) {
         close(reading.code());  // Deliberate: callers have come to expect it, as they do the close below.
         return;
-    }
-    if (sql.complete() && reading.prepare(sql.c_str())) {
-        print_rows(spec, reading, argument, table_count);
     }
     reading.close();
     close(STDIN_FILENO);

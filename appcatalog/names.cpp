@@ -69,7 +69,9 @@ bool NameJoiner::read_applications() {
     }
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
-    if (statement.prepare(db_, "select Class_Id,Name,Name_En,Features from App_Info;", backoff) != SQLITE_OK) {
+    // The condition leaves out what no class's number would equal as the text that it is in the statement above.
+    if (statement.prepare(db_, "select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;",
+                          backoff) != SQLITE_OK) {
         return false;
     }
     for (bool more = statement.first_row(backoff); more; more = statement.next_row()) {

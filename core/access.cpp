@@ -45,10 +45,16 @@ bool Access::take_guard() {
 
 int Access::prepare(Statement &statement, const char *sql) {
     const int code = statement.prepare(db(), sql, backoff_);
-    if (code == SQLITE_OK || !loan_.taken()) {
+    if (!loan_.taken()) {
         return code;
     }
-    connection_.close();  // what failed on the connection of earlier readings is tried on one of its own
+    // The connection of earlier readings remembers tables: that they are still there shows at the first step only.
+    statement.first_row(backoff_);
+    if (statement.ended_well()) {
+        return code;
+    }
+    statement.finalize();  // what failed there is tried on a connection of its own
+    connection_.close();
     return open_database() ? statement.prepare(db(), sql, backoff_) : code_;
 }
 

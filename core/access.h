@@ -61,7 +61,7 @@ public:
     [[nodiscard]] bool open();
 
     /// Prepares a statement on the connection.
-    /// @return the result code of SQLite
+    /// @return the result code of SQLite; that of open() when the database is lost()
     [[nodiscard]] int prepare(Statement &statement, const char *sql);
 
     /// Close and release now instead of at the end of the scope, in this order.
@@ -71,6 +71,9 @@ public:
 
     /// What printing the message of a failed open() returned.
     int printed() const { return printed_; }
+
+    /// Whether prepare() had to open the database again, and could not. It has been reported as by open().
+    bool lost() const { return loan_.lost(); }
 
     /// The result code of SQLite for the last open().
     int code() const { return code_; }

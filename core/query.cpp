@@ -105,7 +105,7 @@ int query(const QueryProfile &profile, const char *sql, Destination destination,
     }
     Statement statement;
     const int code = access.prepare(statement, sql);
-    return deliver(profile, code, statement, access.db(), access.backoff(), destination);
+    return access.lost() ? -1 : deliver(profile, code, statement, access.db(), access.backoff(), destination);
 }
 
 int query(const QueryProfile &profile, const Text &sql, Destination destination, SharedConnection *shared) {

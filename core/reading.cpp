@@ -4,7 +4,7 @@ namespace routerdb {
 
 bool Reading::prepare(const char *sql) {
     const int code = access_.prepare(statement_, sql);
-    if (code != SQLITE_OK) {
+    if (code != SQLITE_OK && !access_.lost()) {
         report(profile_.prepare_failure, {nullptr, code, sqlite3_errmsg(access_.db())});
     }
     return code == SQLITE_OK;

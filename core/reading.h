@@ -29,8 +29,11 @@ public:
     /// The result code of SQLite for open().
     int code() const { return access_.code(); }
 
-    /// @return false after the profile's message
+    /// @return false after the profile's message, or when the database is lost()
     [[nodiscard]] bool prepare(const char *sql);
+
+    /// Whether prepare() had to open the database again, and could not: that counts as a failed open().
+    bool lost() const { return access_.lost(); }
 
     /// @return whether there is a row; waits for a busy database
     [[nodiscard]] bool first_row() { return statement_.first_row(access_.backoff()); }

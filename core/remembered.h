@@ -19,13 +19,16 @@ public:
     EntriesOfCall() = default;
     EntriesOfCall(const EntriesOfCall &) = delete;
     EntriesOfCall &operator=(const EntriesOfCall &) = delete;
-    ~EntriesOfCall() {
+    ~EntriesOfCall() { clear(); }
+
+    void clear() {
         while (first_ != nullptr) {
             Node *const node = first_;
             first_ = node->next;
             node->~Node();
             std::free(node);
         }
+        end_ = &first_;
     }
 
     /// The first entry that matches; null without one.
@@ -66,6 +69,8 @@ template <typename Entry>
 class EntriesOfCall<Entry, false> {
 public:
     static constexpr bool enabled = false;
+
+    static void clear() {}
 
     template <typename Matches>
     static Entry *find(Matches /*matches*/) {

@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cstdlib>
+#include <cstring>
 
 #include "core/text.h"
 
@@ -10,6 +11,11 @@ namespace routerdb {
 const char *Row::text(int column, const char *null_text) const {
     const unsigned char *text = sqlite3_column_text(statement_, column);
     return text != nullptr ? reinterpret_cast<const char *>(text) : null_text;
+}
+
+bool Row::is_text(int column) const {
+    return sqlite3_column_type(statement_, column) == SQLITE_TEXT &&
+           std::strlen(text(column)) == static_cast<std::size_t>(sqlite3_column_bytes(statement_, column));
 }
 
 bool Row::read_int(int column, int &number) const {

@@ -16,9 +16,9 @@ public:
     /// @param null_text  stands for NULL
     const char *text(int column, const char *null_text = "") const;
 
-    /// Whether the column holds a text, or an integer in the range of int. Others than these are compared after a
-    /// conversion.
-    bool is_text(int column) const { return sqlite3_column_type(statement_, column) == SQLITE_TEXT; }
+    /// Whether the column holds a text that a zero byte does not cut short, or an integer in the range of int. SQLite
+    /// compares others than these in ways of its own.
+    bool is_text(int column) const;
     bool is_int(int column) const {
         int number = 0;
         return read_int(column, number);

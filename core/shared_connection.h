@@ -17,9 +17,10 @@ public:
         /// @param call  null for a reading with a connection of its own
         explicit Loan(ConnectionOfCall *call) : call_(call) {}
 
-        /// @return whether there was one to lend; otherwise the reading opens one
+        /// @return whether there was one to lend; otherwise, and the second time, the reading opens one
         bool take(Connection &reading) {
-            taken_ = call_ != nullptr && !taken_ && call_->connection_.handle() != nullptr;
+            replaced_ = taken_;
+            taken_ = call_ != nullptr && !replaced_ && call_->connection_.handle() != nullptr;
             if (taken_) {
                 reading.adopt(call_->connection_);
             }
@@ -30,6 +31,9 @@ public:
 
         /// The reading's connection is of no use to others.
         void keep() { call_ = nullptr; }
+
+        /// Whether one was taken, given up, and could not be replaced.
+        bool lost() const { return replaced_ && call_ == nullptr; }
 
         /// Ends the use.
         /// @return as closing the connection
@@ -46,6 +50,7 @@ public:
     private:
         ConnectionOfCall *call_;
         bool taken_ = false;
+        bool replaced_ = false;
     };
 
 private:
@@ -62,6 +67,7 @@ public:
         static bool take(Connection & /*reading*/) { return false; }
         static bool taken() { return false; }
         static void keep() {}
+        static bool lost() { return false; }
         static int give_back(Connection &reading) { return reading.close(); }
     };
 };

@@ -13,14 +13,17 @@ void Statement::finalize() {
 
 int Statement::prepare(sqlite3 *db, const char *sql, Backoff &backoff) {
     db_ = db;
-    return retry_while_busy(backoff, db_, [&] { return sqlite3_prepare_v2(db_, sql, -1, &statement_, nullptr); });
+    code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_prepare_v2(db_, sql, -1, &statement_, nullptr); });
+    return code_;
 }
 
 bool Statement::first_row(Backoff &backoff) {
     if (statement_ == nullptr) {
         return false;
     }
-    code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); });
+    if (!stepped()) {
+        code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); });
+    }
     return code_ == SQLITE_ROW;
 }
 

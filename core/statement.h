@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include "core/backoff.h"
+#include "core/build_profile.h"
 #include "core/row.h"
 
 namespace routerdb {
@@ -27,19 +28,22 @@ public:
     }
 
     /// Ends the rows, so that the statement can be bound and stepped again.
-    void reset() { sqlite3_reset(statement_); }
+    void reset() {
+        sqlite3_reset(statement_);
+        code_ = SQLITE_OK;
+    }
 
     /// Steps to the first row, retrying while the database is busy: nothing has been delivered yet, and a reader
-    /// beside a writer would come back empty otherwise.
+    /// beside a writer would come back empty otherwise. The step is taken once, also when it is asked for ahead.
     /// @return whether there is one
-    [[nodiscard]] bool first_row(Backoff &backoff);
+    bool first_row(Backoff &backoff);
 
     /// Steps on. Any result other than a row ends the rows.
     /// @return whether there is another one
     [[nodiscard]] bool next_row();
 
-    /// Whether the steps so far gave all that there is: a row, or the end of the rows.
-    bool ended_well() const { return code_ == SQLITE_ROW || code_ == SQLITE_DONE; }
+    /// Whether the statement so far gave all that there is: a row, or the end of the rows.
+    bool ended_well() const { return code_ == SQLITE_OK || code_ == SQLITE_ROW || code_ == SQLITE_DONE; }
 
     /// Finalises now instead of at the end of the scope.
     void finalize();
@@ -48,9 +52,12 @@ public:
     sqlite3_stmt *handle() const { return statement_; }
 
 private:
+    /// Steps are taken ahead where a connection is shared only.
+    bool stepped() const { return build_profile.shares_connection && code_ != SQLITE_OK; }
+
     sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
-    int code_ = SQLITE_DONE;  // of the last step
+    int code_ = SQLITE_OK;  // of preparing, or of the last step
 };
 
 }  // namespace routerdb

@@ -75,33 +75,46 @@ void find_host_name(const char *mac, char *hostname) {
     }
 }
 
-/// @return whether all leases are known now
-bool HostNames::read() {
-    bool complete = true;
-    const bool readable = read_leases(paths::text_leases, paths::dhcp_server_pid, [&](const LeaseLine &line) {
-        const std::size_t mac_size = std::strlen(line.mac) + 1;
-        const std::size_t hostname_size = std::strlen(line.hostname) + 1;
-        Lease *const lease = leases_.add(mac_size + hostname_size);
-        complete = lease != nullptr;
-        if (complete) {
-            char *const texts = reinterpret_cast<char *>(lease + 1);
-            lease->mac = static_cast<const char *>(std::memcpy(texts, line.mac, mac_size));
-            lease->hostname = static_cast<const char *>(std::memcpy(texts + mac_size, line.hostname, hostname_size));
-        }
-        return complete;
-    });
-    return readable && complete;
-}
-
 void HostNames::find(const char *mac, char *hostname) {
     if (!leases_.enabled || *mac == '\0') {
         return find_host_name(mac, hostname);
     }
-    known_ = known_ || read();
+    if (!known_) {
+        leases_.clear();
+        return read(mac, hostname);
+    }
     const Lease *const found = leases_.find([mac](const Lease &lease) { return std::strcmp(lease.mac, mac) == 0; });
     if (found != nullptr) {
         copy_cut(found->hostname, hostname, host_name_width);
     }
+}
+
+/// Looks in the file and remembers what is there. Without memory for all of it, the next lookup reads it again.
+void HostNames::read(const char *mac, char *hostname) {
+    bool found = false;
+    bool complete = true;
+    const bool readable = read_leases(paths::text_leases, paths::dhcp_server_pid, [&](const LeaseLine &line) {
+        if (!found && std::strcmp(line.mac, mac) == 0) {
+            copy_cut(line.hostname, hostname, host_name_width);
+            found = true;
+        }
+        complete = complete && remember(line.mac, line.hostname);
+        return complete || !found;
+    });
+    known_ = readable && complete;
+}
+
+/// @return false without memory
+bool HostNames::remember(const char *mac, const char *hostname) {
+    const std::size_t mac_size = std::strlen(mac) + 1;
+    const std::size_t hostname_size = std::strlen(hostname) + 1;
+    Lease *const lease = leases_.add(mac_size + hostname_size);
+    if (lease != nullptr) {
+        char *const texts = reinterpret_cast<char *>(lease + 1);
+        lease->mac = static_cast<const char *>(std::memcpy(texts, mac, mac_size));
+        lease->hostname = static_cast<const char *>(std::memcpy(texts + mac_size, hostname, hostname_size));
+    }
+    return lease != nullptr;
 }
 
 }  // namespace routerdb

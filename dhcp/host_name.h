@@ -33,7 +33,8 @@ private:
         const char *hostname;
     };
 
-    bool read();
+    void read(const char *mac, char *hostname);
+    bool remember(const char *mac, const char *hostname);
 
     bool known_ = false;
     Remembered<Lease> leases_;

@@ -51,8 +51,9 @@ bool look_up_bound(sqlite3 *db, Statement &statement, const char *sql, int id, R
     if (statement.bind(text.c_str()) && statement.first_row(backoff)) {
         read(statement, group);
     }
+    const bool went_well = statement.ended_well();
     statement.reset();
-    return statement.ended_well();
+    return went_well;
 }
 
 }  // namespace

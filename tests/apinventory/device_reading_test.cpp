@@ -8,6 +8,7 @@
 #include "apinventory/tables.h"
 #include "core/holdings.h"
 #include "support/database.h"
+#include "support/failing_readings.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -157,11 +158,11 @@ TEST(GetApDevList, without_the_table_it_leaves_the_list_as_it_was) {
 TEST(GetApDevList, once_the_rows_are_counted_the_list_is_cleared_also_by_a_failure) {
     insert_device("1", "a", "1");
     Recorder recorder;
-    recorder.answer("sqlite3_open", {Recorder::really, SQLITE_CANTOPEN});
+    support::fail_opening(recorder, 2);
     auto list = odd_list();
     support::streams_of([&] { EXPECT_EQ(GetApDevList(list.get(), 0), 0); });
     EXPECT_EQ(bytes_of(*list), std::string(sizeof(ApDevList), '\0'));
-    recorder.answer("sqlite3_prepare_v2", {Recorder::really, SQLITE_ERROR});
+    support::fail_beginning(recorder, "sqlite3_prepare_v2", 2, SQLITE_ERROR);
     list = odd_list();
     EXPECT_EQ(GetApDevList(list.get(), 0), 0);
     EXPECT_EQ(bytes_of(*list), std::string(sizeof(ApDevList), '\0'));

@@ -4,6 +4,7 @@
 #include "apinventory/tables.h"
 #include "support/database.h"
 #include "support/deliberate_leak.h"
+#include "support/failing_readings.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -145,7 +146,7 @@ TEST(DbFindinfo, finds_a_known_one_at_once_and_takes_its_number) {
 TEST(DbFindinfo, a_known_one_whose_number_cannot_be_read_has_that_of_its_address) {
     insert_device("5", mac);
     Recorder recorder;
-    recorder.answer("sqlite3_open", {Recorder::really, SQLITE_CANTOPEN});
+    support::fail_opening(recorder, 2);
     EXPECT_EQ(find(device()), (Found{1, sn_of_address}));
 }
 
@@ -177,10 +178,7 @@ TEST(DbFindinfo, the_last_lookup_decides_whether_it_failed) {
         recorder.answer("sqlite3_open", {SQLITE_CANTOPEN});
     }
     EXPECT_EQ(find(device()), (Found{0, sn_of_address}));
-    for (int i = 0; i < 15; ++i) {
-        recorder.answer("sqlite3_open", {Recorder::really});
-    }
-    recorder.answer("sqlite3_open", {SQLITE_CANTOPEN});
+    support::fail_opening(recorder, 16);
     EXPECT_EQ(find(device()), (Found{-1, sn_of_address}));
 }
 
@@ -237,10 +235,7 @@ TEST(DbFindinfo, a_longer_text_of_zeros_is_an_address) {
 TEST(DbFindinfo, when_the_holder_cannot_be_looked_up_it_stays) {
     insert_device("335653056", "00:00:00:00:00:99");
     Recorder recorder;
-    for (int i = 0; i < 16; ++i) {
-        recorder.answer("sqlite3_open", {Recorder::really});
-    }
-    recorder.answer("sqlite3_open", {SQLITE_CANTOPEN});
+    support::fail_opening(recorder, 17);
     EXPECT_EQ(find(device()), (Found{0, sn_of_address}));
     EXPECT_EQ(recorder.calls({"sqlite3_exec"}), Lines());
 }

@@ -4,12 +4,21 @@
 
 #include <algorithm>
 
+#include "support/build_profile.h"
+
 namespace readers {
 
 namespace {
 
+using support::build_profile;
+using Lines = std::vector<std::string>;
+
 constexpr char open_main_database[] = "sqlite3_open /etc/config/systemconf/database/myrouter.db";
 constexpr int length_of_open_message = 72;
+
+void append(Lines &lines, const Lines &more) {
+    lines.insert(lines.end(), more.begin(), more.end());
+}
 
 Reading read_device(int convert) {
     Reading reading{0, places::odd_record()};
@@ -66,19 +75,14 @@ Reader list_reader(int convert) {
     reader.name = convert == 1 ? "GetApDevList_in_GB2312" : "GetApDevList";
     reader.other_key = "";
     reader.read = [convert] { return read_first_of_list(convert); };
-    reader.calls_before = {"open lock file",
-                           "gettimeofday",
-                           "srand",
-                           "rand",
-                           "lock",
-                           open_main_database,
-                           "sqlite3_prepare_v2 select  * from DevInfo;",
-                           "sqlite3_step",
-                           "sqlite3_step",
-                           "sqlite3_finalize",
-                           "sqlite3_close",
-                           "unlock",
-                           "close lock file"};
+    reader.calls_before = {"open lock file", "gettimeofday", "srand", "rand", "lock", open_main_database};
+    append(reader.calls_before, build_profile.skips_unseen_rows
+                                    ? Lines{"sqlite3_prepare_v2 select 1 from DevInfo;", "sqlite3_finalize"}
+                                    : Lines{"sqlite3_prepare_v2 select  * from DevInfo;", "sqlite3_step",
+                                            "sqlite3_step", "sqlite3_finalize"});
+    reader.opens = !build_profile.shares_connection;
+    append(reader.calls_before, reader.opens ? Lines{"sqlite3_close"} : Lines{});
+    append(reader.calls_before, {"unlock", "close lock file"});
     reader.query = "select * from DevInfo  order by Dev_IPSUM ;";
     reader.told_when_unopenable = Listener::standard_error;
     return reader;
@@ -108,8 +112,9 @@ Reader default_group_reader() {
     reader.other_key = "2";
     reader.read = read_default_group;
     reader.calls_before = {open_main_database, "sqlite3_prepare_v2 select *  from WlanZeroCfgGroupInfo;",
-                           "sqlite3_step",     "sqlite3_step",
-                           "sqlite3_finalize", "sqlite3_close"};
+                           "sqlite3_step", "sqlite3_step", "sqlite3_finalize"};
+    reader.opens = !build_profile.shares_connection;
+    append(reader.calls_before, reader.opens ? Lines{"sqlite3_close"} : Lines{});
     reader.query = "select * from WlanZerocfgGroupInfo where WlanGroup_Id='1';";
     reader.error_without_table = "no such table: WlanZerocfgGroupInfo";
     reader.result = 1;

@@ -29,7 +29,8 @@ struct Reader : support::Named {
     /// Reads into a record whose bytes are odd.
     std::function<Reading()> read{};
 
-    std::vector<std::string> calls_before{};  // what is called before the database is opened for the row
+    std::vector<std::string> calls_before{};  // what is called before the row is read
+    bool opens = true;                        // a connection for the row
     std::string query{};
     unsigned first_sleep = 0;  // with 0 as the random number
 

@@ -8,6 +8,7 @@
 #include "core/holdings.h"
 #include "support/database.h"
 #include "support/deliberate_leak.h"
+#include "support/failing_readings.h"
 #include "support/process.h"
 #include "support/recorder.h"
 #include "support/streams.h"
@@ -197,10 +198,7 @@ TEST(Registration, a_table_that_cannot_be_counted_counts_as_empty) {
         insert_device(std::to_string(i), std::to_string(i));
     }
     Observer observer;
-    for (int i = 0; i < 17; ++i) {
-        observer.answer("sqlite3_open", {Recorder::really});
-    }
-    observer.answer("sqlite3_open", {SQLITE_CANTOPEN});
+    support::fail_opening(observer, 18);
     EXPECT_EQ(DB_addinfo(sample_device()), sn);
     EXPECT_EQ(get_devinfo_count(), 21);
 }

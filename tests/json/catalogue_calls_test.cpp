@@ -5,6 +5,7 @@
 #include "json/catalogue.h"
 #include "json/printed.h"
 #include "routerdb.h"
+#include "support/build_profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
 
@@ -12,26 +13,34 @@ namespace {
 
 using catalogue::List;
 using printed::by;
+using support::build_profile;
 using support::Recorder;
 using Lines = std::vector<std::string>;
+
+constexpr char open_call[] = "sqlite3_open /etc/config/systemconf/database/dpilib.db";
 
 void append(Lines &lines, const Lines &more) {
     lines.insert(lines.end(), more.begin(), more.end());
 }
 
 /// Connection and statement from the first draw to the first step.
-Lines begin_of(const std::string &query) {
-    return {"gettimeofday",
-            "srand",
-            "rand",
-            "sqlite3_open /etc/config/systemconf/database/dpilib.db",
-            "sqlite3_prepare_v2 " + query,
-            "sqlite3_step"};
+Lines begin_of(const std::string &query, bool opens = true) {
+    Lines calls{"gettimeofday", "srand", "rand"};
+    append(calls, opens ? Lines{open_call} : Lines{});
+    append(calls, {"sqlite3_prepare_v2 " + query, "sqlite3_step"});
+    return calls;
 }
 
+/// The end of a list. A connection that is shared is closed when all else is done.
 const Lines &end() {
-    static const Lines calls{"sqlite3_finalize", "sqlite3_close", "close 0"};
+    static const Lines calls = build_profile.shares_connection ? Lines{"sqlite3_finalize", "close 0", "sqlite3_close"}
+                                                               : Lines{"sqlite3_finalize", "sqlite3_close", "close 0"};
     return calls;
+}
+
+/// The same for the count of a list that has rows.
+Lines end_of_count() {
+    return build_profile.shares_connection ? Lines{"sqlite3_finalize", "close 0"} : end();
 }
 
 class CatalogueCalls : public testing::TestWithParam<List> {
@@ -52,14 +61,14 @@ TEST_P(CatalogueCalls, of_an_empty_table_are_those_of_the_count) {
     EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
 }
 
-TEST_P(CatalogueCalls, count_on_one_connection_and_read_on_another_and_close_standard_input_after_each) {
+TEST_P(CatalogueCalls, count_and_read_on_the_connections_of_the_profile_and_close_standard_input_after_each) {
     catalogue::fill();
     const int descriptors = support::open_descriptors();
     const Recorder recorder;
     print();
     Lines expected = begin_of(GetParam().count_query);
-    append(expected, end());
-    append(expected, begin_of(GetParam().row_query));
+    append(expected, end_of_count());
+    append(expected, begin_of(GetParam().row_query, !build_profile.shares_connection));
     const Lines calls = recorder.calls();
     ASSERT_GT(calls.size(), expected.size() + 3);
     EXPECT_EQ(Lines(calls.begin(), calls.begin() + static_cast<long>(expected.size())), expected);
@@ -77,7 +86,9 @@ TEST_P(CatalogueCalls, share_one_series_of_sleeps_through_open_prepare_and_first
     }
     const printed::List list = printed::parse(print(), "ItemList");
     EXPECT_GE(list.elements.size(), 2U);
-    EXPECT_EQ(recorder.sleeps(), (std::vector<unsigned>{155, 160, 165, 170, 175, 180, 185, 190, 195}));
+    EXPECT_EQ(recorder.sleeps(), build_profile.shares_connection
+                                     ? (std::vector<unsigned>{155, 160, 165, 170, 175, 180})
+                                     : (std::vector<unsigned>{155, 160, 165, 170, 175, 180, 185, 190, 195}));
 }
 
 TEST_P(CatalogueCalls, wait_while_the_catalogue_is_locked_before_they_count) {
@@ -93,36 +104,38 @@ TEST_P(CatalogueCalls, wait_while_the_catalogue_is_locked_before_they_count) {
 INSTANTIATE_TEST_SUITE_P(All, CatalogueCalls, testing::ValuesIn(catalogue::lists()),
                          [](const auto &test) { return test.param.name; });
 
+/// All applications, or three columns of those of class 7.
+Lines joined_names() {
+    if (build_profile.remembers_lookups) {
+        return {"sqlite3_prepare_v2 select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;",
+                "sqlite3_step",
+                "sqlite3_step",
+                "sqlite3_step",
+                "sqlite3_step",
+                "sqlite3_finalize"};
+    }
+    Lines calls;
+    for (const std::string column : {"Name", "Name_En", "Features"}) {
+        append(calls, {"sqlite3_prepare_v2 select " + column + " from App_Info where Class_Id='7';", "sqlite3_step",
+                       "sqlite3_step", "sqlite3_finalize"});
+    }
+    return calls;
+}
+
 TEST(GetAppClassItemListCalls, join_the_names_of_each_class_on_the_connection_of_the_list) {
     catalogue::fill();
     catalogue::execute("delete from App_Class where Id<>7;");
     const Recorder recorder;
     by(GetAppClassItemList);
-    EXPECT_EQ(recorder.calls({"sqlite3"}), (Lines{
-                                               "sqlite3_open /etc/config/systemconf/database/dpilib.db",
-                                               "sqlite3_prepare_v2 select  count(*) from App_Class;",
-                                               "sqlite3_step",
-                                               "sqlite3_finalize",
-                                               "sqlite3_close",
-                                               "sqlite3_open /etc/config/systemconf/database/dpilib.db",
-                                               "sqlite3_prepare_v2 select * from App_Class order by Id ;",
-                                               "sqlite3_step",
-                                               "sqlite3_prepare_v2 select Name from App_Info where Class_Id='7';",
-                                               "sqlite3_step",
-                                               "sqlite3_step",
-                                               "sqlite3_finalize",
-                                               "sqlite3_prepare_v2 select Name_En from App_Info where Class_Id='7';",
-                                               "sqlite3_step",
-                                               "sqlite3_step",
-                                               "sqlite3_finalize",
-                                               "sqlite3_prepare_v2 select Features from App_Info where Class_Id='7';",
-                                               "sqlite3_step",
-                                               "sqlite3_step",
-                                               "sqlite3_finalize",
-                                               "sqlite3_step",
-                                               "sqlite3_finalize",
-                                               "sqlite3_close",
-                                           }));
+    Lines expected{open_call, "sqlite3_prepare_v2 select  count(*) from App_Class;", "sqlite3_step",
+                   "sqlite3_finalize"};
+    if (!build_profile.shares_connection) {
+        append(expected, {"sqlite3_close", open_call});
+    }
+    append(expected, {"sqlite3_prepare_v2 select * from App_Class order by Id ;", "sqlite3_step"});
+    append(expected, joined_names());
+    append(expected, {"sqlite3_step", "sqlite3_finalize", "sqlite3_close"});
+    EXPECT_EQ(recorder.calls({"sqlite3"}), expected);
 }
 
 }  // namespace

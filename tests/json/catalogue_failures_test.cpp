@@ -8,12 +8,14 @@
 #include "routerdb.h"
 #include "support/database.h"
 #include "support/deliberate_leak.h"
+#include "support/failing_readings.h"
 #include "support/recorder.h"
 
 namespace {
 
 using catalogue::List;
 using printed::by;
+using support::build_profile;
 using support::Recorder;
 using Lines = std::vector<std::string>;
 
@@ -30,6 +32,10 @@ protected:
         return by([] { GetParam().print(); });
     }
 
+    static std::string row_call() { return "sqlite3_prepare_v2 " + std::string(GetParam().row_query); }
+
+    static void drop_table() { catalogue::execute("drop table " + std::string(GetParam().table) + ";"); }
+
     static std::string error_without_table() { return "no such table: " + std::string(GetParam().table); }
 };
 
@@ -41,7 +47,7 @@ TEST_P(CatalogueFailures, count_nothing_when_the_catalogue_cannot_be_opened) {
 }
 
 TEST_P(CatalogueFailures, put_the_message_of_a_failed_count_before_the_list) {
-    catalogue::execute("drop table " + std::string(GetParam().table) + ";");
+    drop_table();
     printed::expect_unfinished(print(), "Error: " + error_without_table() + R"({"ItemList":{"count":"0"}})");
     EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
 }
@@ -49,7 +55,14 @@ TEST_P(CatalogueFailures, put_the_message_of_a_failed_count_before_the_list) {
 TEST_P(CatalogueFailures, leave_the_list_unfinished_without_a_word_when_the_second_open_fails) {
     const int descriptors = support::open_descriptors();
     Recorder recorder;
-    faults::before(recorder, open_call, 2, [] { faults::make_unopenable(support::catalogue_database); });
+    if (build_profile.shares_connection) {  // it is opened when the table is gone from the shared one
+        faults::before(recorder, row_call(), 1, [] {
+            drop_table();
+            faults::make_unopenable(support::catalogue_database);
+        });
+    } else {
+        faults::before(recorder, open_call, 2, [] { faults::make_unopenable(support::catalogue_database); });
+    }
     printed::expect_unfinished(print(), R"({"ItemList":{"data":[)");
     EXPECT_EQ(recorder.calls({"sqlite3_open"}), (Lines{open_call, open_call}));
     EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
@@ -62,7 +75,7 @@ TEST_P(CatalogueFailures, close_the_descriptor_whose_number_is_the_code_of_the_f
         catalogue::open_descriptor(code);
         ASSERT_TRUE(catalogue::is_open(code));
         Recorder recorder;
-        recorder.answer("sqlite3_open", {Recorder::really, code});
+        support::fail_opening(recorder, 2, code);
         printed::expect_unfinished(print(), R"({"ItemList":{"data":[)");
         EXPECT_FALSE(catalogue::is_open(code)) << code;
         EXPECT_EQ(recorder.calls({"close 0"}), Lines{"close 0"});  // by the count
@@ -82,11 +95,12 @@ TEST_P(CatalogueFailures, close_no_descriptor_by_a_code_when_all_goes_well) {
 TEST_P(CatalogueFailures, leave_the_list_unfinished_with_a_message_when_the_rows_cannot_be_prepared) {
     const int descriptors = support::open_descriptors();
     Recorder recorder;
-    faults::before(recorder, "sqlite3_prepare_v2 " + std::string(GetParam().row_query), 1,
-                   [] { catalogue::execute("drop table " + std::string(GetParam().table) + ";"); });
+    faults::before(recorder, row_call(), 1, drop_table);
     printed::expect_unfinished(print(), R"({"ItemList":{"data":[Webserver Error: )" + error_without_table());
     EXPECT_EQ(recorder.calls({open_call, "sqlite3_close", "close 0"}),
-              (Lines{open_call, "sqlite3_close", "close 0", open_call, "sqlite3_close", "close 0"}));
+              (build_profile.shares_connection
+                   ? Lines{open_call, "close 0", "sqlite3_close", open_call, "close 0", "sqlite3_close"}
+                   : Lines{open_call, "sqlite3_close", "close 0", open_call, "sqlite3_close", "close 0"}));
     EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
     EXPECT_FALSE(catalogue::is_open(STDIN_FILENO));
     EXPECT_EQ(support::open_descriptors(), descriptors - 1);
@@ -96,7 +110,7 @@ TEST_P(CatalogueFailures, close_the_list_when_the_first_step_fails) {
     for (const int code : {SQLITE_ERROR, SQLITE_MISUSE, SQLITE_CORRUPT}) {
         catalogue::open_descriptor(STDIN_FILENO);
         Recorder recorder;
-        recorder.answer("sqlite3_step", {Recorder::really, code});
+        support::fail_beginning(recorder, "sqlite3_step", 2, code);
         const std::string count = GetParam().name == "OneClass" ? "3" : "0";
         printed::expect_complete(print(), catalogue::opening + std::string(GetParam().closing) + count + "\"}}");
         EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "rules/golden/golden.h"
+#include "support/build_profile.h"
 #include "support/database.h"
 #include "support/fake_service.h"
 #include "support/record.h"
@@ -45,8 +46,9 @@ void add_operations(std::vector<Operation> &operations, const Table &table) {
     const std::string list = support::list_of(record, 1, table.list_size);
     const std::string reply = support::reply_of(record);
     constexpr int usual = 7;  // socket, connect, two sends, two receives, the block of the data
-    operations.push_back({table.name + " list", table.list, reply, odd_list, no_list, list, usual, 0});
-    operations.push_back({table.name + " get", get, reply, odd_record, no_record, record, usual, 0});
+    constexpr int of_records = support::build_profile.receives_in_place ? usual - 1 : usual;  // which need no block
+    operations.push_back({table.name + " list", table.list, reply, odd_list, no_list, list, of_records, 0});
+    operations.push_back({table.name + " get", get, reply, odd_record, no_record, record, of_records, 0});
     const int room = table.long_statements ? 1 : 0;
     const int add = usual * table.add_requests;
     const int modify = usual * table.modify_requests;

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "routerdb.h"
+#include "support/build_profile.h"
 #include "support/database.h"
 #include "support/record.h"
 #include "support/recorder.h"
@@ -101,35 +102,23 @@ TEST(UrlFilterBuilder, looks_groups_up_rule_by_rule_on_its_own_connection) {
     support::execute(std::string(three_groups) + rules);
     const Recorder recorder;
     ASSERT_EQ(build_rules(), 3);
-    EXPECT_EQ(recorder.calls(), (Lines{
-                                    "gettimeofday",
-                                    "srand",
-                                    "rand",  //
-                                    "open lock file",
-                                    "lock",  //
-                                    "sqlite3_open /etc/config/systemconf/database/myrouter.db",
-                                    "sqlite3_prepare_v2 select * from filter_url order by Id;",
-                                    "sqlite3_step",  //
-                                    "gettimeofday",
-                                    "srand",
-                                    "rand",  //
-                                    "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
-                                    "sqlite3_step",
-                                    "sqlite3_finalize",  //
-                                    "sqlite3_step",      //
-                                    "sqlite3_step",      //
-                                    "gettimeofday",
-                                    "srand",
-                                    "rand",  //
-                                    "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
-                                    "sqlite3_step",
-                                    "sqlite3_finalize",  //
-                                    "sqlite3_step",      //
-                                    "sqlite3_finalize",
-                                    "sqlite3_close",  //
-                                    "unlock",
-                                    "close lock file",
-                                }));
+    const Lines lookup{"gettimeofday", "srand",
+                       "rand",         "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
+                       "sqlite3_step", "sqlite3_finalize"};
+    Lines expected{"gettimeofday",
+                   "srand",
+                   "rand",
+                   "open lock file",
+                   "lock",
+                   "sqlite3_open /etc/config/systemconf/database/myrouter.db",
+                   "sqlite3_prepare_v2 select * from filter_url order by Id;"};
+    for (const Lines &more :
+         {Lines{"sqlite3_step"}, lookup, Lines{"sqlite3_step", "sqlite3_step"},
+          support::build_profile.remembers_lookups ? Lines{} : lookup,
+          Lines{"sqlite3_step", "sqlite3_finalize", "sqlite3_close", "unlock", "close lock file"}}) {
+        expected.insert(expected.end(), more.begin(), more.end());
+    }
+    EXPECT_EQ(recorder.calls(), expected);
 }
 
 TEST(UrlFilterBuilder, a_lookup_that_cannot_be_prepared_says_so_and_costs_the_group_only) {
