@@ -5,6 +5,7 @@
 
 #include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
+#include "support/build_profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
 #include "support/streams.h"
@@ -62,7 +63,9 @@ constexpr char assignments[] =
     " WlanGroup_Wlan_MaxStaNum_sec='c121',  WlanGroup_Dev_RebootTime_Enable='c122', "
     " WlanGroup_Dev_RebootTime='c123',  WlanGroup_Wlan_CoverageThreshold_sec='c120' ";
 
-constexpr char first_number[] = "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
+constexpr const char *first_number = support::build_profile.names_one_column
+                                         ? "sqlite3_prepare_v2 select WlanGroup_Id from WlanZeroCfgGroupInfo;"
+                                         : "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
 constexpr char highest_number[] = "sqlite3_prepare_v2 select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;";
 
 /// A group whose texts are "c" and the number of their columns.

@@ -32,7 +32,9 @@ constexpr char closing[] =
 constexpr char no_groups[] = R"({"WlanGroupList":{"count":"0"}})";
 
 constexpr char open_call[] = "sqlite3_open /etc/config/systemconf/database/myrouter.db";
-constexpr char first_query[] = "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
+constexpr const char *first_query = build_profile.names_one_column
+                                        ? "sqlite3_prepare_v2 select WlanGroup_Id from WlanZeroCfgGroupInfo;"
+                                        : "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
 constexpr char list_query[] =
     "sqlite3_prepare_v2 select WlanGroup_Id,WlanGroup_Name,WlanGroup_Wlan1_Ssid,WlanGroup_Wlan1_Security,"
     "WlanGroup_Wlan1_AuthMode,WlanGroup_Wlan1_SecurityCipher,WlanGroup_Wlan1_Wep_Value,WlanGroup_Wlan1_Psk_Value,"

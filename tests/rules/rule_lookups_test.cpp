@@ -66,6 +66,14 @@ void catalogue(const char *sql) {
     support::Database(support::catalogue_database).execute(sql);
 }
 
+/// The lookups of IP group 4 and of time group 3.
+constexpr const char *ip_group_lookup =
+    build_profile.binds_ids ? "sqlite3_prepare_v2 select name,startip,endip from user_ipgroup where Id=?1 ;"
+                            : "sqlite3_prepare_v2 select name,startip,endip from user_ipgroup where Id='4' ;";
+constexpr const char *time_group_lookup = build_profile.binds_ids
+                                              ? "sqlite3_prepare_v2 select * from user_timegroup where id=?1;"
+                                              : "sqlite3_prepare_v2 select * from user_timegroup where id='3';";
+
 TEST(BehaviorBuilder, looks_up_groups_then_the_host_then_names) {
     support::execute(std::string(groups) + behavior_rule);
     support::write_file(lease_file, lease);
@@ -78,8 +86,8 @@ TEST(BehaviorBuilder, looks_up_groups_then_the_host_then_names) {
         "lock",
         "sqlite3_open /etc/config/systemconf/database/myrouter.db",
         "sqlite3_prepare_v2 select * from behavior_rule;",
-        "sqlite3_prepare_v2 select name,startip,endip from user_ipgroup where Id='4' ;",
-        "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
+        ip_group_lookup,
+        time_group_lookup,
         "usleep 1000",  // for the server to write its leases
         "sqlite3_open /etc/config/systemconf/database/dpilib.db",
         "sqlite3_prepare_v2 select  Name,Name_En from App_Class where Id='3';",
@@ -139,9 +147,7 @@ TEST(IpFilterBuilder, looks_up_the_ip_group_before_the_time_group) {
     const Recorder recorder;
     built(GetIpFilterItemListInServer, "select * from filter_ipport;");
     EXPECT_EQ(recorder.calls({"sqlite3_prepare"}),
-              (Lines{"sqlite3_prepare_v2 select * from filter_ipport;",
-                     "sqlite3_prepare_v2 select name,startip,endip from user_ipgroup where Id='4' ;",
-                     "sqlite3_prepare_v2 select * from user_timegroup where id='3';"}));
+              (Lines{"sqlite3_prepare_v2 select * from filter_ipport;", ip_group_lookup, time_group_lookup}));
 }
 
 TEST(IpFilterBuilder, without_the_table_of_ip_groups_says_so_and_has_no_range) {

@@ -98,27 +98,38 @@ int build_rules() {
     return static_cast<int>(list->count);
 }
 
-TEST(UrlFilterBuilder, looks_groups_up_rule_by_rule_on_its_own_connection) {
-    support::execute(std::string(three_groups) + rules);
+Lines calls_of_building() {
     const Recorder recorder;
-    ASSERT_EQ(build_rules(), 3);
-    const Lines lookup{"gettimeofday", "srand",
-                       "rand",         "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
-                       "sqlite3_step", "sqlite3_finalize"};
-    Lines expected{"gettimeofday",
-                   "srand",
-                   "rand",
-                   "open lock file",
-                   "lock",
-                   "sqlite3_open /etc/config/systemconf/database/myrouter.db",
-                   "sqlite3_prepare_v2 select * from filter_url order by Id;"};
-    for (const Lines &more :
-         {Lines{"sqlite3_step"}, lookup, Lines{"sqlite3_step", "sqlite3_step"},
-          support::build_profile.remembers_lookups ? Lines{} : lookup,
-          Lines{"sqlite3_step", "sqlite3_finalize", "sqlite3_close", "unlock", "close lock file"}}) {
+    EXPECT_EQ(build_rules(), 3);
+    return recorder.calls({"gettimeofday", "srand", "rand", "open lock", "lock", "unlock", "close lock", "sqlite3_open",
+                           "sqlite3_prepare", "sqlite3_step", "sqlite3_finalize", "sqlite3_close"});
+}
+
+TEST(UrlFilterBuilder, looks_groups_up_on_its_own_connection_one_by_one_or_each_once) {
+    support::execute(std::string(three_groups) + rules);
+    const Lines drawing{"gettimeofday", "srand", "rand"};
+    const Lines list{"open lock file", "lock", "sqlite3_open /etc/config/systemconf/database/myrouter.db",
+                     "sqlite3_prepare_v2 select * from filter_url order by Id;", "sqlite3_step"};
+    const Lines lookup{"sqlite3_prepare_v2 select * from user_timegroup where id='3';", "sqlite3_step",
+                       "sqlite3_finalize"};
+    const Lines bound_lookup{"sqlite3_prepare_v2 select * from user_timegroup where id=?1;", "sqlite3_step"};
+    const Lines steps{"sqlite3_step", "sqlite3_step"};
+    const Lines end{"sqlite3_step", "sqlite3_finalize", "sqlite3_close", "unlock", "close lock file"};
+    const std::vector<Lines> one_by_one{drawing, list, drawing, lookup, steps, drawing, lookup, end};
+    const std::vector<Lines> each_once{
+        drawing,
+        list,
+        drawing,
+        bound_lookup,
+        steps,
+        {"sqlite3_step"},
+        {"sqlite3_finalize", "sqlite3_finalize", "sqlite3_close", "unlock", "close lock file"}};
+    static_assert(support::build_profile.remembers_lookups == support::build_profile.binds_ids);
+    Lines expected;
+    for (const Lines &more : support::build_profile.binds_ids ? each_once : one_by_one) {
         expected.insert(expected.end(), more.begin(), more.end());
     }
-    EXPECT_EQ(recorder.calls(), expected);
+    EXPECT_EQ(calls_of_building(), expected);
 }
 
 TEST(UrlFilterBuilder, a_lookup_that_cannot_be_prepared_says_so_and_costs_the_group_only) {
