@@ -126,7 +126,7 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 
 int first_group_number(SharedConnection &connection) {
     int number = 0;
-    if (build_profile.names_one_column && read_first_group_number(connection, number)) {
+    if (build_profile.names_needed_columns && read_first_group_number(connection, number)) {
         return number;
     }
     return first_number(connection, "select * from WlanZeroCfgGroupInfo;");

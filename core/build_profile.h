@@ -4,38 +4,50 @@
 
 namespace routerdb {
 
-/// What a profile spares. Each member is asked in one place.
+/// What a profile spares. Each member is asked where the work is done, and nowhere else.
 struct BuildProfile {
     /// The readings of one call go through one connection instead of a fresh one each.
-    bool shares_connection;
+    bool shares_connection = false;
 
     /// What one call has looked up (groups, names, applications, leases) is not looked up again.
-    bool remembers_lookups;
+    bool remembers_lookups = false;
 
     /// A statement whose rows nobody sees is prepared, so that it can fail, and not stepped.
-    bool skips_unseen_rows;
+    bool skips_unseen_rows = false;
 
-    /// The number of the first zero-configuration group is read by a statement that names its column instead of all.
-    bool names_one_column;
+    /// Statements that count, or read one column, name what they need instead of all columns.
+    bool names_needed_columns = false;
 
     /// The totals below the list of access points are one statement instead of four.
-    bool merges_totals;
+    bool merges_totals = false;
 
     /// Groups are looked up by one statement with a parameter instead of a statement for each.
-    bool binds_ids;
+    bool binds_ids = false;
 
     /// One converter serves all texts of a record.
-    bool shares_converter;
+    bool shares_converter = false;
 
     /// Records that arrive whole go straight into the caller's list instead of through a block of their own.
-    bool receives_in_place;
+    bool receives_in_place = false;
 };
 
 /// The default: connections, statements, allocations and conversions in the number and order that tracers know.
-inline constexpr BuildProfile exact{false, false, false, false, false, false, false, false};
+inline constexpr BuildProfile exact{};
 
 /// As few of them as the same results take.
-inline constexpr BuildProfile modern{true, true, true, true, true, true, true, true};
+constexpr BuildProfile make_modern() {
+    BuildProfile profile;
+    profile.shares_connection = true;
+    profile.remembers_lookups = true;
+    profile.skips_unseen_rows = true;
+    profile.names_needed_columns = true;
+    profile.merges_totals = true;
+    profile.binds_ids = true;
+    profile.shares_converter = true;
+    profile.receives_in_place = true;
+    return profile;
+}
+inline constexpr BuildProfile modern = make_modern();
 
 /// The profile of this build: ROUTERDB_PROFILE names one of the above.
 inline constexpr BuildProfile build_profile = ROUTERDB_PROFILE;

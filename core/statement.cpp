@@ -21,7 +21,7 @@ bool Statement::first_row(Backoff &backoff) {
     if (statement_ == nullptr) {
         return false;
     }
-    if (!stepped()) {
+    if (code_ == SQLITE_OK) {
         code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); });
     }
     return code_ == SQLITE_ROW;

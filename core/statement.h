@@ -4,7 +4,6 @@
 #include <sqlite3.h>
 
 #include "core/backoff.h"
-#include "core/build_profile.h"
 #include "core/row.h"
 
 namespace routerdb {
@@ -52,9 +51,6 @@ public:
     sqlite3_stmt *handle() const { return statement_; }
 
 private:
-    /// Steps are taken ahead where a connection is shared only.
-    bool stepped() const { return build_profile.shares_connection && code_ != SQLITE_OK; }
-
     sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
     int code_ = SQLITE_OK;  // of preparing, or of the last step

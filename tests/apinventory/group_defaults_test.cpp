@@ -86,7 +86,7 @@ TEST(NewGroup, bears_the_number_1_again_when_the_first_row_has_the_number_0) {
 }
 
 TEST(NewGroup, asks_for_the_first_number_and_the_highest) {
-    const std::string first_number = support::build_profile.names_one_column
+    const std::string first_number = support::build_profile.names_needed_columns
                                          ? "sqlite3_prepare_v2 select WlanGroup_Id from WlanZeroCfgGroupInfo;"
                                          : "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
     {

@@ -63,7 +63,7 @@ constexpr char assignments[] =
     " WlanGroup_Wlan_MaxStaNum_sec='c121',  WlanGroup_Dev_RebootTime_Enable='c122', "
     " WlanGroup_Dev_RebootTime='c123',  WlanGroup_Wlan_CoverageThreshold_sec='c120' ";
 
-constexpr const char *first_number = support::build_profile.names_one_column
+constexpr const char *first_number = support::build_profile.names_needed_columns
                                          ? "sqlite3_prepare_v2 select WlanGroup_Id from WlanZeroCfgGroupInfo;"
                                          : "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
 constexpr char highest_number[] = "sqlite3_prepare_v2 select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;";

@@ -32,7 +32,7 @@ constexpr char closing[] =
 constexpr char no_groups[] = R"({"WlanGroupList":{"count":"0"}})";
 
 constexpr char open_call[] = "sqlite3_open /etc/config/systemconf/database/myrouter.db";
-constexpr const char *first_query = build_profile.names_one_column
+constexpr const char *first_query = build_profile.names_needed_columns
                                         ? "sqlite3_prepare_v2 select WlanGroup_Id from WlanZeroCfgGroupInfo;"
                                         : "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo;";
 constexpr char list_query[] =

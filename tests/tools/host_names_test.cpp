@@ -1,7 +1,7 @@
 // Lists of rules with host names. Each reading of the leases leaves a stream open: one process runs out of descriptors
 // after a few lists, the service, which has a process for each connection, never does.
-#include <gtest/gtest.h>
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
