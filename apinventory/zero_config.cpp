@@ -11,15 +11,12 @@
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
-#include "core/reading.h"
 
 namespace routerdb {
 
 namespace {
 
 constexpr bool as_given = false;
-
-constexpr ReadProfile silent{profiles::parts::guarded_silent, no_message};
 
 // clang-format off
 constexpr DeviceFragment saved_name  = DEVICE_AS(blank, wlan_group_name, "Name", comma);
@@ -76,15 +73,24 @@ int first_number(SharedConnection &connection, const char *sql) {
     return query(profiles::sql_int_first_number, sql, {nullptr}, &connection);
 }
 
-/// Reads the number without a word about the other columns, and without a message when that fails.
-/// @return whether it is what the statement that names all columns would give
-bool read_first_group_number(SharedConnection &connection, int &number) {
-    Reading reading(silent, &connection);
-    if (!reading.open() || !reading.prepare("select WlanGroup_Id from WlanZeroCfgGroupInfo;")) {
-        return false;
+constexpr char all_columns[] = "select * from WlanZeroCfgGroupInfo;";
+
+/// Names the one column that is read; where that fails, all columns under the same lock.
+int read_first_group_number(SharedConnection &connection) {
+    const QueryProfile &profile = profiles::sql_int_first_number;
+    Access access(profile.access, &connection);
+    if (!access.open()) {
+        return -1;
     }
-    number = reading.first_row() ? reading.row().number(0) : 0;
-    return reading.ended_well();
+    Statement statement;
+    if (access.prepare(statement, "select WlanGroup_Id from WlanZeroCfgGroupInfo;") == SQLITE_OK) {
+        const int number = statement.first_row(access.backoff()) ? statement.row().number(0) : 0;
+        if (statement.ended_well()) {
+            return number;
+        }
+        statement.finalize();
+    }
+    return access.lost() ? -1 : query(profile, access.db(), access.backoff(), all_columns, {nullptr});
 }
 
 int next_group(SharedConnection &connection, int first) {
@@ -125,11 +131,8 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 }  // namespace
 
 int first_group_number(SharedConnection &connection) {
-    int number = 0;
-    if (build_profile.names_needed_columns && read_first_group_number(connection, number)) {
-        return number;
-    }
-    return first_number(connection, "select * from WlanZeroCfgGroupInfo;");
+    return build_profile.names_needed_columns ? read_first_group_number(connection)
+                                              : first_number(connection, all_columns);
 }
 
 void fill_with_defaults(DevInfo &group) {

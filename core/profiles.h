@@ -24,9 +24,6 @@ inline constexpr Message webserver_on_output{Stream::standard_output, Wording::w
 inline constexpr AccessProfile guarded{
     Database::main, Guard::lock_file, FirstDelay::random, Draw::after_opening_lock_file, 1,
     Stream::nowhere, Stream::standard_error, code_on_error, FailedHandle::closed};
-inline constexpr AccessProfile guarded_silent{
-    Database::main, Guard::lock_file, FirstDelay::random, Draw::after_opening_lock_file, 1,
-    Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed};
 inline constexpr AccessProfile guarded_leaving_failed_handle{
     Database::main, Guard::lock_file, FirstDelay::random, Draw::after_opening_lock_file, 1,
     Stream::nowhere, Stream::standard_error, code_on_error, FailedHandle::abandoned};

@@ -48,10 +48,11 @@ bool look_up_bound(sqlite3 *db, Statement &statement, const char *sql, int id, R
     }
     StackText<16> text;  // as the other lookups have it, so that the column converts it in the same way
     text.append(long{id});
-    if (statement.bind(text.c_str()) && statement.first_row(backoff)) {
+    const bool bound = statement.bind(text.c_str());
+    if (bound && statement.first_row(backoff)) {
         read(statement, group);
     }
-    const bool went_well = statement.ended_well();
+    const bool went_well = bound && statement.ended_well();
     statement.reset();
     return went_well;
 }
