@@ -16,9 +16,9 @@ using namespace profiles::parts;
 constexpr ReadProfile one_device{free_logging, prepare_in_log};
 constexpr ReadProfile all_devices{free_printing, prepare_in_log};
 
-// Callers see that the table can be counted, not the count: without rows to see, it need not name 160 columns.
+// Callers see that the table can be counted, not the count: that takes none of the 160 columns.
 constexpr const char *count_text =
-    build_profile.skips_unseen_rows ? "select 1 from DevInfo;" : "select  * from DevInfo;";
+    build_profile.names_needed_columns ? "select 1 from DevInfo;" : "select  * from DevInfo;";
 
 }  // namespace
 
