@@ -2,15 +2,20 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <set>
+#include <map>
 
 #include "profiles/samples.h"
+#include "routerdb.h"
 #include "support/build_profile.h"
+#include "support/database.h"
 #include "support/record.h"
+#include "support/recorder.h"
 #include "support/streams.h"
 #include "support/wrapped_calls.h"
 
 namespace {
+
+constexpr char leases[] = "/var/dhcp.leases";
 
 /// The calls that remember, and how many blocks they take for it.
 const std::map<std::string, int> remembering{
@@ -56,6 +61,26 @@ std::vector<samples::Call> remembering_calls() {
         }
     }
     return calls;
+}
+
+TEST(LeasesWithoutMemory, are_read_again_as_they_are_then) {
+    support::execute(
+        "insert into filter_mac(devmac) values('00:11:22:33:44:55'),('AA:BB:CC:DD:EE:FF'),"
+        "('AA:BB:CC:DD:EE:FF');");
+    support::write_file(leases, "17 AA:BB:CC:DD:EE:FF 192.168.1.3 old\n17 00:11:22:33:44:55 192.168.1.2 tablet\n");
+    support::Recorder recorder;
+    recorder.watch([readings = 0](const std::string &line) mutable {
+        if (line == "usleep 1000" && ++readings == 2) {
+            support::write_file(leases, "17 AA:BB:CC:DD:EE:FF 192.168.1.3 new\n");
+        }
+    });
+    support::WrappedCalls calls;
+    calls.fail("malloc", 2, ENOMEM);  // the first reading remembers one lease of two
+    static MacFilterItemList list;
+    GetMacFilterItemListInServer(&list, "select * from filter_mac;");
+    EXPECT_STREQ(list.items[0].hostname, "tablet");
+    EXPECT_STREQ(list.items[1].hostname, "new");
+    EXPECT_STREQ(list.items[2].hostname, "new");
 }
 
 INSTANTIATE_TEST_SUITE_P(, Memory, testing::ValuesIn(remembering_calls()), testing::PrintToStringParamName());

@@ -42,6 +42,7 @@ protected:
 TEST_P(Client, one_record_and_a_stray_byte_list_as_one) {
     const FakeService service(reply_of(records(1) + "x"));
     EXPECT_EQ(difference(list_of(records(1), 1, GetParam().list_size), list()), "");
+    EXPECT_EQ(difference(records(1), get()), "");
 }
 
 TEST_P(Client, less_than_a_record_is_none) {
@@ -61,6 +62,12 @@ TEST_P(Client, an_empty_reply_leaves_the_whole_buffer_zero) {
 TEST_P(Client, a_full_list_arrives_byte_for_byte) {
     const FakeService service(reply_of(records(128)));
     EXPECT_EQ(difference(list_of(records(128), 128, GetParam().list_size), list()), "");
+}
+
+TEST_P(Client, a_stray_byte_behind_a_full_list_goes_nowhere) {
+    const FakeService service(reply_of(records(128) + "x"));
+    const std::string buffer = list(GetParam().list_size + 8);
+    EXPECT_EQ(difference(list_of(records(128), 128, GetParam().list_size) + "ZZZZZZZZ", buffer), "");
 }
 
 TEST_P(Client, more_records_than_a_list_holds_are_not_cut) {
