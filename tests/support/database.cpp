@@ -31,9 +31,8 @@ Database::~Database() {
 }
 
 void Database::execute(const std::string &sql) const {
-    char *message = nullptr;
-    if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, &message) != SQLITE_OK) {
-        fail(sql + ": " + message);
+    if (sqlite3_exec(db_, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+        fail(sql + ": " + sqlite3_errmsg(db_));
     }
 }
 
