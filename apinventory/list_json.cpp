@@ -86,8 +86,9 @@ void read_each(Totals &totals, SharedConnection &connection) {
     totals.devices = read_number(connection, "select count(*) from DevInfo where Dev_Ipaddress <> '';");
     totals.online = count_online(&connection);
     if (totals.devices > 0) {
-        totals.stations = read_number(connection, "select sum(Dev_Wlan_Sta_Num) from DevInfo ;") +
-                          read_number(connection, "select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
+        const int first = read_number(connection, "select sum(Dev_Wlan_Sta_Num) from DevInfo ;");
+        const int second = read_number(connection, "select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
+        totals.stations = wrapping_sum(first, second);
     }
 }
 
@@ -104,7 +105,7 @@ bool read_at_once(Totals &totals, SharedConnection &connection) {
     const Row row = reading.row();
     totals.devices = row.number(0);
     totals.online = row.number(1);
-    totals.stations = totals.devices > 0 ? row.number(2) + row.number(3) : 0;
+    totals.stations = totals.devices > 0 ? wrapping_sum(row.number(2), row.number(3)) : 0;
     return true;
 }
 

@@ -11,6 +11,11 @@ namespace routerdb {
 /// The number that a text starts with; 0 for one that is no number.
 int number_in(std::string_view text);
 
+/// The sum of two numbers that a database may hold at their limits: there it goes on from the other end.
+constexpr int wrapping_sum(int a, int b) {
+    return static_cast<int>(static_cast<unsigned>(a) + static_cast<unsigned>(b));
+}
+
 /// Networks that an access point has in use, by its own count.
 int wlans_in_use(const DevInfo &device);
 

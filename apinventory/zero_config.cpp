@@ -6,6 +6,7 @@
 #include "apinventory/device_fields.h"
 #include "apinventory/fragments.h"
 #include "apinventory/groups.h"
+#include "apinventory/numbers.h"
 #include "apinventory/wlan_fragments.h"
 #include "apinventory/zero_config_defaults.h"
 #include "core/execute.h"
@@ -94,7 +95,8 @@ int read_first_group_number(SharedConnection &connection) {
 }
 
 int next_group(SharedConnection &connection, int first) {
-    return first == 0 ? 1 : first_number(connection, "select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;") + 1;
+    constexpr char highest[] = "select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;";
+    return first == 0 ? 1 : wrapping_sum(first_number(connection, highest), 1);
 }
 
 void run(const Text &sql) {

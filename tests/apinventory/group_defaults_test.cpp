@@ -85,6 +85,11 @@ TEST(NewGroup, bears_the_number_1_again_when_the_first_row_has_the_number_0) {
     EXPECT_EQ(new_name(), "ZeroCfgGROUP_NAME1");
 }
 
+TEST(NewGroup, goes_on_from_the_other_end_behind_the_highest_number) {
+    insert(zero_config_groups, {{0, "2147483647"}});
+    EXPECT_EQ(new_name(), "ZeroCfgGROUP_NAME-2147483648");
+}
+
 TEST(NewGroup, asks_for_the_first_number_and_the_highest) {
     const std::string first_number = support::build_profile.names_needed_columns
                                          ? "sqlite3_prepare_v2 select WlanGroup_Id from WlanZeroCfgGroupInfo;"
