@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 #include <stdarg.h>
 #include <stdio.h>
+#include <syslog.h>
 #include <time.h>
 
 static sqlite3 *occupant;  // keeps the database busy

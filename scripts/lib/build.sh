@@ -7,7 +7,7 @@ checkout=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 build_packages=(build-essential cmake ninja-build libsqlite3-dev sqlite3 bubblewrap)
 
 # What the tests need beyond that.
-test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 nlohmann-json3-dev)
+test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 lib32stdc++-12-dev nlohmann-json3-dev)
 
 # Prints what builds for another architecture need beyond that: the architecture is what a preset begins with.
 architecture_packages() {
