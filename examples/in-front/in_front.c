@@ -4,7 +4,6 @@
 #include <sqlite3.h>
 #include <stdarg.h>
 #include <stdio.h>
-#include <syslog.h>
 #include <time.h>
 
 static sqlite3 *occupant;  // keeps the database busy
@@ -19,7 +18,7 @@ int usleep(unsigned microseconds) {
     return nanosleep(&pause, NULL);
 }
 
-void syslog(int priority, const char *format, ...) {
+__attribute__((format(printf, 2, 3))) void syslog(int priority, const char *format, ...) {
     va_list arguments;
     va_start(arguments, format);
     printf("The library reports at level %d: ", priority);
