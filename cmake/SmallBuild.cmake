@@ -8,10 +8,10 @@ include(CheckLinkerFlag)
 # left out, 32-bit x86 would keep a frame pointer instead.
 set(small_compile_options -fno-unwind-tables -fno-asynchronous-unwind-tables -fomit-frame-pointer)
 
-# Tables of constants are not aligned beyond what their members need; functions that are called once stay functions,
-# because inside the caller they cost more registers than the call, and so do addresses that are kept across the calls of a
-# loop. A switch of a few cases is smaller as comparisons than as a table. Lists of a
-# quarter of a megabyte are cleared by the C library's memset, not by a loop of eight bytes a time. Not every compiler has these.
+# Tables of constants are not aligned beyond what their members need. Functions that are called once stay functions,
+# because inside the caller they cost more registers than the call, and so do addresses that are kept across the calls
+# of a loop. A switch of a few cases is smaller as comparisons than as a table. Lists of a quarter of a megabyte are
+# cleared by the C library's memset, not by a loop of eight bytes a time. Not every compiler has these.
 foreach(flag -malign-data=abi -fno-inline-functions-called-once -fno-move-loop-invariants -fno-jump-tables
              -fno-tree-switch-conversion -mmemset-strategy=libcall:-1:noalign)
     string(MAKE_C_IDENTIFIER "has${flag}" has_flag)
