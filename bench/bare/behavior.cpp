@@ -15,15 +15,6 @@ namespace bench::bare {
 
 namespace {
 
-std::int32_t integer(sqlite3_stmt *statement, int column) {
-    return std::atoi(text(statement, column));
-}
-
-template <std::size_t width>
-void copy(sqlite3_stmt *statement, int column, char (&field)[width]) {
-    copy_text(text(statement, column), field);
-}
-
 void ask_server_to_write() {
     FILE *const stream = std::fopen(paths::dhcp_server_pid, "r");
     char line[100] = "";

@@ -3,6 +3,11 @@
 
 #include <sqlite3.h>
 
+#include <cstdint>
+#include <cstdlib>
+
+#include "harness/texts.h"
+
 namespace bench::bare {
 
 /// Draws the first delay of a call from rand(). Nobody is busy here, so that it is not used.
@@ -13,6 +18,15 @@ sqlite3_stmt *prepare(sqlite3 *db, const char *sql);
 
 /// The text of a column, empty for NULL.
 const char *text(sqlite3_stmt *statement, int column);
+
+/// The same as a number, and copied into a field.
+inline std::int32_t integer(sqlite3_stmt *statement, int column) {
+    return std::atoi(text(statement, column));
+}
+template <std::size_t width>
+void copy(sqlite3_stmt *statement, int column, char (&field)[width]) {
+    copy_text(text(statement, column), field);
+}
 
 /// Holds the lock file.
 class Lock {

@@ -12,15 +12,6 @@ namespace bench::bare {
 
 namespace {
 
-std::int32_t integer(sqlite3_stmt *statement, int column) {
-    return std::atoi(text(statement, column));
-}
-
-template <std::size_t width>
-void copy(sqlite3_stmt *statement, int column, char (&field)[width]) {
-    copy_text(text(statement, column), field);
-}
-
 void read_time_group(sqlite3 *db, int id, TimeGroupItem &group) {
     group = {};
     draw_delay();
