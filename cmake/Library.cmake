@@ -3,84 +3,84 @@
 
 add_library(
     routerdb_objects OBJECT
-    apinventory/apply.cpp
-    apinventory/collections.cpp
-    apinventory/compare.cpp
-    apinventory/devices.cpp
-    apinventory/doors.cpp
-    apinventory/fragments.cpp
-    apinventory/groups.cpp
-    apinventory/list_json.cpp
-    apinventory/notify.cpp
-    apinventory/numbers.cpp
-    apinventory/paging.cpp
-    apinventory/record_layout.cpp
-    apinventory/record_reader.cpp
-    apinventory/registration.cpp
-    apinventory/station_list.cpp
-    apinventory/status.cpp
-    apinventory/update.cpp
-    apinventory/upgrade.cpp
-    apinventory/zero_config.cpp
-    apinventory/zero_config_json.cpp
-    appcatalog/doors.cpp
-    appcatalog/feature_list.cpp
-    appcatalog/json_lists.cpp
-    appcatalog/names.cpp
-    core/access.cpp
-    core/backoff.cpp
-    core/connection.cpp
-    core/doors.cpp
-    core/encoding.cpp
-    core/execute.cpp
-    core/id_list.cpp
-    core/json_list.cpp
-    core/lock_file.cpp
-    core/maintenance.cpp
-    core/query.cpp
-    core/random.cpp
-    core/reading.cpp
-    core/report.cpp
-    core/row.cpp
-    core/shell.cpp
-    core/statement.cpp
-    core/text.cpp
-    core/time_of_day.cpp
-    dhcp/doors.cpp
-    dhcp/host_name.cpp
-    dhcp/lease_file.cpp
-    dhcp/lease_list.cpp
-    rules/behavior_names.cpp
-    rules/catalogue.cpp
-    rules/catalogue_names.cpp
-    rules/client_ops.cpp
-    rules/columns.cpp
-    rules/derived.cpp
-    rules/doors.cpp
-    rules/list_builder.cpp
-    rules/record_layout.cpp
-    rules/record_reader.cpp
-    rules/references.cpp
-    rules/sql_builder.cpp
-    rules/static_binding.cpp
-    rules/tables/acl.cpp
-    rules/tables/behavior_rule.cpp
-    rules/tables/dhcpserverstaticbind.cpp
-    rules/tables/domain_ip.cpp
-    rules/tables/famliymember.cpp
-    rules/tables/filter_ipport.cpp
-    rules/tables/filter_mac.cpp
-    rules/tables/filter_url.cpp
-    rules/tables/forword_ipport.cpp
-    rules/tables/qos_rule.cpp
-    rules/tables/smartqos_whitelist.cpp
-    rules/tables/user_ipgroup.cpp
-    rules/tables/user_timegroup.cpp
-    rules/tables/user_urlinfo.cpp
-    sqlservice/client.cpp
-    sqlservice/doors.cpp
-    sqlservice/sigpipe_hold.cpp
-    sqlservice/socket.cpp)
+    src/apinventory/apply.cpp
+    src/apinventory/collections.cpp
+    src/apinventory/compare.cpp
+    src/apinventory/devices.cpp
+    src/apinventory/doors.cpp
+    src/apinventory/fragments.cpp
+    src/apinventory/groups.cpp
+    src/apinventory/list_json.cpp
+    src/apinventory/notify.cpp
+    src/apinventory/numbers.cpp
+    src/apinventory/paging.cpp
+    src/apinventory/record_layout.cpp
+    src/apinventory/record_reader.cpp
+    src/apinventory/registration.cpp
+    src/apinventory/station_list.cpp
+    src/apinventory/status.cpp
+    src/apinventory/update.cpp
+    src/apinventory/upgrade.cpp
+    src/apinventory/zero_config.cpp
+    src/apinventory/zero_config_json.cpp
+    src/appcatalog/doors.cpp
+    src/appcatalog/feature_list.cpp
+    src/appcatalog/json_lists.cpp
+    src/appcatalog/names.cpp
+    src/core/access.cpp
+    src/core/backoff.cpp
+    src/core/connection.cpp
+    src/core/doors.cpp
+    src/core/encoding.cpp
+    src/core/execute.cpp
+    src/core/id_list.cpp
+    src/core/json_list.cpp
+    src/core/lock_file.cpp
+    src/core/maintenance.cpp
+    src/core/query.cpp
+    src/core/random.cpp
+    src/core/reading.cpp
+    src/core/report.cpp
+    src/core/row.cpp
+    src/core/shell.cpp
+    src/core/statement.cpp
+    src/core/text.cpp
+    src/core/time_of_day.cpp
+    src/dhcp/doors.cpp
+    src/dhcp/host_name.cpp
+    src/dhcp/lease_file.cpp
+    src/dhcp/lease_list.cpp
+    src/rules/behavior_names.cpp
+    src/rules/catalogue.cpp
+    src/rules/catalogue_names.cpp
+    src/rules/client_ops.cpp
+    src/rules/columns.cpp
+    src/rules/derived.cpp
+    src/rules/doors.cpp
+    src/rules/list_builder.cpp
+    src/rules/record_layout.cpp
+    src/rules/record_reader.cpp
+    src/rules/references.cpp
+    src/rules/sql_builder.cpp
+    src/rules/static_binding.cpp
+    src/rules/tables/acl.cpp
+    src/rules/tables/behavior_rule.cpp
+    src/rules/tables/dhcpserverstaticbind.cpp
+    src/rules/tables/domain_ip.cpp
+    src/rules/tables/famliymember.cpp
+    src/rules/tables/filter_ipport.cpp
+    src/rules/tables/filter_mac.cpp
+    src/rules/tables/filter_url.cpp
+    src/rules/tables/forword_ipport.cpp
+    src/rules/tables/qos_rule.cpp
+    src/rules/tables/smartqos_whitelist.cpp
+    src/rules/tables/user_ipgroup.cpp
+    src/rules/tables/user_timegroup.cpp
+    src/rules/tables/user_urlinfo.cpp
+    src/sqlservice/client.cpp
+    src/sqlservice/doors.cpp
+    src/sqlservice/sigpipe_hold.cpp
+    src/sqlservice/socket.cpp)
 
 set_target_properties(
     routerdb_objects
@@ -89,7 +89,7 @@ set_target_properties(
                VISIBILITY_INLINES_HIDDEN ON)
 target_include_directories(
     routerdb_objects
-    PUBLIC ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+    PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
 target_compile_definitions(routerdb_objects PUBLIC ROUTERDB_PROFILE=${ROUTERDB_PROFILE})
 target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
 # Fortified calls have other names, and programs put their own functions in front of the plain ones.
@@ -111,11 +111,11 @@ set_target_properties(
     PROPERTIES VERSION ${PROJECT_VERSION}
                SOVERSION ${PROJECT_VERSION_MAJOR}
                LINKER_LANGUAGE C # so that no C++ runtime comes in
-               LINK_DEPENDS ${PROJECT_SOURCE_DIR}/routerdb.map)
+               LINK_DEPENDS ${PROJECT_SOURCE_DIR}/src/routerdb.map)
 target_link_options(
     routerdb
     PRIVATE -static-libgcc # 32-bit processors divide with its help
-            LINKER:--version-script=${PROJECT_SOURCE_DIR}/routerdb.map
+            LINKER:--version-script=${PROJECT_SOURCE_DIR}/src/routerdb.map
             LINKER:--no-undefined-version
             LINKER:-z,defs
             LINKER:--gc-sections

@@ -3,7 +3,7 @@
 
 #include <csignal>
 
-#include "../dhcp/lease_list.h"
+#include "dhcp/lease_list.h"
 
 namespace {
 
