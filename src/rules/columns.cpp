@@ -37,7 +37,7 @@ Columns::Columns(const RuleTable &table, sqlite3_stmt *statement) {
     numbers_[0] = table.fields[0].position == by_name ? find(statement, "id") : 0;
     unsigned next = 1;
     for (const Field *field = table.fields; field != table.fields + table.field_count; ++field) {
-        for (unsigned index = 0; index < field->columns() && next <= most_columns; ++index) {
+        for (unsigned index = 0; index < field->columns(); ++index) {
             numbers_[next++] = number_of(*field, index, statement);
         }
     }

@@ -20,8 +20,6 @@ public:
     const std::uint8_t *of_fields() const { return numbers_ + 1; }
 
 private:
-    static constexpr unsigned most_columns = 32;
-
     std::uint8_t numbers_[1 + most_columns];
 };
 

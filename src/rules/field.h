@@ -44,22 +44,22 @@ struct Field {
 
 // A row of a table's field list: the member of `Record` gives column name, offset and width, none of which is typed
 // a second time.
-#define ROUTERDB_FIELD(kind, when, control, member, position)                                     \
+#define RULE_FIELD(kind, when, control, member, position)                                         \
     {                                                                                             \
 #member, routerdb::Kind::kind, routerdb::When::when, position, offsetof(Record, control), \
             offsetof(Record, member), sizeof(Record::member)                                      \
     }
 
-#define NUMBER(member, position) ROUTERDB_FIELD(number, always, id, member, position)
-#define TEXT(member, position) ROUTERDB_FIELD(text, always, id, member, position)
-#define WEEKDAYS(position) ROUTERDB_FIELD(weekdays, always, id, weekday, position)
+#define NUMBER_FIELD(member, position) RULE_FIELD(number, always, id, member, position)
+#define TEXT_FIELD(member, position) RULE_FIELD(text, always, id, member, position)
+#define WEEKDAYS_FIELD(position) RULE_FIELD(weekdays, always, id, weekday, position)
 
-#define OWN_WEEKDAYS(position) ROUTERDB_FIELD(weekdays, own, timecontrol, weekday, position)
-#define OWN_TIME(member, position) ROUTERDB_FIELD(text, own, timecontrol, member, position)
-#define TIME_GROUP_ID(position) ROUTERDB_FIELD(number, referenced, timecontrol, timegroup_id, position)
+#define OWN_WEEKDAYS_FIELD(position) RULE_FIELD(weekdays, own, timecontrol, weekday, position)
+#define OWN_TIME_FIELD(member, position) RULE_FIELD(text, own, timecontrol, member, position)
+#define TIME_GROUP_FIELD(position) RULE_FIELD(number, referenced, timecontrol, timegroup_id, position)
 
-#define OWN_RANGE(member, position) ROUTERDB_FIELD(text, not_referenced, ipcontrol, member, position)
-#define IP_GROUP_ID(position) ROUTERDB_FIELD(number, referenced, ipcontrol, ipgroup_id, position)
+#define OWN_RANGE_FIELD(member, position) RULE_FIELD(text, not_referenced, ipcontrol, member, position)
+#define IP_GROUP_FIELD(position) RULE_FIELD(number, referenced, ipcontrol, ipgroup_id, position)
 
-#define ZERO(column) \
+#define ZERO_FIELD(column) \
     { #column, routerdb::Kind::zero, routerdb::When::always, routerdb::by_name, 0, 0, 0 }

@@ -36,7 +36,7 @@ void *next_record(const RuleTable &table, void *list, std::size_t index) {
 }
 
 /// @return the number of rows
-std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, const char *sql) {
+std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, const char *sql, Derive derive) {
     if (!reading.prepare(sql)) {
         return 0;
     }
@@ -47,8 +47,8 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, cons
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
         void *record = next_record(table, list, count++);
         read_record(table, columns, reading.row(), record);
-        if (table.derive != nullptr) {
-            table.derive(references, record);
+        if (derive != nullptr) {
+            derive(references, record);
         }
     }
     return count;
@@ -56,11 +56,11 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, cons
 
 }  // namespace
 
-int build_item_list(const RuleTable &table, void *list, const char *sql) {
+int build_item_list(const RuleTable &table, void *list, const char *sql, Derive derive) {
     std::memset(list, 0, table.list_size());
     Reading reading(profiles[static_cast<unsigned>(table.messages)]);
     if (reading.open()) {
-        put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, sql)));
+        put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, sql, derive)));
     }
     return reading.close().lock_file;
 }

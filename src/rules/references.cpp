@@ -4,15 +4,17 @@
 #include "core/text.h"
 #include "rules/record_reader.h"
 #include "rules/sql_builder.h"
-#include "rules/tables.h"
+#include "rules/tables/user_timegroup.h"
 
 namespace routerdb {
 
 namespace {
 
+using tables::user_timegroup::table;
+
 void read_time_group(const Statement &statement, void *group) {
-    const Columns columns(tables::user_timegroup, statement.handle());
-    read_record(tables::user_timegroup, columns, statement.row(), group);
+    const Columns columns(table, statement.handle());
+    read_record(table, columns, statement.row(), group);
 }
 
 void read_ip_group(const Statement &statement, void *group) {
@@ -62,7 +64,7 @@ bool look_up_bound(sqlite3 *db, Statement &statement, const char *sql, int id, R
 bool find_time_group(sqlite3 *db, int id, TimeGroupItem &group) {
     group = {};
     StackText<64> sql;
-    append_select(sql, tables::user_timegroup, id);
+    append_select(sql, table, id);
     return look_up(db, sql, Wording::cannot_prepare, read_time_group, &group);
 }
 

@@ -9,6 +9,7 @@
 #include "database.h"
 #include "peer.h"
 #include "routerdb.h"
+#include "rules/tables.h"
 
 namespace sqld {
 
@@ -21,32 +22,11 @@ struct Builder {
     int (*build)(void *list, const char *sql);
 };
 
-#define BUILDER(table_id, Item, function)                                                              \
-    {                                                                                                  \
-        table_id, sizeof(Item),                                                                        \
-            [](void *list, const char *sql) { return function(static_cast<Item##List *>(list), sql); } \
-    }
-
-// clang-format off
-constexpr Builder builders[] = {
-    BUILDER(ROUTERDB_TABLE_DHCP_STATIC, DhcpStaticItem, GetDhcpStaticItemListInServer),
-    BUILDER(ROUTERDB_TABLE_URL_FILTER, UrlFilterItem, GetUrlFilterItemListInServer),
-    BUILDER(ROUTERDB_TABLE_MAC_FILTER, MacFilterItem, GetMacFilterItemListInServer),
-    BUILDER(ROUTERDB_TABLE_IP_FILTER, IpFilterItem, GetIpFilterItemListInServer),
-    BUILDER(ROUTERDB_TABLE_TIME_GROUP, TimeGroupItem, GetTimeGroupItemListInServer),
-    BUILDER(ROUTERDB_TABLE_IP_GROUP, IpGroupItem, GetIpGroupItemListInServer),
-    BUILDER(ROUTERDB_TABLE_SMART_QOS, SmartQosItem, GetSmartQosItemListInServer),
-    BUILDER(ROUTERDB_TABLE_USER_URL, UserUrlItem, GetUserUrlItemListInServer),
-    BUILDER(ROUTERDB_TABLE_FAMLIY_MEMBER, FamliyMemberItem, GetFamliyMemberItemListInServer),
-    BUILDER(ROUTERDB_TABLE_PORT_FORWARD, PortFwItem, GetPortFwItemListInServer),
-    BUILDER(ROUTERDB_TABLE_QOS, QosItem, GetQosItemListInServer),
-    BUILDER(ROUTERDB_TABLE_BEHAVIOR, BehaviorItem, GetBehaviorItemListInServer),
-    BUILDER(ROUTERDB_TABLE_ACL0, AclItem, Get2GAclItemListInServer),
-    BUILDER(ROUTERDB_TABLE_ACL1, AclItem, Get5GAclItemListInServer),
-    BUILDER(ROUTERDB_TABLE_ACL2, AclItem, Get5GAclItemListInServer),
-    BUILDER(ROUTERDB_TABLE_DOMAIN_IP, DomainIpItem, GetDomainIpItemListInServer),
-};
-// clang-format on
+#define BUILDER(name, Item, function, name_for_people) \
+    {routerdb::tables::name::table.id, sizeof(Item),   \
+     [](void *list, const char *sql) { return function(static_cast<Item##List *>(list), sql); }},
+constexpr Builder builders[] = {ROUTERDB_RULE_TABLES(BUILDER)};
+#undef BUILDER
 
 const Builder *find_builder(std::uint32_t table_id) {
     for (const Builder &builder : builders) {

@@ -1,47 +1,39 @@
-// The three Wi-Fi access lists: one record, one list of fields, tables that differ in their number.
+// The three Wi-Fi access lists.
+#include "rules/tables/acl.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
+using namespace routerdb::tables;
 
 namespace {
 
-using Record = AclItem;
+constexpr RuleTable no_list = rule_table<AclItem, acl::fields>("", no_table);
 
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, 1),
-    TEXT(mac, 2),
-    NUMBER(status, 3),
-    TEXT(mark, 4),
-};
-// clang-format on
-
-constexpr RuleTable first_table = rule_table<Record>("wifi0acl", ROUTERDB_TABLE_ACL0, fields);
-
-/// The table of an access list. One that does not exist has no id, and nothing is sent for it.
-RuleTable table_of(int number) {
-    constexpr std::size_t digit = sizeof("wifi") - 1;
-    RuleTable table = first_table;
-    if (number < 0 || number >= static_cast<int>(sizeof(acl_wifi_id) / sizeof(acl_wifi_id[0]))) {
-        table.id = no_table;
-    } else {
-        table.id = static_cast<std::uint8_t>(acl_wifi_id[number]);
-        table.name[digit] = static_cast<char>('0' + number);
+/// The table of an access list. For one that does not exist nothing is sent.
+const RuleTable &table_of(int number) {
+    switch (number) {
+        case 0:
+            return wifi0acl::table;
+        case 1:
+            return wifi1acl::table;
+        case 2:
+            return wifi2acl::table;
+        default:
+            return no_list;
     }
-    table.delete_id = table.id;
-    return table;
 }
 
 }  // namespace
 
 int Get2GAclItemListInServer(AclItemList *list, const char *sql) {
-    return build_item_list(first_table, list, or_empty(sql));
+    return build_item_list(wifi0acl::table, list, or_empty(sql));
 }
 
 int Get5GAclItemListInServer(AclItemList *list, const char *sql) {
-    return build_item_list(first_table, list, or_empty(sql));
+    return build_item_list(wifi0acl::table, list, or_empty(sql));
 }
 
 void GetAclItemList(AclItemList *list, int number) {

@@ -1,4 +1,6 @@
 // Behaviour rules.
+#include "rules/tables/behavior_rule.h"
+
 #include <syslog.h>
 
 #include "core/text.h"
@@ -9,30 +11,9 @@
 #include "rules/list_builder.h"
 
 using namespace routerdb;
+using namespace routerdb::tables::behavior_rule;
 
 namespace {
-
-using Record = BehaviorItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    NUMBER(control_type, by_name),
-    NUMBER(ipcontrol, by_name),
-    IP_GROUP_ID(by_name),
-    NUMBER(timecontrol, by_name),
-    TIME_GROUP_ID(by_name),
-    TEXT(devmac, by_name),
-    OWN_RANGE(devstartip, by_name),
-    OWN_RANGE(devendip, by_name),
-    ZERO(behavior_type),
-    TEXT(behavior_info, by_name),
-    OWN_WEEKDAYS(by_name),
-    OWN_TIME(start_time, by_name),
-    OWN_TIME(end_time, by_name),
-    NUMBER(status, by_name),
-    TEXT(mark, by_name),
-};
-// clang-format on
 
 constexpr TimeSpan time_span = TIME_SPAN(no_flag);
 constexpr AddressRange address_range = ADDRESS_RANGE(sizeof(Record::devstartip));
@@ -48,12 +29,10 @@ void derive(References &references, void *record) {
                           {rule.behavior_names_en, sizeof(rule.behavior_names_en)});
 }
 
-constexpr RuleTable table = rule_table<Record>("behavior_rule", ROUTERDB_TABLE_BEHAVIOR, fields).deriving(derive);
-
 }  // namespace
 
 int GetBehaviorItemListInServer(BehaviorItemList *list, const char *sql) {
-    return build_item_list(table, list, or_empty(sql));
+    return build_item_list(table, list, or_empty(sql), derive);
 }
 
 void GetBehaviorItemList(BehaviorItemList *list) {

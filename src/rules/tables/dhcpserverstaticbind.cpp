@@ -1,28 +1,13 @@
 // Static DHCP bindings.
+#include "rules/tables/dhcpserverstaticbind.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 #include "rules/static_binding.h"
 
 using namespace routerdb;
-
-namespace {
-
-using Record = DhcpStaticItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    NUMBER(devtype, 1),
-    TEXT(mac, 2),
-    TEXT(ip, 3),
-    TEXT(mark, 4),
-};
-// clang-format on
-
-constexpr RuleTable table =
-    rule_table<Record>("dhcpserverstaticbind", ROUTERDB_TABLE_DHCP_STATIC, fields).with_detailed_messages();
-
-}  // namespace
+using namespace routerdb::tables::dhcpserverstaticbind;
 
 int GetDhcpStaticItemListInServer(DhcpStaticItemList *list, const char *sql) {
     return build_item_list(table, list, or_empty(sql));

@@ -1,26 +1,12 @@
 // Family members.
+#include "rules/tables/famliymember.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
-
-namespace {
-
-using Record = FamliyMemberItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, 1),
-    TEXT(mac, 2),
-    NUMBER(devtype, 3),
-    TEXT(mark, 4),
-};
-// clang-format on
-
-constexpr RuleTable table = rule_table<Record>("famliymember", ROUTERDB_TABLE_FAMLIY_MEMBER, fields);
-
-}  // namespace
+using namespace routerdb::tables::famliymember;
 
 int GetFamliyMemberItemListInServer(FamliyMemberItemList *list, const char *sql) {
     return build_item_list(table, list, or_empty(sql));

@@ -1,34 +1,15 @@
 // IP and port filters. The columns of the table stand in another order than those of insert and update.
+#include "rules/tables/filter_ipport.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
+using namespace routerdb::tables::filter_ipport;
 
 namespace {
-
-using Record = IpFilterItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, 1),
-    NUMBER(ipcontrol, 2),
-    IP_GROUP_ID(3),
-    NUMBER(timecontrol, 9),
-    TIME_GROUP_ID(10),
-    OWN_RANGE(devstartip, 4),
-    OWN_RANGE(devendip, 5),
-    NUMBER(devfromport, 6),
-    NUMBER(devtoport, 7),
-    NUMBER(protocol, 8),
-    OWN_WEEKDAYS(11),
-    OWN_TIME(start_time, 18),
-    OWN_TIME(end_time, 19),
-    NUMBER(status, 20),
-    TEXT(mark, 21),
-};
-// clang-format on
 
 constexpr TimeSpan time_span = TIME_SPAN(no_flag);
 constexpr AddressRange address_range = ADDRESS_RANGE(sizeof(Record::devstartip));
@@ -38,12 +19,10 @@ void derive(References &references, void *record) {
     derive_time_span(time_span, references, record);
 }
 
-constexpr RuleTable table = rule_table<Record>("filter_ipport", ROUTERDB_TABLE_IP_FILTER, fields).deriving(derive);
-
 }  // namespace
 
 int GetIpFilterItemListInServer(IpFilterItemList *list, const char *sql) {
-    return build_item_list(table, list, or_empty(sql));
+    return build_item_list(table, list, or_empty(sql), derive);
 }
 
 void GetIpFilterItemList(IpFilterItemList *list) {

@@ -1,4 +1,6 @@
 // MAC filters.
+#include "rules/tables/filter_mac.h"
+
 #include "core/text.h"
 #include "dhcp/host_name.h"
 #include "rules/client_ops.h"
@@ -6,24 +8,9 @@
 #include "rules/list_builder.h"
 
 using namespace routerdb;
+using namespace routerdb::tables::filter_mac;
 
 namespace {
-
-using Record = MacFilterItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, 1),
-    TEXT(devmac, 2),
-    NUMBER(timecontrol, 3),
-    TIME_GROUP_ID(4),
-    OWN_WEEKDAYS(5),
-    OWN_TIME(start_time, 12),
-    OWN_TIME(end_time, 13),
-    NUMBER(status, 14),
-    TEXT(mark, 15),
-};
-// clang-format on
 
 constexpr TimeSpan time_span = TIME_SPAN(no_flag);
 
@@ -35,13 +22,10 @@ void derive(References &references, void *record) {
     references.host_names.find(rule.devmac, rule.hostname);
 }
 
-constexpr RuleTable table =
-    rule_table<Record>("filter_mac", ROUTERDB_TABLE_MAC_FILTER, fields).with_detailed_messages().deriving(derive);
-
 }  // namespace
 
 int GetMacFilterItemListInServer(MacFilterItemList *list, const char *sql) {
-    return build_item_list(table, list, or_empty(sql));
+    return build_item_list(table, list, or_empty(sql), derive);
 }
 
 void GetMacFilterItemList(MacFilterItemList *list) {

@@ -1,29 +1,15 @@
 // URL filters.
+#include "rules/tables/filter_url.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
+using namespace routerdb::tables::filter_url;
 
 namespace {
-
-using Record = UrlFilterItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, 1),
-    TEXT(url, 2),
-    NUMBER(timecontrol, 3),
-    TIME_GROUP_ID(4),
-    OWN_WEEKDAYS(5),
-    OWN_TIME(start_time, 12),
-    OWN_TIME(end_time, 13),
-    NUMBER(status, 14),
-    TEXT(mark, 15),
-};
-
-// clang-format on
 
 constexpr TimeSpan time_span = TIME_SPAN(offsetof(Record, time_valid));
 
@@ -31,13 +17,10 @@ void derive(References &references, void *record) {
     derive_time_span(time_span, references, record);
 }
 
-constexpr RuleTable table =
-    rule_table<Record>("filter_url", ROUTERDB_TABLE_URL_FILTER, fields).ordered_by("Id").deriving(derive);
-
 }  // namespace
 
 int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql) {
-    return build_item_list(table, list, or_empty(sql));
+    return build_item_list(table, list, or_empty(sql), derive);
 }
 
 void GetUrlFilterItemList(UrlFilterItemList *list) {

@@ -1,32 +1,12 @@
 // Port forwardings. The record has its members in an order of its own.
+#include "rules/tables/forword_ipport.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
-
-namespace {
-
-using Record = PortFwItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, 1),
-    TEXT(devip, 2),
-    NUMBER(protocol, 3),
-    NUMBER(devinnerfromport, 4),
-    NUMBER(devinnertoport, 5),
-    NUMBER(devexternfromport, 6),
-    NUMBER(devexterntoport, 7),
-    NUMBER(wanid, 8),
-    NUMBER(status, 9),
-    TEXT(mark, 10),
-};
-// clang-format on
-
-constexpr RuleTable table = rule_table<Record>("forword_ipport", ROUTERDB_TABLE_PORT_FORWARD, fields).ordered_by("Id");
-
-}  // namespace
+using namespace routerdb::tables::forword_ipport;
 
 int GetPortFwItemListInServer(PortFwItemList *list, const char *sql) {
     return build_item_list(table, list, or_empty(sql));

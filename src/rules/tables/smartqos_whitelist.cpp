@@ -1,24 +1,12 @@
 // The smart-QoS white list.
+#include "rules/tables/smartqos_whitelist.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
-
-namespace {
-
-using Record = SmartQosItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(devmac, by_name),
-    TEXT(mark, by_name),
-};
-// clang-format on
-
-constexpr RuleTable table = rule_table<Record>("smartqos_whitelist", ROUTERDB_TABLE_SMART_QOS, fields);
-
-}  // namespace
+using namespace routerdb::tables::smartqos_whitelist;
 
 int GetSmartQosItemListInServer(SmartQosItemList *list, const char *sql) {
     return build_item_list(table, list, or_empty(sql));

@@ -1,26 +1,12 @@
 // IP groups, which other rules reference.
+#include "rules/tables/user_ipgroup.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
-
-namespace {
-
-using Record = IpGroupItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, by_name),
-    TEXT(startip, by_name),
-    TEXT(endip, by_name),
-    TEXT(mark, by_name),
-};
-// clang-format on
-
-constexpr RuleTable table = rule_table<Record>("user_ipgroup", ROUTERDB_TABLE_IP_GROUP, fields);
-
-}  // namespace
+using namespace routerdb::tables::user_ipgroup;
 
 int GetIpGroupItemListInServer(IpGroupItemList *list, const char *sql) {
     return build_item_list(table, list, or_empty(sql));

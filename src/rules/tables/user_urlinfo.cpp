@@ -1,25 +1,12 @@
 // User URLs.
+#include "rules/tables/user_urlinfo.h"
+
 #include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 
 using namespace routerdb;
-
-namespace {
-
-using Record = UserUrlItem;
-
-// clang-format off
-constexpr Field fields[] = {
-    TEXT(name, by_name),
-    TEXT(url, by_name),
-    TEXT(mark, by_name),
-};
-// clang-format on
-
-constexpr RuleTable table = rule_table<Record>("user_urlinfo", ROUTERDB_TABLE_USER_URL, fields);
-
-}  // namespace
+using namespace routerdb::tables::user_urlinfo;
 
 int GetUserUrlItemListInServer(UserUrlItemList *list, const char *sql) {
     return build_item_list(table, list, or_empty(sql));

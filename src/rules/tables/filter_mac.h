@@ -1,0 +1,27 @@
+// MAC filters.
+#pragma once
+
+#include "rules/rule_table.h"
+
+namespace routerdb::tables::filter_mac {
+
+using Record = MacFilterItem;
+
+// clang-format off
+inline constexpr Field fields[] = {
+    TEXT_FIELD(name, 1),
+    TEXT_FIELD(devmac, 2),
+    NUMBER_FIELD(timecontrol, 3),
+    TIME_GROUP_FIELD(4),
+    OWN_WEEKDAYS_FIELD(5),
+    OWN_TIME_FIELD(start_time, 12),
+    OWN_TIME_FIELD(end_time, 13),
+    NUMBER_FIELD(status, 14),
+    TEXT_FIELD(mark, 15),
+};
+// clang-format on
+
+inline constexpr RuleTable table =
+    rule_table<Record, fields>("filter_mac", ROUTERDB_TABLE_MAC_FILTER).with_detailed_messages();
+
+}  // namespace routerdb::tables::filter_mac
