@@ -52,10 +52,15 @@ void copy_wireless(DevInfo &device, const DevInfo &group) {
     copy_members(radius_members, &device, &group);
 }
 
-/// Takes a group's channel if it suits the radio.
-template <std::size_t width>
-void copy_channel(char (&to)[width], const char (&from)[width], bool suits, const char *otherwise) {
-    copy_cut(suits ? from : otherwise, to, width);
+/// Takes the group's channels where they suit their radios.
+void copy_channels(DevInfo &device, const DevInfo &group) {
+    constexpr Member first = DEVICE_MEMBER(Dev_Wlan_Channel);
+    constexpr Member second = DEVICE_MEMBER(Dev_Wlan_Channel_sec);
+    constexpr int last_channel_of_first_radio = 13;
+    const std::string_view low = text_of(&group, first);
+    const std::string_view high = text_of(&group, second);
+    give_text(first, &device, !low.empty() && number_in(low) <= last_channel_of_first_radio ? low : "0");
+    give_text(second, &device, number_in(high) > 0 ? high : "15");
 }
 
 }  // namespace
@@ -66,13 +71,8 @@ void apply_group(DevInfo &device, const DevInfo &group) {
 }
 
 void apply_zero_config(DevInfo &device, const DevInfo &group) {
-    constexpr int last_channel_of_first_radio = 13;
     copy_wireless(device, group);
-    const std::string_view first = field_text(group.Dev_Wlan_Channel);
-    const std::string_view second = field_text(group.Dev_Wlan_Channel_sec);
-    copy_channel(device.Dev_Wlan_Channel, group.Dev_Wlan_Channel,
-                 !first.empty() && number_in(first) <= last_channel_of_first_radio, "0");
-    copy_channel(device.Dev_Wlan_Channel_sec, group.Dev_Wlan_Channel_sec, number_in(second) > 0, "15");
+    copy_channels(device, group);
     copy_members(reboot_and_power, &device, &group);
 }
 

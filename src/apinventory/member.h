@@ -31,9 +31,8 @@ bool any_differs(const Member (&members)[count], const void *a, const void *b) {
     return false;
 }
 
-/// Copies a text with its terminator; what the member held behind it stays.
-inline void copy_member(const Member &member, void *to, const void *from) {
-    const std::string_view text = text_of(from, member);
+/// Gives a member a text, with its terminator if there is room for one; what the member held behind it stays.
+inline void give_text(const Member &member, void *to, std::string_view text) {
     char *field = static_cast<char *>(to) + member.offset;
     std::memcpy(field, text.data(), text.size());
     if (text.size() < member.width) {
@@ -44,7 +43,7 @@ inline void copy_member(const Member &member, void *to, const void *from) {
 template <std::size_t count>
 void copy_members(const Member (&members)[count], void *to, const void *from) {
     for (const Member &member : members) {
-        copy_member(member, to, from);
+        give_text(member, to, text_of(from, member));
     }
 }
 

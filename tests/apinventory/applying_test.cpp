@@ -3,6 +3,7 @@
 
 #include "apinventory/places.h"
 #include "apinventory/tables.h"
+#include "support/at_page_end.h"
 #include "support/named.h"
 
 namespace {
@@ -105,9 +106,18 @@ TEST_P(Applying, an_empty_group_empties_what_it_gives) {
 
 TEST_P(Applying, texts_that_fill_their_members_are_given_whole) {
     DevInfo full = places::record_of(std::string(places::record_size, 'g'));
-    put(full, "Dev_Wlan_Channel", "0006");
-    put(full, "Dev_Wlan_Channel_sec", "0149");
+    put(full, "Dev_Wlan_Channel", "00006");
+    put(full, "Dev_Wlan_Channel_sec", "00149");
     expect(device(), full);
+}
+
+TEST_P(Applying, reads_no_further_than_a_group_without_a_terminator) {
+    support::AtPageEnd<DevInfo> full(places::record_of(std::string(places::record_size, '7')));
+    DevInfo device{};
+    GetParam().apply(&device, full.get());
+    EXPECT_EQ(places::text(device, "Dev_Wlan8_Ssid"), std::string(100, '7'));
+    EXPECT_EQ(places::text(device, "Dev_Wlan_Channel"), GetParam().zero_config ? "0" : "");
+    EXPECT_EQ(places::text(device, "Dev_Wlan_Channel_sec"), GetParam().zero_config ? "77777" : "");
 }
 
 TEST_P(Applying, keeps_bssids_and_what_identifies_the_access_point) {
@@ -174,6 +184,33 @@ TEST(Channels, of_the_first_radio_that_are_no_channels_are_taken_as_they_stand) 
     for (const char *channel : {"-1", "auto", "13x", "6.5", "0006"}) {
         EXPECT_EQ(channels_after(SetDevInfoFromWlanZeroCfgGroupInfo, channel, "36").first, channel);
     }
+}
+
+TEST(Channels, of_five_characters_are_taken_whole) {
+    EXPECT_EQ(channels_after(SetDevInfoFromWlanZeroCfgGroupInfo, "11abc", "36abc"),
+              std::pair(std::string("11abc"), std::string("36abc")));
+    EXPECT_EQ(channels_after(SetDevInfoFromWlanZeroCfgGroupInfo, "-1234", "00149"),
+              std::pair(std::string("-1234"), std::string("00149")));
+}
+
+TEST(Channels, of_five_characters_are_read_to_their_last_one) {
+    EXPECT_EQ(channels_after(SetDevInfoFromWlanZeroCfgGroupInfo, "00014", "00000").first, "0");
+    EXPECT_EQ(channels_after(SetDevInfoFromWlanZeroCfgGroupInfo, "00013", "00000").second, "15");
+    EXPECT_EQ(channels_after(SetDevInfoFromWlanZeroCfgGroupInfo, "00013", "00001"),
+              std::pair(std::string("00013"), std::string("00001")));
+}
+
+TEST(Channels, leave_what_stood_behind_them) {
+    const auto bytes_after = [](const char *first, const char *second) {
+        DevInfo device = places::odd_record();
+        DevInfo group{};
+        put(group, "Dev_Wlan_Channel", first);
+        put(group, "Dev_Wlan_Channel_sec", second);
+        SetDevInfoFromWlanZeroCfgGroupInfo(&device, &group);
+        return std::string(device.Dev_Wlan_Channel, 5) + std::string(device.Dev_Wlan_Channel_sec, 5);
+    };
+    EXPECT_EQ(bytes_after("6", "149"), std::string("6\0ZZZ149\0Z", 10));
+    EXPECT_EQ(bytes_after("14", "0"), std::string("0\0ZZZ15\0ZZ", 10));
 }
 
 TEST(Channels, of_the_second_radio_that_are_empty_or_0_or_none_become_15) {
