@@ -27,6 +27,7 @@ add_library(
     src/apinventory/upgrade.cpp
     src/apinventory/zero_config.cpp
     src/apinventory/zero_config_json.cpp
+    src/appcatalog/catalogue.cpp
     src/appcatalog/doors.cpp
     src/appcatalog/feature_list.cpp
     src/appcatalog/json_lists.cpp
@@ -55,8 +56,6 @@ add_library(
     src/dhcp/lease_file.cpp
     src/dhcp/lease_list.cpp
     src/rules/behavior_names.cpp
-    src/rules/catalogue.cpp
-    src/rules/catalogue_names.cpp
     src/rules/client_ops.cpp
     src/rules/columns.cpp
     src/rules/derived.cpp

@@ -83,24 +83,15 @@ bool NameJoiner::read_applications() {
 }
 
 bool NameJoiner::remember(const Row &row) {
-    std::string_view texts[joined_columns];
-    std::size_t size = 0;
-    for (unsigned index = 0; index < joined_columns; ++index) {
-        texts[index] = catalogue_text(row, 1 + static_cast<int>(index));
-        size += texts[index].size() + 1;
-    }
-    Application *const entry = row.is_int(0) ? applications_.add(size) : nullptr;
-    if (entry == nullptr) {
+    if (!row.is_int(0)) {
         return false;
     }
-    entry->class_id = row.number(0);
-    char *place = reinterpret_cast<char *>(entry + 1);
-    for (unsigned index = 0; index < joined_columns; ++index) {
-        copy_cut(texts[index], place, texts[index].size() + 1);
-        entry->texts[index] = place;
-        place += texts[index].size() + 1;
+    Application *const entry =
+        applications_.add({catalogue_text(row, 1), catalogue_text(row, 2), catalogue_text(row, 3)});
+    if (entry != nullptr) {
+        entry->class_id = row.number(0);
     }
-    return true;
+    return entry != nullptr;
 }
 
 }  // namespace routerdb

@@ -28,7 +28,6 @@ public:
     void join(Joined column, int class_id, char *out);
 
 private:
-    /// The texts lie behind the entry.
     struct Application {
         int class_id;
         const char *texts[joined_columns];

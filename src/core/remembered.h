@@ -4,22 +4,24 @@
 #include <cstddef>
 #include <cstdlib>
 #include <new>
+#include <string_view>
 
 #include "core/build_profile.h"
+#include "core/text.h"
 
 namespace routerdb {
 
 /// Entries on the heap, in the order in which they came, gone with the call. A lookup that failed is not to be
-/// remembered: the next one may succeed.
-template <typename Entry, bool remembers>
-class EntriesOfCall {
+/// remembered: the next one may succeed. Where the build profile does not remember lookups it is always empty.
+template <typename Entry>
+class Remembered {
 public:
-    static constexpr bool enabled = true;
+    static constexpr bool enabled = build_profile.remembers_lookups;
 
-    EntriesOfCall() = default;
-    EntriesOfCall(const EntriesOfCall &) = delete;
-    EntriesOfCall &operator=(const EntriesOfCall &) = delete;
-    ~EntriesOfCall() { clear(); }
+    Remembered() = default;
+    Remembered(const Remembered &) = delete;
+    Remembered &operator=(const Remembered &) = delete;
+    ~Remembered() { clear(); }
 
     void clear() {
         while (first_ != nullptr) {
@@ -41,10 +43,41 @@ public:
         return node != nullptr ? &node->entry : nullptr;
     }
 
-    /// Makes a cleared entry, with `room` bytes behind it.
+    /// Makes a cleared entry.
     /// @return null without memory
-    Entry *add(std::size_t room = 0) {
-        void *const block = std::malloc(sizeof(Node) + room);
+    Entry *add() { return make(0); }
+
+    /// Makes an entry whose member `texts` holds copies of the texts given, which lie behind it. One that has no
+    /// address becomes null.
+    /// @return null without memory
+    template <std::size_t count>
+    Entry *add(const std::string_view (&texts)[count]) {
+        std::size_t room = 0;
+        for (const std::string_view text : texts) {
+            room += text.size() + 1;
+        }
+        Entry *const entry = make(room);
+        if (entry == nullptr) {
+            return nullptr;
+        }
+        char *place = reinterpret_cast<char *>(entry + 1);
+        for (std::size_t index = 0; index < count; ++index) {
+            const std::string_view text = texts[index];
+            copy_cut(text, place, text.size() + 1);
+            entry->texts[index] = text.data() != nullptr ? place : nullptr;
+            place += text.size() + 1;
+        }
+        return entry;
+    }
+
+private:
+    struct Node {
+        Node *next;
+        Entry entry;
+    };
+
+    Entry *make(std::size_t room) {
+        void *const block = enabled ? std::malloc(sizeof(Node) + room) : nullptr;
         if (block == nullptr) {
             return nullptr;
         }
@@ -54,32 +87,8 @@ public:
         return &node->entry;
     }
 
-private:
-    struct Node {
-        Node *next;
-        Entry entry;
-    };
-
     Node *first_ = nullptr;
     Node **end_ = &first_;
 };
-
-/// Where nothing is remembered, it is always empty.
-template <typename Entry>
-class EntriesOfCall<Entry, false> {
-public:
-    static constexpr bool enabled = false;
-
-    static void clear() {}
-
-    template <typename Matches>
-    static Entry *find(Matches /*matches*/) {
-        return nullptr;
-    }
-    static Entry *add(std::size_t /*room*/ = 0) { return nullptr; }
-};
-
-template <typename Entry>
-using Remembered = EntriesOfCall<Entry, build_profile.remembers_lookups>;
 
 }  // namespace routerdb

@@ -83,9 +83,9 @@ void HostNames::find(const char *mac, char *hostname) {
         leases_.clear();
         return read(mac, hostname);
     }
-    const Lease *const found = leases_.find([mac](const Lease &lease) { return std::strcmp(lease.mac, mac) == 0; });
+    const Lease *const found = leases_.find([mac](const Lease &lease) { return std::strcmp(lease.mac(), mac) == 0; });
     if (found != nullptr) {
-        copy_cut(found->hostname, hostname, host_name_width);
+        copy_cut(found->hostname(), hostname, host_name_width);
     }
 }
 
@@ -98,23 +98,10 @@ void HostNames::read(const char *mac, char *hostname) {
             copy_cut(line.hostname, hostname, host_name_width);
             found = true;
         }
-        complete = complete && remember(line.mac, line.hostname);
+        complete = complete && leases_.add({line.mac, line.hostname}) != nullptr;
         return complete || !found;
     });
     known_ = readable && complete;
-}
-
-/// @return false without memory
-bool HostNames::remember(const char *mac, const char *hostname) {
-    const std::size_t mac_size = std::strlen(mac) + 1;
-    const std::size_t hostname_size = std::strlen(hostname) + 1;
-    Lease *const lease = leases_.add(mac_size + hostname_size);
-    if (lease != nullptr) {
-        char *const texts = reinterpret_cast<char *>(lease + 1);
-        lease->mac = static_cast<const char *>(std::memcpy(texts, mac, mac_size));
-        lease->hostname = static_cast<const char *>(std::memcpy(texts + mac_size, hostname, hostname_size));
-    }
-    return lease != nullptr;
 }
 
 }  // namespace routerdb

@@ -27,14 +27,14 @@ public:
     void find(const char *mac, char *hostname);
 
 private:
-    /// Both texts lie behind the entry.
     struct Lease {
-        const char *mac;
-        const char *hostname;
+        const char *texts[2];  // MAC address, host name
+
+        const char *mac() const { return texts[0]; }
+        const char *hostname() const { return texts[1]; }
     };
 
     void read(const char *mac, char *hostname);
-    bool remember(const char *mac, const char *hostname);
 
     bool known_ = false;
     Remembered<Lease> leases_;

@@ -5,8 +5,6 @@
 #include <string_view>
 #include <utility>
 
-#include "rules/catalogue_names.h"
-
 namespace routerdb {
 
 namespace {
@@ -74,7 +72,7 @@ void Writer::write_group(std::string_view group) {
 }
 
 void Writer::write_class(int class_id) {
-    const CatalogueNames names(catalogue_, class_id);
+    const Catalogue::Entry names = catalogue_.of_class(class_id);
     if (!names.complete()) {
         return;
     }
@@ -88,7 +86,7 @@ void Writer::write_class(int class_id) {
 }
 
 void Writer::write_application(int class_id, std::string_view feature, bool &first) {
-    const CatalogueNames names(catalogue_, class_id, feature);
+    const Catalogue::Entry names = catalogue_.of_application(class_id, feature);
     if (!names.complete()) {
         return;
     }

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "rules/catalogue.h"
+#include "appcatalog/catalogue.h"
 
 namespace routerdb {
 

@@ -1,9 +1,9 @@
 // The exported lookups. The operations on a table stand in the table's own file.
 #include <cstring>
 
+#include "appcatalog/catalogue.h"
 #include "core/text.h"
 #include "rules/behavior_names.h"
-#include "rules/catalogue_names.h"
 #include "rules/references.h"
 
 using namespace routerdb;
@@ -13,7 +13,7 @@ const uint32_t acl_wifi_id[3] = {ROUTERDB_TABLE_ACL0, ROUTERDB_TABLE_ACL1, ROUTE
 namespace {
 
 /// The caller vouches for the room.
-void copy_names(const CatalogueNames &names, char *name, char *name_en) {
+void copy_names(const Catalogue::Entry &names, char *name, char *name_en) {
     if (names.found()) {
         std::strcpy(name, names.name());
         std::strcpy(name_en, names.name_en());
@@ -32,12 +32,12 @@ void GetIpGroup_IpRangeById(sqlite3 *db, int id, IpGroupItem *group) {
 
 void GetClassNameByClassId(int id, char *name, char *name_en) {
     Catalogue catalogue;
-    copy_names(CatalogueNames(catalogue, id), name, name_en);
+    copy_names(catalogue.of_class(id), name, name_en);
 }
 
 void GetAppNameByClassIdAppfeature(int class_id, const char *feature, char *name, char *name_en) {
     Catalogue catalogue;
-    copy_names(CatalogueNames(catalogue, class_id, or_empty(feature)), name, name_en);
+    copy_names(catalogue.of_application(class_id, or_empty(feature)), name, name_en);
 }
 
 void GetBehaviorItemInfoTypeName(const char *info, char *names, char *names_en) {

@@ -3,11 +3,11 @@
 
 #include <sqlite3.h>
 
+#include "appcatalog/catalogue.h"
 #include "core/remembered.h"
 #include "core/statement.h"
 #include "dhcp/host_name.h"
 #include "routerdb.h"
-#include "rules/catalogue.h"
 
 namespace routerdb {
 

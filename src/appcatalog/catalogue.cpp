@@ -1,0 +1,132 @@
+#include "appcatalog/catalogue.h"
+
+#include <cstring>
+
+namespace routerdb {
+
+namespace {
+
+constexpr Message error_on_output{Stream::standard_output, Wording::error};
+
+// clang-format off
+constexpr ReadProfile entries{
+    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
+     Stream::nowhere, Stream::nowhere, error_on_output, FailedHandle::closed},
+    error_on_output};
+
+// Nothing is said here: an application that is not known afterwards is looked up by itself, and that lookup says it.
+constexpr ReadProfile applications_of_class{
+    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
+     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
+    no_message};
+// clang-format on
+
+/// The names of what is known not to be there.
+constexpr const char *no_names[2] = {nullptr, nullptr};
+
+/// Whether comparing its bytes finds a feature as the statement does: a quote in it would be part of the statement.
+bool is_plain(std::string_view feature) {
+    return std::memchr(feature.data(), '\'', feature.size()) == nullptr;
+}
+
+/// A text that may not be there.
+std::string_view view_of(const char *text) {
+    return text != nullptr ? std::string_view(text) : std::string_view();
+}
+
+}  // namespace
+
+Catalogue::Entry Catalogue::of_class(int id) {
+    return Entry(*this, id);
+}
+
+Catalogue::Entry Catalogue::of_application(int class_id, std::string_view feature) {
+    return Entry(*this, class_id, feature);
+}
+
+Catalogue::Class *Catalogue::known_class(int id) {
+    return classes_.find([id](const Class &known) { return known.id == id; });
+}
+
+void Catalogue::remember_class(int id, const char *name, const char *name_en) {
+    if (Class *const known = classes_.add({view_of(name), view_of(name_en)})) {
+        known->id = id;
+    }
+}
+
+/// @return both names, null ones for an application that is not there; null for one that has to be looked up
+const char *const *Catalogue::known_names(int class_id, std::string_view feature) {
+    Class *const owner = known_class(class_id);
+    if (owner == nullptr || !is_plain(feature)) {
+        return nullptr;
+    }
+    if (owner->state == State::not_read) {
+        owner->state = read_applications(*owner) ? State::known : State::not_knowable;
+    }
+    if (owner->state == State::not_knowable) {
+        return nullptr;
+    }
+    const Application *const found =
+        owner->applications.find([feature](const Application &known) { return known.texts[0] == feature; });
+    return found != nullptr ? found->texts + 1 : no_names;
+}
+
+/// @return whether all of them are there, their features as texts: others compare in ways of their own
+bool Catalogue::read_applications(Class &owner) {
+    StackText<96> sql;
+    sql.append("select Features,Name,Name_En from App_Info where Class_Id=").append_quoted(long{owner.id}).append(";");
+    Reading reading(applications_of_class, &connection_);
+    if (!reading.open() || !reading.prepare(sql.c_str())) {
+        return false;
+    }
+    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        const Row row = reading.row();
+        if (!row.is_text(0) || owner.applications.add({row.text(0), row.text(1), row.text(2)}) == nullptr) {
+            return false;
+        }
+    }
+    return reading.ended_well();
+}
+
+Catalogue::Entry::Entry(Catalogue &catalogue, int class_id) : reading_(entries, &catalogue.connection_) {
+    if (const Class *const known = catalogue.known_class(class_id)) {
+        take(known->texts);
+        return;
+    }
+    SqlText sql;
+    sql.append("select  Name,Name_En from App_Class where Id=").append_quoted(long{class_id}).append(";");
+    if (look_up(sql)) {
+        catalogue.remember_class(class_id, name_, name_en_);
+    }
+}
+
+Catalogue::Entry::Entry(Catalogue &catalogue, int class_id, std::string_view feature)
+    : reading_(entries, &catalogue.connection_) {
+    if (const char *const *const known = catalogue.known_names(class_id, feature)) {
+        take(known);
+        return;
+    }
+    SqlText sql;
+    sql.append("select Name,Name_En from App_Info where Class_Id=").append_quoted(long{class_id});
+    sql.append(" and Features=").append_quoted(feature).append(";");
+    look_up(sql);
+}
+
+void Catalogue::Entry::take(const char *const *names) {
+    name_ = names[0];
+    name_en_ = names[1];
+}
+
+/// @return whether the lookup went well, with or without an entry
+bool Catalogue::Entry::look_up(const Text &sql) {
+    if (!sql.complete() || !reading_.open() || !reading_.prepare(sql.c_str())) {
+        return false;
+    }
+    if (reading_.first_row()) {
+        name_ = reading_.row().text(0);
+        name_en_ = reading_.row().text(1);
+    }
+    return reading_.ended_well();
+}
+
+}  // namespace routerdb
