@@ -12,20 +12,24 @@
 /// 2. Ownership. The caller owns every buffer that it passes, and the library keeps no pointer to it after the call.
 ///    Sizes are stated here and not checked there: a buffer must have the size that the comment gives.
 /// 3. Texts. Character arrays hold NUL-terminated UTF-8; a width counts the terminator. A value from the database
-///    that is longer than its field is cut at the field's width. A null pointer where SQL is expected is read as
-///    the empty text; every other pointer must be valid.
+///    that is longer than its field is cut at the field's width, be it inside a character. A null pointer where SQL
+///    or a text that goes into it is expected is read as the empty text; every other pointer must be valid.
 /// 4. SQL. Values are put between single quotes as they stand: callers keep apostrophes out of them.
 /// 5. Messages. They go to standard output, standard error or the system log (LOG_ERR), as each function says. None
 ///    of them is meant for the caller's program.
 /// 6. Busy databases. While SQLite answers 5 (busy), 6 (locked) or 10 (I/O error) a call sleeps and tries again,
-///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()).
+///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()). Once a
+///    row has come nothing is tried again: any other answer ends the rows. A text of several statements is tried
+///    again from its start: those before the one that was busy may be applied twice.
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
-///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay reseed the
-///    process-wide generator of rand().
+///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay, and
+///    GetApDevStaList(), reseed the process-wide generator of rand().
 /// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache.
 /// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
 ///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
+/// 10. Missing databases. A function that opens a database, be it only to read, leaves an empty file behind where
+///     there was none. A script that copies the factory file "if there is none" does so before the first call.
 #ifndef ROUTERDB_H
 #define ROUTERDB_H
 
@@ -53,7 +57,7 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 
 /// Applies a record lock to a descriptor with fcntl.
 /// @param fd      an open descriptor
-/// @param cmd     F_SETLK, F_SETLKW or F_GETLK
+/// @param cmd     F_SETLK or F_SETLKW; what F_GETLK finds out is not handed on
 /// @param type    F_RDLCK, F_WRLCK or F_UNLCK
 /// @param offset  first byte, relative to `whence`
 /// @param whence  SEEK_SET, SEEK_CUR or SEEK_END
@@ -131,16 +135,17 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
 /// Reads a number from a query on the main database. Row k is read at its column k, both counted from 0, and the
 /// last row wins: a query with one row gives its first column.
 /// @param      sql    the query
-/// @param[out] value  receives the number, as strtoul reads the column's text; untouched without a row
+/// @param[out] value  receives the number, as strtoul reads the column's text, 0 for a column that is NULL or does
+///                    not exist; untouched without a row
 /// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
 ///       First sleep 55 microseconds.
 /// @note Thread-safe; takes no lock.
 ROUTERDB_API int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value);
 
-/// Reads the first column of a query on the main database as text; the last row wins.
+/// Reads the first column of a query on the main database as text; the last row wins in which it is not NULL.
 /// @param      sql  the query
-/// @param[out] out  receives the text with its terminator, whatever its length; untouched without a row or for NULL
+/// @param[out] out  receives the text with its terminator, whatever its length; untouched without such a row
 /// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds.
@@ -201,9 +206,9 @@ enum {
 /// Most identifiers that are read from one list.
 #define ROUTERDB_MAX_IDS 128
 
-/// Reads identifiers separated by '#', such as "3#7#12". Empty fields vanish; a field that is not a number counts
-/// as 0; a text without any '#' is one identifier, also when it is empty.
-/// @param[in,out] text  the list; its separators are overwritten. Null reads as no identifier
+/// Reads identifiers separated by '#', such as "3#7#12". Empty fields vanish; a field counts as the number that it
+/// starts with, or as 0; a text without any '#' is one identifier, also when it is empty.
+/// @param[in,out] text  the list; separators in it are overwritten. Null reads as no identifier
 /// @param[out]    ids   room for ROUTERDB_MAX_IDS numbers
 /// @return the number of identifiers stored, 0 to ROUTERDB_MAX_IDS; those behind are not read
 /// @note Thread-safe.
@@ -232,25 +237,29 @@ ROUTERDB_API size_t generate_db_params(char *text, char *out, unsigned int size,
 /// @param[out] out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the result where that is known to be
 ///                     shorter
 /// @param      outlen  bytes of `out` that are set to zero first; they supply the terminator
-/// @return 0; -1 if the text cannot be converted, `out` then holding what was converted up to there. The converter
-///         of a failed conversion stays allocated
-/// @note Logs "error1\n" when no converter can be made, `out` then being untouched. Thread-safe.
+/// @return 0; -1 if the text cannot be converted or its conversion takes more than ROUTERDB_CONVERSION_ROOM bytes,
+///         `out` then holding what was converted up to there. The converter of a failed conversion stays allocated
+/// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
+///       A null converter is logged as "error1\n", `out` then being untouched. Thread-safe.
 ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen);
 
 /// Converts GB2312 to UTF-8.
 /// @param      in      the text, NUL-terminated
-/// @param      inlen   bytes of it to convert
-/// @param[out] out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the text and for the result where that is
-///                     known to be shorter
-/// @param      outlen  bytes of `out` that are set to zero first
-/// @return 0; -1 if the text cannot be converted, `out` then holding the input. The converter of a failed
-///         conversion stays allocated
-/// @note Logs "gb2312toutf8 error1\n" when no converter can be made, `out` then being untouched. Thread-safe.
+/// @param      inlen   bytes of it to convert; of a longer text the rest stands unconverted behind the result, unless
+///                     that has grown over it
+/// @param[out] out     at least ROUTERDB_CONVERSION_ROOM bytes, or room for the result where that is known to be
+///                     shorter, and room for the whole of `in`
+/// @param      outlen  bytes of `out` that are set to zero first; they supply the terminator
+/// @return 0; -1 if the text cannot be converted or its conversion takes more than ROUTERDB_CONVERSION_ROOM bytes,
+///         `out` then holding the whole input. The converter of a failed conversion stays allocated
+/// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
+///       A null converter is logged as "gb2312toutf8 error1\n", `out` then being untouched. Thread-safe.
 ROUTERDB_API int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen);
 
 /// Turns a time of day into a number, 745 for "07:45".
 /// @param hhmm  a text of the form HH:MM; the character between is not looked at, nor is what follows
-/// @return the number HHMM; reading stops at the first character that is not a digit
+/// @return the number that atoi reads in HHMM: it skips leading blanks (" 7:45" gives 745), takes a sign, and stops at
+///         the first other character that is not a digit ("9:30" gives 9)
 /// @note Thread-safe.
 ROUTERDB_API int change_time_to_int(const char *hhmm);
 
@@ -289,8 +298,9 @@ typedef struct SqlReply {
 
 /// Sends one request to the SQL service at "/var/sqlserver_socket" and receives its reply.
 ///
-/// Time-outs are 10 seconds for each send and receive. A service that closes early leaves a block of the announced
-/// size whose missing part is zero, and the call succeeds all the same.
+/// Time-outs are 10 seconds for each send and receive. A signal that is handled meanwhile counts as a failure, with
+/// SA_RESTART too; a text of which only a part could be sent does not. A service that closes early leaves a block of
+/// the announced size whose missing part is zero, and the call succeeds all the same.
 /// @param      request  the request; only read
 /// @param[out] reply    untouched while the request is on its way; cleared before the reply is read
 /// @return 0, and the caller releases reply->data with free; -1 on failure, nothing being allocated
@@ -305,9 +315,11 @@ ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
 /// @defgroup rule_records Rule tables: identifiers and records
 ///
 /// A record is one row. Numbers are 32 bits wide in host byte order, and every byte that carries nothing is zero. A
-/// list is a count and that many records; the buffer has room for ROUTERDB_LIST_CAPACITY of them, and whoever adds
-/// rows keeps the table at that size: lists are not cut. Members marked "derived" are filled by the list builders
-/// and never written to a table. What a record says beyond its times and groups is carried and not acted on.
+/// list is a count and that many records, as many as the query has rows or the reply has records. Its buffer has room
+/// for ROUTERDB_LIST_CAPACITY of them, and lists are not cut: one row more is written past the buffer, and crashes
+/// the caller or worse. Whoever adds rows keeps the table within that size; no function refuses one. Members marked
+/// "derived" are filled by the list builders and never written to a table. What a record says beyond its times and
+/// groups is carried and not acted on.
 /// @{
 
 /// Table ids, the first word of each request.
@@ -651,10 +663,11 @@ typedef struct DomainIpItemList {
 ///
 /// The SQL service calls a builder to answer a query. It runs the query on the main database under the lock file
 /// and fills a list, the derived members included. The list is cleared first and its count set last; the result
-/// has no meaning. A query without rows, and every failure, leaves the list cleared. Columns are read by position,
-/// where a comment does not say by name. Messages, unless said otherwise: "cannot open %s!\n" (lock file) and
-/// "Error: %s" on standard output. Random first delay. Threads of one process must take turns, since a builder that
-/// returns drops the process's lock.
+/// has no meaning. A query without rows, and a failure before the first one, leaves the list cleared; a failure behind
+/// a row ends the list there. Columns are read by position, where a comment does not say by name. Messages, unless
+/// said otherwise: "cannot open %s!\n" (lock file) and "Error: %s" on standard output. A lookup that fails writes the
+/// message of its own function and leaves its members clear. Random first delay. Threads of one process must take
+/// turns, since a builder that returns drops the process's lock.
 /// @{
 
 /// Builds the list of static DHCP bindings.
@@ -672,7 +685,7 @@ ROUTERDB_API int GetDhcpStaticItemListInServer(DhcpStaticItemList *list, const c
 ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql);
 
 /// Builds the list of MAC filters. Looks up the referenced time groups, and each host name
-/// with get_hostname_by_mac().
+/// with get_hostname_by_mac(), which leaves a stream of the lease file open.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from filter_mac order by id;"
 /// @return no meaning
@@ -731,8 +744,8 @@ ROUTERDB_API int GetPortFwItemListInServer(PortFwItemList *list, const char *sql
 ROUTERDB_API int GetQosItemListInServer(QosItemList *list, const char *sql);
 
 /// Builds the list of behaviour rules. Columns are found by name. Looks up the referenced time groups and IP groups
-/// (whose range replaces the rule's own), each host name with get_hostname_by_mac(), and the names of classes and
-/// applications with GetBehaviorItemInfoTypeName().
+/// (whose range replaces the rule's own), each host name with get_hostname_by_mac(), which leaves a stream of the
+/// lease file open, and the names of classes and applications with GetBehaviorItemInfoTypeName().
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from behavior_rule order by id;"
 /// @return no meaning
@@ -759,9 +772,10 @@ ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char 
 /// @}
 /// @defgroup client_operations Rule tables: client operations
 ///
-/// Each sends one statement to the SQL service with sqlclient_cmd(), whose messages are the only report: when the
-/// service cannot be reached a list comes back empty, a record cleared, and a change has no effect. Members beyond
-/// the table's own columns are not read. Conditions are SQL, such as generate_db_params() makes. Thread-safe.
+/// Each sends one statement to the SQL service with sqlclient_cmd(), or several where it asks for a clash first. The
+/// messages of sqlclient_cmd() are the only report: when the service cannot be reached a list comes back empty, a
+/// record cleared, and a change has no effect. Members beyond the table's own columns are not read. Conditions are
+/// SQL, such as generate_db_params() makes. Thread-safe.
 /// @{
 
 /// Lists all static DHCP bindings in order of their ids.
@@ -780,7 +794,8 @@ ROUTERDB_API void GetDhcpStaticItem(int id, DhcpStaticItem *item);
 ///         the MAC address is
 ROUTERDB_API int AddDhcpStaticItem(const DhcpStaticItem *item);
 
-/// Writes every column of one static DHCP binding unless another row has its addresses.
+/// Writes every column of one static DHCP binding unless another row has its addresses. Of several rows with an
+/// address the first one counts that the service finds.
 /// @param item  the values; `id` names the row
 /// @return 0 when the row was sent, also if the service could not be reached; 1 when another row has the IP address, 2
 ///         when another one has the MAC address
@@ -1034,8 +1049,9 @@ ROUTERDB_API void GetBehaviorItem(int id, BehaviorItem *item);
 
 /// Inserts a behaviour rule. The table chooses the id.
 /// @param item  the values; `id` is not read
-/// @note Writes "pinfo->behavior_info:%s" to the system log first, at LOG_INFO under the identity "AddBehaviortem". The
-///       column `behavior_type` becomes 0.
+/// @note Writes "pinfo->behavior_info:%s" to the system log first, at LOG_INFO under the identity "AddBehaviortem",
+///       with openlog and closelog of its own: the caller's identity and options are gone afterwards, until it calls
+///       openlog again. The column `behavior_type` becomes 0.
 ROUTERDB_API void AddBehaviortem(const BehaviorItem *item);
 
 /// Writes every column of one behaviour rule.
@@ -1144,7 +1160,8 @@ ROUTERDB_API void GetClassNameByClassId(int id, char *name, char *name_en);
 ROUTERDB_API void GetAppNameByClassIdAppfeature(int class_id, const char *feature, char *name, char *name_en);
 
 /// Turns the classes and features of a behaviour rule into names: "3:f1?f2AND7:f9" into "Class A:App 1?App 2ANDClass
-/// B:App 9". What the catalogue does not know, or has no two names for, is left out.
+/// B:App 9". What the catalogue does not know, or has no two names for, is left out; applications of a class that is
+/// left out follow what stands before without an "AND".
 /// @param         info      `behavior_info` of the rule; without a ":" nothing is appended
 /// @param[in,out] names     a text; the names are appended whole, whatever their length
 /// @param[in,out] names_en  a text; the English names are appended whole, whatever their length
@@ -1289,7 +1306,7 @@ ROUTERDB_API int DB_getinfo(DevInfo *out, unsigned long sn, int convert);
 /// @return 1 when there is one at least, else 0
 /// @note Errors: those of GET_DB_SQL_INT(), then "cannot open %s, ErrorCode: %d!\n" on standard error and "cannot
 ///       prepare sql cmdline, Error: %s\n" in the system log. It takes the lock file while it counts. Without memory
-///       the list ends early.
+///       the list ends early; more rows than ROUTERDB_DEVICE_LIST_CAPACITY are not read.
 ROUTERDB_API int GetApDevList(ApDevList *list, int convert);
 
 /// Releases the records of a list and sets their pointers to null; the count stays.
@@ -1299,25 +1316,31 @@ ROUTERDB_API void FreeApDevList(ApDevList *list);
 /// @}
 /// @defgroup registration Access points: registration and update
 ///
-/// Values are written with their apostrophes doubled: what an access point reports about itself is never SQL. The
-/// statements go through DB_EXEC_SQL_CHAR() and DB_EXEC_SQL_CHAR_INT(), with their locks and messages.
+/// Values are written with their apostrophes doubled: what an access point reports about itself is never SQL. Of the
+/// networks as many are written as `Dev_Wlan_Radio_Num` says, eight at most. The statements go through
+/// DB_EXEC_SQL_CHAR(), DB_EXEC_SQL_CHAR_INT() and DB_EXEC_SQL_CHAR_LONG(), with their locks and messages.
 /// @{
 
 /// Looks an access point up by its MAC address, up to sixteen times, 100 microseconds apart.
 /// @param      dev  its `Dev_MAC` is read
-/// @param[out] sn   receives the serial number of a known one
-/// @return 1 when it is known, 0 when it is not, -1 without a MAC address
+/// @param[out] sn   receives the serial number of a known one, 0 when several rows have the address
+/// @return 1 when it is known, 0 when it is not or cannot be looked up, -1 without a MAC address
 ROUTERDB_API int DB_findinfo2(DevInfo dev, unsigned long *sn);
 
-/// Decides whether an access point is new. For a new one with MAC and IP address, a row that has the same serial
-/// number is deleted: it belongs to a device that had the address before.
+/// Decides whether an access point is new, by up to sixteen lookups, 100 microseconds apart. For a new one with MAC and
+/// IP address, a row that has the same serial number is deleted: it belongs to a device that had the address before.
+/// The text "00:00:00:00:00", five pairs of zeros, counts as no MAC address.
 /// @param      dev  its `Dev_MAC` and `Dev_Ipaddress` are read
-/// @param[out] sn   receives the serial number: that of the row, or the address as a number in network order
-/// @return 1 when it is known, 0 when it is new, -1 when the lookup failed
+/// @param[out] sn   receives the serial number: that of the row, 0 when several rows have the MAC address, or the IP
+///                  address as a number in network order, all bits set for a text that is none
+/// @return 1 when it is known, 0 when it is new, also when the lookup cannot be prepared, -1 when the database cannot
+///         be opened for it
 ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 
-/// Registers an access point: inserts a new one (at most ROUTERDB_MAX_DEVICES), writes what it reports, marks it online
-/// and announces it with "/bin/send_event 5 4 add#%lu >/dev/null 2>&1 &".
+/// Registers an access point: inserts a new one (at most ROUTERDB_MAX_DEVICES), writes what it reports, marks it
+/// online, sets its upgrade status to "0", and announces it with "/bin/send_event 5 4 add#%lu >/dev/null 2>&1 &". A new
+/// one starts in no WLAN group, and rows that have its MAC address already are deleted; a known one keeps its group.
+/// Without a MAC address, all rows with an empty one are written.
 /// @param dev  what it reports; SSIDs but those of networks 1 and 5 are converted from GB2312, one that cannot be
 ///             converted becomes empty
 /// @return the serial number as an int, or -1. Compare with -1 only: an address whose last octet is 128 or more gives a
@@ -1326,23 +1349,24 @@ ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 /// @note Errors: "not have enough mem" in the system log.
 ROUTERDB_API int DB_addinfo(DevInfo dev);
 
-/// Writes a record into the rows of its MAC address.
+/// Writes a record into the rows of its MAC address, its WLAN group too, its status and upgrade status not.
 /// @param dev  the record; SSIDs as in DB_addinfo()
-/// @note Errors: "not have enough mem" in the system log; others are not reported.
+/// @note Errors: "not have enough mem" in the system log, and the messages of DB_EXEC_SQL_CHAR(). The caller's program
+///       is not told.
 ROUTERDB_API void DB_saveinfo(const DevInfo *dev);
 
 /// Writes the configuration in a record into the row of its serial number and marks it online. The transmit power is
 /// written from 10 to 100 only. What the access point reports about itself is left out.
 /// @param dev  the record; SSIDs are written as they stand
-/// @return as DB_EXEC_SQL_CHAR()
+/// @return as DB_EXEC_SQL_CHAR(): 0 also when there is no such row
 ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
 
 /// @}
 /// @defgroup device_status Access points: status, identity, upgrade
 ///
-/// Each runs one statement with DB_EXEC_SQL_CHAR() (to write) or with DB_EXEC_SQL_CHAR_CHAR(), DB_EXEC_SQL_CHAR_LONG()
-/// or DB_EXEC_SQL_CHAR_INT() (to read), with their locks and messages, and reports nothing else. Texts are put into the
-/// statement as given.
+/// Each runs its statement with DB_EXEC_SQL_CHAR() (to write) or with DB_EXEC_SQL_CHAR_CHAR(), DB_EXEC_SQL_CHAR_LONG()
+/// or DB_EXEC_SQL_CHAR_INT() (to read), unless its comment says otherwise, with their locks and messages, and reports
+/// nothing else. Texts are put into the statement as given.
 /// @{
 
 /// Sets the status of the access point with a MAC address.
@@ -1372,12 +1396,12 @@ ROUTERDB_API void GetDevMacBySN(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point by its MAC address.
 /// @param      mac  the address
-/// @param[out] sn   untouched when there is no such row
+/// @param[out] sn   untouched when there is no such row, 0 when there are several
 ROUTERDB_API void GetDevSNByMac(const char *mac, unsigned long *sn);
 
 /// Reads the serial number of an access point by its IP address.
 /// @param      ip  the address, dotted
-/// @param[out] sn  untouched when there is no such row
+/// @param[out] sn  untouched when there is no such row, 0 when there are several
 ROUTERDB_API void GetDevSNByIp(const char *ip, unsigned long *sn);
 
 /// Sets the upgrade status of an access point and announces it with "/bin/send_event 5 4 mod#%lu >/dev/null 2>&1 &",
@@ -1413,8 +1437,9 @@ ROUTERDB_API void GetApDevUpgradeList(ApDevUpgradeList *list);
 ROUTERDB_API void FreeApDevUpgradeList(ApDevUpgradeList *list);
 
 /// Runs "select Dev_Sn from DevInfo order by Dev_IPSUM ;" under the lock file and delivers none of its rows.
-/// @param[in,out] collection  a collection, which starts with its count; the count becomes 0
+/// @param[in,out] collection  a collection, which starts with its count; the count becomes 0, or stays after a failure
 /// @return 0; -1 if the lock file or the database cannot be opened or the statement fails, messages as in DbSqlExec()
+/// @note Random first delay.
 ROUTERDB_API int DB_GetDevSNCollection(uint32_t *collection);
 
 /// As DB_GetDevSNCollection(), with "select WlanGroup_Id from WlanGroupInfo;".
@@ -1431,17 +1456,19 @@ ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
 /// Reads one WLAN group.
 /// @param[out] group    cleared, then filled; the SSIDs of networks 2, 3, 4, 6, 7 and 8 come in GB2312
 /// @param      groupId  its number
-/// @return 0, also when there is no such group; another number when the database could not be opened
+/// @return 0, also when there is no such group; a positive number when the database could not be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds. Thread-safe; takes no lock.
 ROUTERDB_API int DB_getwlangroupinfoByindex(DevInfo *group, int groupId);
 
-/// Counts the WLAN groups.
+/// Counts the WLAN groups, as GetTableCount() does.
 /// @return their number; 0 when they cannot be read
 ROUTERDB_API int get_wlangroupinfo_count(void);
 
-/// Compares what an access point has with what its WLAN group wants. Channel, rate, mode, bandwidth, transmit power,
-/// receive option and station limits do not count; WEP and key texts count where the group's security uses them.
+/// Compares what an access point has with what its WLAN group wants: group number, networks, and of each radio
+/// aggregation, isolation, beacon interval, RTS and CTS thresholds, short guard interval and coverage threshold.
+/// BSSIDs, channel, rate, mode, bandwidth, transmit power, receive option and station limits do not count; WEP and key
+/// texts count where the group's security uses them.
 /// @param dev    the access point; with a radio count of 4 its networks 5 to 8 do not count, with one other than 8 its
 ///               second radio does not
 /// @param group  the group
@@ -1449,9 +1476,12 @@ ROUTERDB_API int get_wlangroupinfo_count(void);
 /// @note Different group numbers are written to standard output: "CompareDevInfoWithGroupInfo 6054\n". Thread-safe.
 ROUTERDB_API int CompareDevInfoWithGroupInfo(DevInfo dev, DevInfo group);
 
-/// Gives an access point the settings of its WLAN group.
-/// @param[in,out] dev    its networks (but their BSSIDs), radio settings that a group has, RADIUS members and group
-///                       number are overwritten
+/// Gives an access point the settings of its WLAN group. Channel, mode, bandwidth, transmit power and station limit of
+/// either radio stay its own.
+/// @param[in,out] dev    all eight networks (but their BSSIDs), group number, RADIUS members (emptied by a group that
+///                       DB_getwlangroupinfoByindex() has read), and of each radio aggregation, isolation, rate, beacon
+///                       interval, RTS and CTS thresholds, short guard interval, receive option and coverage threshold
+///                       are overwritten
 /// @param         group  the group
 /// @return no meaning
 /// @note Thread-safe.
@@ -1462,10 +1492,12 @@ ROUTERDB_API char *SetDevInfoFromWlanGroupInfo(DevInfo *dev, const DevInfo *grou
 /// @{
 
 /// Reads the default group, number 1.
-/// @param[out] group  untouched when there are no groups; else cleared, then filled, SSIDs as in
-///                    DB_getwlangroupinfoByindex()
-/// @return 0 when there are no groups; a positive number otherwise, also when the group could not be read
-/// @note Errors: as DB_getwlangroupinfoByindex().
+/// @param[out] group  untouched when there are no groups or they cannot be counted; else cleared, then filled, SSIDs as
+///                    in DB_getwlangroupinfoByindex()
+/// @return 0 when there are no groups or they cannot be counted, as when the database cannot be opened; a positive
+///         number otherwise, also when the group could not be read
+/// @note Errors: those of DB_EXEC_SQL_CHAR_INT(), which counts the groups first, in the system log; then as
+///       DB_getwlangroupinfoByindex(), for a database that could be opened for the count only. Takes no lock.
 ROUTERDB_API int DB_getwlanzerocfggroupinfo(DevInfo *group);
 
 /// Reads one group.
@@ -1475,22 +1507,27 @@ ROUTERDB_API int DB_getwlanzerocfggroupinfo(DevInfo *group);
 /// @note Errors: as DB_getwlangroupinfoByindex(). Random first delay.
 ROUTERDB_API int DB_getwlanzerocfggroupinfoByindex(DevInfo *group, int groupId);
 
-/// Fills a record with the defaults of a new group. Its name takes the next free number, which is not reserved.
+/// Fills a record with the defaults of a new group. Its name ends in the number behind the highest one, or in 1 when
+/// there is no group or the first one has the number 0; the number is not reserved.
 /// @param[in,out] group  a cleared record
 /// @return no meaning
+/// @note Errors: those of GET_DB_SQL_INT(), once for the first number and once for the highest; after both the name
+///       ends in 0. Takes the lock file for each of the two. Random first delay.
 ROUTERDB_API int Initialwlanzerocfggroupinfo(DevInfo *group);
 
 /// Reads a group, or makes a new one.
 /// @param[out] group        cleared, then filled
 /// @param      groupIdText  its number; a text that is no number, or 0, asks for a new group
 /// @return as DB_getwlanzerocfggroupinfoByindex(), or no meaning for a new group
+/// @note Errors and locks: as DB_getwlanzerocfggroupinfoByindex() or Initialwlanzerocfggroupinfo().
 ROUTERDB_API int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText);
 
 /// Writes a group.
 /// @param group    the values; SSIDs are written as they stand
-/// @param groupId  its number; 0 inserts a new row under the next free number
+/// @param groupId  its number; 0 inserts a new row, numbered as Initialwlanzerocfggroupinfo() does
 /// @return the number written to, whether or not that succeeded
-/// @note Two callers that save new groups at the same moment may get the same number.
+/// @note Errors and locks: as GET_DB_SQL_INT(), which looks at the first group also when its number is not needed, and
+///       as DB_EXEC_SQL_CHAR(). Two callers that save new groups at the same moment may get the same number.
 ROUTERDB_API int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId);
 
 /// As CompareDevInfoWithGroupInfo(), except that group numbers do not count, and transmit power and reboot times do.
@@ -1501,7 +1538,8 @@ ROUTERDB_API int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId);
 ROUTERDB_API int CompareDevInfoWithZeroGroupInfo(DevInfo dev, DevInfo group);
 
 /// As SetDevInfoFromWlanGroupInfo(), except that the group number stays, and channels, transmit powers and reboot times
-/// are set. A channel above 13 becomes "0" on the first radio; an empty one or 0 becomes "15" on the second.
+/// are set. An empty channel or one above 13 becomes "0" on the first radio; one that is not above 0 becomes "15" on
+/// the second.
 /// @param[in,out] dev    the access point
 /// @param         group  the group
 /// @return no meaning
@@ -1512,10 +1550,13 @@ ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInf
 
 /// @defgroup json_lists Web interface: lists as JSON
 ///
-/// Each prints one JSON object on standard output, through the C library's stream and without a line break behind it
-/// where none is mentioned. Every element but the last ends with a comma: the last one has all its values empty and is
-/// not counted. Values are printed as stored, nothing is escaped. When the database fails half way the object stays
-/// unfinished. Thread-safe as far as the stream is.
+/// A function that prints gives one JSON object on standard output, through the C library's stream and without a line
+/// break behind it where none is mentioned. Where nothing can be counted beforehand the object is short, with the
+/// count "0". Otherwise every element but the last ends with a comma: the last one has all its values empty and is not
+/// counted. Values are printed as stored, nothing is escaped; texts of the catalogue are cut behind 199 bytes, those of
+/// zero-configuration groups behind 99, of stations behind 49, of access points at the width of their members. When the
+/// database cannot be opened or asked for a list that has begun the object stays unfinished; a failure behind a row
+/// ends the list there. Thread-safe as far as the stream is.
 /// @{
 
 /// The feature texts of one application class.
@@ -1527,12 +1568,13 @@ typedef struct AppFeatureList {
 /// Room that the joined names of a class take, in bytes.
 #define ROUTERDB_JOINED_NAMES 4096
 
-/// Joins the names of the applications of a class, each with a "/" behind it.
+/// Joins the names of the applications of a class, each with a "/" behind it. Prints no object.
 /// @param      classId  number of the class
 /// @param[out] out      ROUTERDB_JOINED_NAMES bytes; what does not fit whole is left out with all that follows.
 ///                      Untouched when the query cannot be prepared
 /// @param      db       an open connection to the application catalogue
-/// @note Errors: "Webserver Error: %s" on standard output. First sleep 55 microseconds.
+/// @note Errors: "Webserver Error: %s" on standard output. First sleep 55 microseconds. As thread-safe as the
+///       connection.
 ROUTERDB_API void GetAppinfosByClassId(int classId, char *out, sqlite3 *db);
 
 /// As GetAppinfosByClassId(), with the English names.
@@ -1549,8 +1591,11 @@ ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
 
 /// Prints all application classes, each with its applications.
 /// @return no meaning
-/// @note Errors: those of GET_DB_SQLITE_SQL_INT(), and "Webserver Error: %s" on standard output. Closes descriptor 0;
-///       when the catalogue cannot be opened, the descriptor whose number is SQLite's result code instead.
+/// @note Errors: those of GET_DB_SQLITE_SQL_INT(), which counts first, in front of the object; then "Webserver Error:
+///       %s" on standard output, within it. Closes descriptor 0 after the count, and again behind a list, whatever has
+///       taken that number meanwhile. A catalogue that cannot be opened for the count makes a short object; one that
+///       can be opened then and not for the list leaves the object unfinished without a word, and the descriptor is
+///       closed whose number is SQLite's result code, instead of descriptor 0 a second time.
 ROUTERDB_API int GetAppClassItemList(void);
 
 /// Prints one application class. The count is that of all classes.
@@ -1571,8 +1616,8 @@ ROUTERDB_API int GetAppInfoItem(const char *id);
 /// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppInfoItemListByClassid(const char *classId);
 
-/// Reads the feature texts of a class from the main database, under the lock file if there is one.
-/// @param[out] list     cleared, then filled
+/// Reads the feature texts of a class from the main database, under the lock file if there is one. Prints no object.
+/// @param[out] list     cleared, then filled with all rows
 /// @param      classId  number of the class
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "Error: %s" on standard output. Random first delay.
@@ -1581,26 +1626,32 @@ ROUTERDB_API int GetAppItemListByClassId(AppFeatureList *list, int classId);
 /// Prints one page of the access points, with totals.
 /// @param page      number of the page, from 1
 /// @param mode      0 all with an address, 1 the online ones of them, 2 the offline ones, 3 search by address and MAC
+///                  address: without both texts it counts all rows and shows those with an address; another mode finds
+///                  nothing
 /// @param groupId   above 0: those of this WLAN group, whatever the mode
 /// @param flag      1: those not in that group, 14 a page; 2: 14 a page
 /// @param ip        part of an address to search for; may be null; put into the statement as given, cut at 254 bytes
 /// @param mac       part of a MAC address to search for; as `ip`
 /// @param pageSize  rows of a page; below 1 it is 17
 /// @return no meaning
-/// @note The page count is 0 when everything fits one page. Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot
-///       prepare sql cmdline, Error: %s\n" on standard error. Random first delay; takes no lock.
+/// @note The page count is 0 when fewer match than fit one page, 1 when they just fill it. A page behind the last one
+///       shows nothing, with page number 1 and page count 0; when nothing matches all totals are 0. Errors: those of
+///       GET_DB_SQL_INT_COUNT_ROUTE(), which counts first, in front of the object ("Error: %s" on standard output);
+///       then "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" on standard error.
+///       Random first delay; takes no lock.
 ROUTERDB_API int GetApDevList_cgi(int page, int mode, int groupId, int flag, const char *ip, const char *mac,
                                   int pageSize);
 
 /// Prints a summary of all zero-configuration groups, keys and passwords included.
 /// @return no meaning
-/// @note Prints the list as empty when the first group has the number 0. Errors: "cannot open %s, ErrorCode: %d!\n" on
-///       standard error, "cannot prepare sql cmdline, Error: %s\n" on standard output. It takes the lock file while it
-///       looks at the first group.
+/// @note Prints the short object also when the first group has a number below 1 or cannot be read. Errors: those of
+///       GET_DB_SQL_INT(), which looks at the first group under the lock file, in front of the object; then "cannot
+///       open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on standard output.
+///       Random first delay.
 ROUTERDB_API int GetWlanZeroCfgGroupList(void);
 
 /// Asks an access point for its stations with the program capwapmanage and prints them, with a line break after the
-/// first piece and at the end. Takes a tenth of a second.
+/// first piece and, if the answer can be read, at the end. Takes a tenth of a second and more; calls sync.
 /// @param devIp  its address, put into shell commands as given: callers check it
 /// @return no meaning
 /// @note Leaves "/var/stalist_<n>", n from 1 to 10 at random, and the trace "/tmp/sta_log". Two calls at the same
@@ -1634,7 +1685,7 @@ typedef struct LeaseNode {
 
 /// Reads a process id.
 /// @param pidFile  path of a pid file
-/// @return the number on its first line; -1 if the file cannot be opened
+/// @return the number that its first line starts with, 0 without one; -1 if the file cannot be opened
 /// @note Thread-safe.
 ROUTERDB_API int getPid_sql(const char *pidFile);
 
@@ -1659,7 +1710,7 @@ ROUTERDB_API void free_leaselist_sql(LeaseNode **head);
 /// Fills a node from a lease. A null argument ends the process through an assertion.
 /// @param[in,out] mac_ip_list  the node; its link and its first word stay
 /// @param         lease        the lease
-/// @note Thread-safe.
+/// @note As thread-safe as inet_ntoa of the C library: that of GNU is.
 ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRecord *lease);
 
 /// Asks the DHCP server to write its leases (SIGUSR1), waits a millisecond, and reads a binary lease file into a list.
@@ -1668,7 +1719,7 @@ ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRec
 /// @param         pidFile    path of the server's pid file; without it no signal is sent
 /// @return the number of nodes; 0 if the lease file cannot be opened ("could not open input file" through perror).
 ///         Without memory the list ends early
-/// @note Thread-safe.
+/// @note As thread-safe as add_addrserverlease_sql().
 ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFile, const char *pidFile);
 
 /// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file.
@@ -1685,7 +1736,8 @@ ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname,
 /// @param      mac       the address; null or empty does nothing
 /// @param[out] hostname  room for 128 bytes; null does nothing
 /// @param      flag      not read
-/// @note Thread-safe. Each call leaves one stream of the lease file open.
+/// @note Errors: "could not open input file" through perror. Thread-safe. Each call leaves one stream of the lease file
+///       open.
 ROUTERDB_API void get_hostname_by_mac(const char *mac, char *hostname, int flag);
 
 /// @}

@@ -1,10 +1,12 @@
 // What a new zero-configuration group starts with.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "apinventory/tables.h"
 #include "support/build_profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
+#include "support/streams.h"
 
 namespace {
 
@@ -105,6 +107,22 @@ TEST(NewGroup, asks_for_the_first_number_and_the_highest) {
     EXPECT_EQ(recorder.calls({"lock", "sqlite3_prepare_v2", "sqlite3_exec", "unlock"}),
               (Lines{"lock", first_number, "unlock", "lock",
                      "sqlite3_prepare_v2 select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;", "unlock"}));
+}
+
+TEST(NewGroup, bears_the_number_0_after_messages_when_the_groups_cannot_be_read) {
+    drop(zero_config_groups);
+    const auto without_table = support::streams_of([] { EXPECT_EQ(new_name(), "ZeroCfgGROUP_NAME0"); });
+    EXPECT_EQ(without_table.output, "cannot exec sql cmdline, Error: (null)\ncannot exec sql cmdline, Error: (null)\n");
+    EXPECT_EQ(without_table.error, "");
+
+    tables::make_unopenable();
+    constexpr char no_database[] = "cannot open /etc/config/systemconf/database/myrouter.db, ErrorCode: 14!\n";
+    const auto without_database = support::streams_of([] { EXPECT_EQ(new_name(), "ZeroCfgGROUP_NAME0"); });
+    EXPECT_EQ(without_database.error, std::string(no_database) + no_database);
+
+    ASSERT_EQ(unlink(support::lock_file), 0);
+    const auto without_lock_file = support::streams_of([] { EXPECT_EQ(new_name(), "ZeroCfgGROUP_NAME0"); });
+    EXPECT_EQ(without_lock_file.error, "cannot open /var/databaselock!\ncannot open /var/databaselock!\n");
 }
 
 TEST(NewGroup, is_not_reserved_and_saved_under_a_number_of_its_own) {

@@ -81,10 +81,17 @@ TEST(DefaultGroup, of_a_table_that_cannot_be_counted_gives_0_and_leaves_the_reco
     insert(tables::zero_config_groups, {{0, "1"}});
     drop(tables::zero_config_groups);
     DevInfo group = places::odd_record();
-    EXPECT_EQ(DB_getwlanzerocfggroupinfo(&group), 0);
-    tables::make_unopenable();
-    const support::DeliberateLeak connection;
-    EXPECT_EQ(DB_getwlanzerocfggroupinfo(&group), 0);
+    const Recorder recorder;
+    const auto said = support::streams_of([&] {
+        EXPECT_EQ(DB_getwlanzerocfggroupinfo(&group), 0);
+        tables::make_unopenable();
+        const support::DeliberateLeak connection;
+        EXPECT_EQ(DB_getwlanzerocfggroupinfo(&group), 0);
+    });
+    EXPECT_EQ(said.output + said.error, "");
+    EXPECT_EQ(recorder.calls({"syslog"}),
+              (Lines{"syslog 3 cannot prepare sql cmdline, Error: no such table: WlanZeroCfgGroupInfo\n",
+                     "syslog 3 cannot open /etc/config/systemconf/database/myrouter.db, ErrorCode: 14!\n"}));
     EXPECT_EQ(places::difference(places::odd_record(), group), "");
 }
 

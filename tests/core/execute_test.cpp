@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <utility>
 
 #include "core/holdings.h"
 #include "routerdb.h"
@@ -83,6 +84,25 @@ TEST(DbSqlExec, repeats_the_whole_text_while_the_database_is_busy) {
     EXPECT_EQ(
         recorder.calls({"sqlite3_exec", "sqlite3_free", "usleep"}),
         (Lines{attempt, "sqlite3_free", "usleep 56", attempt, "sqlite3_free", "usleep 61", attempt, "sqlite3_free"}));
+}
+
+/// SQL function busy_once(): SQLITE_BUSY at its first call.
+void busy_once(sqlite3_context *context, int /*count*/, sqlite3_value ** /*arguments*/) {
+    static bool called = false;
+    if (!std::exchange(called, true)) {
+        sqlite3_result_error_code(context, SQLITE_BUSY);
+    }
+}
+
+int add_busy_once(sqlite3 *db, const char ** /*message*/, const void * /*routines*/) {
+    return sqlite3_create_function(db, "busy_once", 0, SQLITE_UTF8, nullptr, busy_once, nullptr, nullptr);
+}
+
+TEST(DbSqlExec, applies_statements_twice_that_went_through_before_one_that_is_busy) {
+    sqlite3_auto_extension(reinterpret_cast<void (*)()>(add_busy_once));
+    EXPECT_EQ(execute("insert into user_urlinfo(name) values('a'); select busy_once();"), 0);
+    sqlite3_reset_auto_extension();
+    EXPECT_EQ(support::Database().rows("select name from user_urlinfo;"), (Lines{"a", "a"}));
 }
 
 TEST(DbSqlExec, copies_after_a_text_without_the_word_select) {

@@ -1,7 +1,11 @@
 // The request and the calls that carry it: sqlclient_cmd against a service that answers.
 #include <gtest/gtest.h>
+#include <pthread.h>
+#include <unistd.h>
 
+#include <atomic>
 #include <chrono>
+#include <csignal>
 #include <list>
 #include <thread>
 
@@ -111,6 +115,27 @@ TEST(SqlclientCmd, any_number_of_threads_may_call_it_at_once) {
         thread.join();
     }
     EXPECT_EQ(service.requests().size(), 160U);
+}
+
+TEST(SqlclientCmd, takes_a_signal_that_is_handled_while_it_waits_for_a_failure) {
+    struct sigaction handled {};
+    handled.sa_handler = [](int) {};
+    handled.sa_flags = SA_RESTART;  // does not help where a receive has a time-out
+    sigaction(SIGUSR1, &handled, nullptr);
+    const FakeService service(Conversation{{}, Hearing::whole, Ending::silence});
+    Exchange exchange;
+    std::atomic<bool> ended{false};
+    std::thread sender([&ended, caller = pthread_self()] {
+        while (!ended) {
+            pthread_kill(caller, SIGUSR1);
+            usleep(10'000);
+        }
+    });
+    const auto streams = support::streams_of([&] { EXPECT_EQ(exchange.send(), -1); });
+    ended = true;
+    sender.join();
+    EXPECT_EQ(streams.error, "recv header from sql socket server fail: Interrupted system call\n");
+    EXPECT_EQ(exchange.reply.data, nullptr);
 }
 
 TEST(SqlclientCmd, waits_ten_seconds_for_an_answer) {

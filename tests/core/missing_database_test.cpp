@@ -1,0 +1,68 @@
+// What becomes of a database file that is not there.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "core/helpers.h"
+#include "routerdb.h"
+#include "support/database.h"
+#include "support/streams.h"
+
+namespace {
+
+struct Reading {
+    Helper helper;
+    const char *database;
+};
+
+std::ostream &operator<<(std::ostream &out, const Reading &reading) {
+    return out << reading.helper;
+}
+
+class MissingDatabase : public testing::TestWithParam<Reading> {};
+
+TEST_P(MissingDatabase, is_left_behind_empty_by_a_mere_query) {
+    open_standard_input();
+    ASSERT_EQ(unlink(GetParam().database), 0);
+    support::streams_of([] { GetParam().helper.call(nullptr, "select 1;"); });
+    ASSERT_TRUE(support::file_exists(GetParam().database));
+    EXPECT_EQ(std::filesystem::file_size(GetParam().database), 0U);
+}
+
+constexpr const char *main_file = support::main_database;
+constexpr const char *catalogue_file = support::catalogue_database;
+
+const Reading readings[] = {
+    {helpers::exec_char_int, main_file},      {helpers::exec_char_long, main_file},
+    {helpers::exec_char_char, main_file},     {helpers::int_count, main_file},
+    {helpers::int_rows, main_file},           {helpers::int_count_route, main_file},
+    {helpers::int_count_dpi, catalogue_file}, {helpers::sqlite_int, catalogue_file},
+};
+
+INSTANTIATE_TEST_SUITE_P(, MissingDatabase, testing::ValuesIn(readings),
+                         [](const auto &test) { return test.param.helper.name; });
+
+TEST(MissingMainDatabase, once_read_is_not_missing_any_more_for_a_script_that_copies_the_factory_file) {
+    const std::string script = "test -e " + std::string(support::main_database) + " || cp " +
+                               support::factory_database + " " + support::main_database;
+    const auto tables = [] { return support::value("select count(*) > 0 from sqlite_master;"); };
+
+    ASSERT_EQ(unlink(support::main_database), 0);
+    ASSERT_EQ(std::system(script.c_str()), 0);
+    EXPECT_EQ(tables(), "1");
+
+    ASSERT_EQ(unlink(support::main_database), 0);
+    support::streams_of([] { EXPECT_EQ(GET_DB_SQL_INT("select * from DevInfo;"), -1); });
+    ASSERT_EQ(std::system(script.c_str()), 0);
+    EXPECT_EQ(tables(), "0");
+}
+
+TEST(MissingMainDatabase, is_not_made_where_its_directory_is_missing) {
+    const std::filesystem::path directory = std::filesystem::path(support::main_database).parent_path();
+    std::filesystem::remove_all(directory);
+    support::streams_of([] { EXPECT_EQ(GET_DB_SQL_INT("select 1;"), -1); });
+    EXPECT_FALSE(std::filesystem::exists(directory));
+}
+
+}  // namespace
