@@ -2,7 +2,7 @@
 
 #include "apinventory/device_fields.h"
 #include "apinventory/numbers.h"
-#include "apinventory/status.h"
+#include "apinventory/totals.h"
 #include "core/json_list.h"
 #include "core/profiles.h"
 #include "core/query.h"
@@ -15,14 +15,6 @@ namespace {
 using profiles::parts::free_printing_random;
 
 constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
-
-// Nothing is said or left behind here: totals that are not had at once are read one by one, which is said.
-// clang-format off
-constexpr ReadProfile silent_totals{
-    {Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    no_message};
-// clang-format on
 
 enum class From : std::uint8_t { text, serial_number, stations, no_group_name };
 
@@ -69,54 +61,6 @@ constexpr Key keys[] = {
 };
 // clang-format on
 
-/// What is printed behind the list.
-struct Totals {
-    int page;
-    int pages;
-    int devices;
-    int online;
-    int stations;
-};
-
-int read_number(SharedConnection &connection, const char *sql) {
-    return query(profiles::sql_int_count_route, sql, {nullptr}, &connection);
-}
-
-void read_each(Totals &totals, SharedConnection &connection) {
-    totals.devices = read_number(connection, "select count(*) from DevInfo where Dev_Ipaddress <> '';");
-    totals.online = count_online(&connection);
-    if (totals.devices > 0) {
-        const int first = read_number(connection, "select sum(Dev_Wlan_Sta_Num) from DevInfo ;");
-        const int second = read_number(connection, "select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
-        totals.stations = wrapping_sum(first, second);
-    }
-}
-
-/// Reads all of them by one statement that says nothing when it fails.
-/// @return whether they are what the statements one by one would give
-bool read_at_once(Totals &totals, SharedConnection &connection) {
-    Reading reading(silent_totals, &connection);
-    if (!reading.open() ||
-        !reading.prepare("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
-                         "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") ||
-        !reading.first_row()) {
-        return false;
-    }
-    const Row row = reading.row();
-    totals.devices = row.number(0);
-    totals.online = row.number(1);
-    totals.stations = totals.devices > 0 ? wrapping_sum(row.number(2), row.number(3)) : 0;
-    return true;
-}
-
-Totals read_totals(SharedConnection &connection) {
-    Totals totals{};
-    if (!build_profile.merges_totals || !read_at_once(totals, connection)) {
-        read_each(totals, connection);
-    }
-    return totals;
-}
-
 /// The stations of both radios, or of the first one unless the access point has eight networks.
 long stations_of(const Row &row) {
     constexpr int wlans_of_two_radios = 8;
@@ -146,24 +90,20 @@ void print_device(const Row &row) {
     json::close_element();
 }
 
-void print_totals(const Totals &totals) {
-    json::print_total("pagenum", totals.page);
-    json::print_total("pagecount", totals.pages);
+void print_end(PageNumbers numbers, const Totals &totals) {
+    json::print_total("pagenum", numbers.page);
+    json::print_total("pagecount", numbers.pages);
     json::print_total("sumcount", totals.devices);
     json::print_total("onlinecount", totals.online);
     json::print_total("stasumnum", totals.stations);
     json::close_object();
 }
 
-void print_rows(Reading &reading, Totals totals) {
+void print_rows(Reading &reading, const PageRequest &request, int matches, const Totals &totals) {
     int count = 0;
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
         print_device(reading.row());
         ++count;
-    }
-    if (count == 0) {
-        totals.page = 1;
-        totals.pages = 0;
     }
     json::Element closing;
     for (const Key &key : keys) {
@@ -172,25 +112,22 @@ void print_rows(Reading &reading, Totals totals) {
         }
     }
     json::close_list(count);
-    print_totals(totals);
+    print_end(page_numbers(request, matches, count), totals);
 }
 
 }  // namespace
 
 void print_page(const PageRequest &request) {
     SharedConnection connection;
-    Totals totals = read_totals(connection);
+    const Totals totals = read_totals(connection);
     SqlText count;
     append_count(count, request);
-    const int rows = query(profiles::sql_int_count_route, count, {nullptr}, &connection);
-    totals.pages = pages_for(rows, request);
-    const int last = totals.pages < request.page ? totals.pages : request.page;
-    totals.page = last == 0 ? 1 : last;
+    const int matches = query(profiles::sql_int_count_route, count, {nullptr}, &connection);
 
     json::open_object("ApDevList");
-    if (rows < 1) {
+    if (matches < 1) {
         json::print("{\"count\":\"0\"");
-        print_totals({1, 0, 0, 0, 0});
+        print_end(page_numbers(request, 0, 0), {});
         return;
     }
     json::open_list();
@@ -198,7 +135,7 @@ void print_page(const PageRequest &request) {
     append_page(sql, request);
     Reading reading(page, &connection);
     if (sql.complete() && reading.open() && reading.prepare(sql.c_str())) {
-        print_rows(reading, totals);
+        print_rows(reading, request, matches, totals);
     }
 }
 
