@@ -23,6 +23,7 @@ add_library(
     src/apinventory/registration.cpp
     src/apinventory/station_list.cpp
     src/apinventory/status.cpp
+    src/apinventory/totals.cpp
     src/apinventory/update.cpp
     src/apinventory/upgrade.cpp
     src/apinventory/zero_config.cpp

@@ -1555,8 +1555,13 @@ ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInf
 /// count "0". Otherwise every element but the last ends with a comma: the last one has all its values empty and is not
 /// counted. Values are printed as stored, nothing is escaped; texts of the catalogue are cut behind 199 bytes, those of
 /// zero-configuration groups behind 99, of stations behind 49, of access points at the width of their members. When the
-/// database cannot be opened or asked for a list that has begun the object stays unfinished; a failure behind a row
-/// ends the list there. Thread-safe as far as the stream is.
+/// database cannot be opened or asked for a list that has begun, or memory runs out for an element, the object stays
+/// unfinished; a failure behind a row ends the list there. Thread-safe as far as the stream is.
+///
+/// An element goes to the stream in one call, one of GetWlanZeroCfgGroupList() in five; what other threads print does
+/// not come between. The last one is one call with all that follows it; in the lists of the catalogue and of the
+/// groups, where it is four, what follows is a call of its own. So a page of two access points is five writes on a
+/// stream without a buffer.
 /// @{
 
 /// The feature texts of one application class.

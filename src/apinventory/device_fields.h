@@ -134,6 +134,39 @@ inline constexpr RadioField radio_fields[] = {
 #undef WLAN_COLUMN
 #undef RADIO_COLUMN
 
+/// Called for a member that has no column, which no constant can be made of: that does not compile.
+DeviceField no_such_field();
+
+/// A member of DevInfo, of either radio too, by its offset, and its column in `DevInfo`.
+constexpr DeviceField device_field(std::size_t offset) {
+    for (const DeviceField &field : device_fields) {
+        if (field.offset == offset) {
+            return field;
+        }
+    }
+    for (const RadioField &field : radio_fields) {
+        if (field.offset == offset) {
+            return {field.offset, radio_width, field.device};
+        }
+        if (field.offset + second_radio == offset) {
+            return {static_cast<std::uint16_t>(offset), radio_width,
+                    static_cast<std::uint8_t>(field.device + device_layout.second_radio)};
+        }
+    }
+    return no_such_field();
+}
+
+/// The same for a member of DevWlanEntry of one of the networks, from 0. Its offset is that in the entry.
+constexpr DeviceField wlan_field(unsigned wlan, std::size_t offset) {
+    for (const WlanField &field : wlan_fields) {
+        if (field.offset == offset) {
+            const unsigned column = device_layout.first_wlan + device_layout.wlan_columns * wlan + field.device;
+            return {field.offset, field.width, static_cast<std::uint8_t>(column)};
+        }
+    }
+    return no_such_field();
+}
+
 /// The first network of each radio: their SSIDs are never converted, everywhere.
 constexpr bool leads_its_radio(unsigned wlan) {
     return wlan == 0 || wlan == 4;

@@ -8,6 +8,7 @@
 #include "apinventory/registration.h"
 #include "apinventory/station_list.h"
 #include "apinventory/status.h"
+#include "apinventory/totals.h"
 #include "apinventory/upgrade.h"
 #include "apinventory/zero_config.h"
 #include "apinventory/zero_config_json.h"

@@ -2,7 +2,7 @@
 
 #include "apinventory/device_fields.h"
 #include "apinventory/numbers.h"
-#include "apinventory/status.h"
+#include "apinventory/totals.h"
 #include "core/json_list.h"
 #include "core/profiles.h"
 #include "core/query.h"
@@ -16,189 +16,128 @@ using profiles::parts::free_printing_random;
 
 constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
 
-// Nothing is said or left behind here: totals that are not had at once are read one by one, which is said.
-// clang-format off
-constexpr ReadProfile silent_totals{
-    {Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    no_message};
-// clang-format on
+/// What is given for an element beside its row.
+enum Given : std::uint8_t { serial_number, stations, no_group_name };
 
-enum class From : std::uint8_t { text, serial_number, stations, no_group_name };
-
-/// A key of an element. Only the columns that are printed are read.
-struct Key {
-    char name[22];
-    From from;
-    std::uint8_t column;
-    std::uint8_t width;  // of the record's member, which bounds what is printed
-    bool in_closing;     // Deliberate: the closing element has fewer keys.
-};
-
-constexpr std::uint8_t wlan_column(unsigned number, std::uint8_t column) {
-    return static_cast<std::uint8_t>(device_layout.first_wlan + device_layout.wlan_columns * number + column);
+/// The column of a member, cut as the record would cut it. Only the columns that are printed are read.
+constexpr json::Value shown(DeviceField field) {
+    return json::column_text(field.column, field.width - 1);
 }
 
+#define SHOWN(member) shown(device_field(offsetof(DevInfo, member)))
+#define SHOWN_OF_WLAN(number, member) shown(wlan_field(number, offsetof(DevWlanEntry, member)))
+
+// Deliberate: the closing element has fewer keys.
 // clang-format off
-constexpr Key keys[] = {
-    {"m_sn", From::serial_number, 0, 0, true},
-    {"m_group_name", From::text, 1, 200, true},
-    {"m_dev_name", From::text, 2, 200, true},
-    {"m_dev_ip", From::text, 3, 20, true},
-    {"m_dev_mac", From::text, 8, 20, true},
-    {"m_onlinetime", From::text, 9, 50, true},
-    {"m_sw_ver", From::text, 11, 200, true},
-    {"m_sw_name", From::text, 10, 200, true},
-    {"m_channel", From::text, 112, 5, true},
-    {"m_current_channel", From::text, 113, 5, false},
-    {"m_stanum", From::stations, 0, 0, true},
-    {"m_dev_status", From::text, 153, 5, true},
-    {"m_dev_upgrade_status", From::text, 159, 25, true},
-    {"m_wlan_group_name", From::no_group_name, 0, 0, true},
-    {"m_wlan_radio_num", From::text, 15, 5, true},
-    {"m_channel_sec", From::text, 132, 5, true},
-    {"m_current_channel_sec", From::text, 133, 5, false},
-    {"m_TimeRebootEnable", From::text, 157, 5, true},
-    {"m_RebootTime", From::text, 158, 50, true},
-    {"m_CurrentTime", From::text, 156, 50, true},
-    {"m_dev_modelname", From::text, 13, 100, true},
-    {"m_wlan_txpower", From::text, 126, 5, true},
-    {"m_wlan_txpower_sec", From::text, 146, 5, true},
-    {"m_wlan_ssid", From::text, wlan_column(0, 2), 100, false},
-    {"m_wlan_ssid_sec", From::text, wlan_column(4, 2), 100, false},
+constexpr json::Key keys[] = {
+    {"m_sn", json::given(serial_number, 20)},
+    {"m_group_name", SHOWN(Dev_Group)},
+    {"m_dev_name", SHOWN(Dev_Name)},
+    {"m_dev_ip", SHOWN(Dev_Ipaddress)},
+    {"m_dev_mac", SHOWN(Dev_MAC)},
+    {"m_onlinetime", SHOWN(Dev_OnlineTime)},
+    {"m_sw_ver", SHOWN(Dev_SwVer)},
+    {"m_sw_name", SHOWN(Dev_SwName)},
+    {"m_channel", SHOWN(Dev_Wlan_Channel)},
+    {"m_current_channel", SHOWN(Dev_Wlan_Current_Channel), json::not_in_closing},
+    {"m_stanum", json::given(stations, 20)},
+    {"m_dev_status", SHOWN(Dev_Status)},
+    {"m_dev_upgrade_status", SHOWN(Dev_Upgrade_Status)},
+    {"m_wlan_group_name", json::given(no_group_name, 3)},
+    {"m_wlan_radio_num", SHOWN(Dev_Wlan_Radio_Num)},
+    {"m_channel_sec", SHOWN(Dev_Wlan_Channel_sec)},
+    {"m_current_channel_sec", SHOWN(Dev_Wlan_Current_Channel_sec), json::not_in_closing},
+    {"m_TimeRebootEnable", SHOWN(Dev_RebootTime_Enable)},
+    {"m_RebootTime", SHOWN(Dev_RebootTime)},
+    {"m_CurrentTime", SHOWN(Dev_CurrentDateTime)},
+    {"m_dev_modelname", SHOWN(Dev_Model_Name)},
+    {"m_wlan_txpower", SHOWN(Dev_Wlan_Txpower)},
+    {"m_wlan_txpower_sec", SHOWN(Dev_Wlan_Txpower_sec)},
+    {"m_wlan_ssid", SHOWN_OF_WLAN(0, Ssid), json::not_in_closing},
+    {"m_wlan_ssid_sec", SHOWN_OF_WLAN(4, Ssid), json::not_in_closing},
 };
 // clang-format on
 
-/// What is printed behind the list.
-struct Totals {
-    int page;
-    int pages;
-    int devices;
-    int online;
-    int stations;
-};
+#undef SHOWN
+#undef SHOWN_OF_WLAN
 
-int read_number(SharedConnection &connection, const char *sql) {
-    return query(profiles::sql_int_count_route, sql, {nullptr}, &connection);
-}
-
-void read_each(Totals &totals, SharedConnection &connection) {
-    totals.devices = read_number(connection, "select count(*) from DevInfo where Dev_Ipaddress <> '';");
-    totals.online = count_online(&connection);
-    if (totals.devices > 0) {
-        const int first = read_number(connection, "select sum(Dev_Wlan_Sta_Num) from DevInfo ;");
-        const int second = read_number(connection, "select sum(Dev_Wlan_Sta_Num_sec) from DevInfo ;");
-        totals.stations = wrapping_sum(first, second);
-    }
-}
-
-/// Reads all of them by one statement that says nothing when it fails.
-/// @return whether they are what the statements one by one would give
-bool read_at_once(Totals &totals, SharedConnection &connection) {
-    Reading reading(silent_totals, &connection);
-    if (!reading.open() ||
-        !reading.prepare("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
-                         "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") ||
-        !reading.first_row()) {
-        return false;
-    }
-    const Row row = reading.row();
-    totals.devices = row.number(0);
-    totals.online = row.number(1);
-    totals.stations = totals.devices > 0 ? wrapping_sum(row.number(2), row.number(3)) : 0;
-    return true;
-}
-
-Totals read_totals(SharedConnection &connection) {
-    Totals totals{};
-    if (!build_profile.merges_totals || !read_at_once(totals, connection)) {
-        read_each(totals, connection);
-    }
-    return totals;
+int number_of(const Row &row, DeviceField field) {
+    return number_in(field_text(row.text(field.column), field.width - 1U));
 }
 
 /// The stations of both radios, or of the first one unless the access point has eight networks.
 long stations_of(const Row &row) {
-    constexpr int wlans_of_two_radios = 8;
-    const auto number = [&row](int column) { return number_in(field_text(row.text(column), radio_width - 1)); };
-    const int first = number(128);
-    return number(15) == wlans_of_two_radios ? first + number(148) : first;
+    constexpr DeviceField networks = device_field(offsetof(DevInfo, Dev_Wlan_Radio_Num));
+    constexpr DeviceField of_first_radio = device_field(offsetof(DevInfo, Dev_Wlan_Sta_Num));
+    constexpr DeviceField of_second_radio = device_field(offsetof(DevInfo, Dev_Wlan_Sta_Num_sec));
+    constexpr int networks_of_two_radios = 8;
+    const int first = number_of(row, of_first_radio);
+    return number_of(row, networks) == networks_of_two_radios ? first + number_of(row, of_second_radio) : first;
 }
 
-void print_device(const Row &row) {
-    json::Element element;
-    for (const Key &key : keys) {
-        switch (key.from) {
-            case From::text:
-                element.print(key.name, field_text(row.text(key.column), key.width - 1U));
-                break;
-            case From::serial_number:
-                element.print(key.name, static_cast<unsigned long>(static_cast<std::uint32_t>(row.unsigned_number(0))));
-                break;
-            case From::stations:
-                element.print(key.name, stations_of(row));
-                break;
-            case From::no_group_name:
-                element.print(key.name, "N/A");
-                break;
-        }
-    }
-    json::close_element();
+void print_device(json::List &list, const Row &row) {
+    StackText<24> serial_number_text;
+    serial_number_text.append(static_cast<unsigned long>(static_cast<std::uint32_t>(row.unsigned_number(0))));
+    StackText<24> stations_text;
+    stations_text.append(stations_of(row));
+    const std::string_view given[] = {serial_number_text.view(), stations_text.view(), "N/A"};
+    list.print(row, given);
 }
 
-void print_totals(const Totals &totals) {
-    json::print_total("pagenum", totals.page);
-    json::print_total("pagecount", totals.pages);
-    json::print_total("sumcount", totals.devices);
-    json::print_total("onlinecount", totals.online);
-    json::print_total("stasumnum", totals.stations);
-    json::close_object();
+void append_total(Text &text, const char *key, int value) {
+    text.append(",\"").append(key).append("\":\"").append(long{value}).append("\"");
 }
 
-void print_rows(Reading &reading, Totals totals) {
-    int count = 0;
+using EndText = StackText<160>;
+
+/// What stands behind the count, to the end of the object.
+void append_end(Text &text, PageNumbers numbers, const Totals &totals) {
+    append_total(text, "pagenum", numbers.page);
+    append_total(text, "pagecount", numbers.pages);
+    append_total(text, "sumcount", totals.devices);
+    append_total(text, "onlinecount", totals.online);
+    append_total(text, "stasumnum", totals.stations);
+    text.append("}}");
+}
+
+/// The answer when the filter lets nothing through. Its totals are all 0.
+void print_no_device(const PageRequest &request) {
+    EndText text;
+    text.append("{\"count\":\"0\"");
+    append_end(text, page_numbers(request, 0, 0), {});
+    json::print(text.c_str());
+}
+
+void print_rows(Reading &reading, const PageRequest &request, int matches, const Totals &totals) {
+    StackText<json::Keys(keys).room()> text;
+    json::List list(keys, text);
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
-        print_device(reading.row());
-        ++count;
+        print_device(list, reading.row());
     }
-    if (count == 0) {
-        totals.page = 1;
-        totals.pages = 0;
-    }
-    json::Element closing;
-    for (const Key &key : keys) {
-        if (key.in_closing) {
-            closing.print(key.name, "");
-        }
-    }
-    json::close_list(count);
-    print_totals(totals);
+    EndText end;
+    append_end(end, page_numbers(request, matches, list.count()), totals);
+    list.close_in_one_piece(end.c_str());
 }
 
 }  // namespace
 
 void print_page(const PageRequest &request) {
     SharedConnection connection;
-    Totals totals = read_totals(connection);
-    SqlText count;
-    append_count(count, request);
-    const int rows = query(profiles::sql_int_count_route, count, {nullptr}, &connection);
-    totals.pages = pages_for(rows, request);
-    const int last = totals.pages < request.page ? totals.pages : request.page;
-    totals.page = last == 0 ? 1 : last;
-
-    json::open_object("ApDevList");
-    if (rows < 1) {
-        json::print("{\"count\":\"0\"");
-        print_totals({1, 0, 0, 0, 0});
+    const Totals totals = read_totals(connection);
+    SqlText sql;
+    append_count(sql, request);
+    const int matches = query(profiles::sql_int_count_route, sql, {nullptr}, &connection);
+    json::print("{\"ApDevList\":");
+    if (matches < 1) {
+        print_no_device(request);
         return;
     }
-    json::open_list();
-    SqlText sql;
+    json::print(json::opening);
+    sql.clear();
     append_page(sql, request);
     Reading reading(page, &connection);
     if (sql.complete() && reading.open() && reading.prepare(sql.c_str())) {
-        print_rows(reading, totals);
+        print_rows(reading, request, matches, totals);
     }
 }
 

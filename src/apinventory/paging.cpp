@@ -96,10 +96,15 @@ void append_page(Text &sql, const PageRequest &request) {
     sql.append(long{request.size}).append(" ;");
 }
 
-int pages_for(int rows, const PageRequest &request) {
-    const int pages = rows / request.size;
+PageNumbers page_numbers(const PageRequest &request, int matches, int printed) {
+    if (printed == 0) {
+        return {1, 0};
+    }
+    const int whole = matches / request.size;
     // Deliberate: less than one page counts as none.
-    return pages > 0 && rows % request.size != 0 ? pages + 1 : pages;
+    const int pages = whole > 0 && matches % request.size != 0 ? whole + 1 : whole;
+    const int page = pages < request.page ? pages : request.page;
+    return {page != 0 ? page : 1, pages};
 }
 
 }  // namespace routerdb

@@ -25,7 +25,14 @@ void append_count(Text &sql, const PageRequest &request);
 /// Selects the rows of the page.
 void append_page(Text &sql, const PageRequest &request);
 
-/// Pages that so many rows take; 0 for less than one page.
-int pages_for(int rows, const PageRequest &request);
+/// What a page says of itself.
+struct PageNumbers {
+    int page;
+    int pages;
+};
+
+/// @param matches  what the filter lets through
+/// @param printed  how much of it stands on the page; a page with nothing on it is page 1 of 0
+PageNumbers page_numbers(const PageRequest &request, int matches, int printed);
 
 }  // namespace routerdb

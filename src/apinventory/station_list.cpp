@@ -62,28 +62,28 @@ bool parse(char *line, Station &station) {
     return true;
 }
 
+constexpr json::Key keys[] = {
+    {"mac", json::given(0, field_size - 1)},
+    {"time", json::given(1, field_size - 1)},
+    {"signal", json::given(2, 11)},
+};
+
 void print_lines(FILE *file) {
     char line[128];
     Station station;
-    int count = 0;
-    json::open_list("sta");
+    StackText<json::Keys(keys).room()> text;
+    json::List list(keys, text);
+    json::print("{\"sta\":[");
     while (std::fgets(line, sizeof(line), file) != nullptr) {
         if (parse(line, station)) {
-            json::Element element;
-            element.print("mac", station.mac);
-            element.print("time", station.time);
+            StackText<12> signal;
             // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0
-            element.print("signal", long{std::atoi(station.signal)});
-            json::close_element();
-            ++count;
+            signal.append(long{std::atoi(station.signal)});
+            const std::string_view given[] = {station.mac, station.time, signal.view()};
+            list.print(given);
         }
     }
-    json::Element closing;
-    for (const char *key : {"mac", "time", "signal"}) {
-        closing.print(key, "");
-    }
-    json::close_list(count);
-    json::print("}}\n");
+    list.close_in_one_piece("}}\n");
 }
 
 }  // namespace
@@ -91,11 +91,10 @@ void print_lines(FILE *file) {
 void print_stations(const char *device_address) {
     char path[32];
     ask(device_address, path);
-    json::open_object("DevStalist");
-    json::print("\n");
+    json::print("{\"DevStalist\":\n");
     FILE *file = std::fopen(path, "r");
     if (file == nullptr) {
-        json::print_no_list();
+        json::print(json::no_list);
         return;
     }
     print_lines(file);

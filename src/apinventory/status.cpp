@@ -87,9 +87,4 @@ int count_rows(const char *table, SharedConnection *shared) {
     return query(profiles::exec_char_int, sql, destination, shared) == 0 ? static_cast<int>(count) : 0;
 }
 
-int count_online(SharedConnection *shared) {
-    return query(profiles::sql_int_count_route, "select count(*) from DevInfo  where Dev_Status='1';", {nullptr},
-                 shared);
-}
-
 }  // namespace routerdb

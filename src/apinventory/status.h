@@ -29,7 +29,4 @@ void set_upgrade_status(const char *mac, const char *status);
 /// Rows of a table of the main database; 0 when they cannot be read.
 int count_rows(const char *table, SharedConnection *shared = nullptr);
 
-/// Access points that are online.
-int count_online(SharedConnection *shared = nullptr);
-
 }  // namespace routerdb

@@ -21,56 +21,45 @@ constexpr char query_text[] =
     "WlanGroup_Wlan5_Psk_Value,WlanGroup_Wlan_Channel,WlanGroup_Wlan_Channel_sec,WlanGroup_Dev_RebootTime_Enable,"
     "WlanGroup_Dev_RebootTime,WlanGroup_Wlan_Txpower,WlanGroup_Wlan_Txpower_sec from WlanZeroCfgGroupInfo;";
 
-/// A key and the column of the query that it shows. The order is that of the output.
-struct Key {
-    char name[31];
-    std::uint8_t column;
-};
+constexpr json::Value shown_column(std::uint8_t column) {
+    constexpr std::uint16_t longest = 99;
+    return json::column_text(column, longest);
+}
 
+// The columns are those of the query; the order is that of the output.
 // clang-format off
-constexpr Key keys[] = {
-    {"WlanGroup_Id", 0},
-    {"WlanGroup_Name", 1},
-    {"WlanGroup_Wlan1_Ssid", 2},
-    {"WlanGroup_Wlan1_Security", 3},
-    {"WlanGroup_Wlan1_AuthMode", 4},
-    {"WlanGroup_Wlan1_SecurityCipher", 5},
-    {"WlanGroup_Wlan1_Wep_Value", 6},
-    {"WlanGroup_Wlan1_Psk_Value", 7},
-    {"WlanGroup_Wlan_Channel", 14},
-    {"WlanGroup_Wlan5_Ssid", 8},
-    {"WlanGroup_Wlan5_Security", 9},
-    {"WlanGroup_Wlan5_AuthMode", 10},
-    {"WlanGroup_Wlan5_SecurityCipher", 11},
-    {"WlanGroup_Wlan5_Wep_Value", 12},
-    {"WlanGroup_Wlan5_Psk_Value", 13},
-    {"WlanGroup_Wlan_Channel_sec", 15},
+constexpr json::Key keys[] = {
+    {"WlanGroup_Id", shown_column(0)},
+    {"WlanGroup_Name", shown_column(1)},
+    {"WlanGroup_Wlan1_Ssid", shown_column(2)},
+    {"WlanGroup_Wlan1_Security", shown_column(3)},
+    {"WlanGroup_Wlan1_AuthMode", shown_column(4), json::begins_closing_piece},
+    {"WlanGroup_Wlan1_SecurityCipher", shown_column(5), json::begins_piece},
+    {"WlanGroup_Wlan1_Wep_Value", shown_column(6)},
+    {"WlanGroup_Wlan1_Psk_Value", shown_column(7)},
+    {"WlanGroup_Wlan_Channel", shown_column(14), json::begins_closing_piece},
+    {"WlanGroup_Wlan5_Ssid", shown_column(8), json::begins_piece},
+    {"WlanGroup_Wlan5_Security", shown_column(9)},
+    {"WlanGroup_Wlan5_AuthMode", shown_column(10)},
+    {"WlanGroup_Wlan5_SecurityCipher", shown_column(11), json::begins_piece | json::begins_closing_piece},
+    {"WlanGroup_Wlan5_Wep_Value", shown_column(12)},
+    {"WlanGroup_Wlan5_Psk_Value", shown_column(13)},
+    {"WlanGroup_Wlan_Channel_sec", shown_column(15)},
     // Deliberate: the last four are not named after their columns.
-    {"Wlan_txpower", 18},
-    {"Wlan_txpower_sec", 19},
-    {"TimeRebootEnable", 16},
-    {"RebootTime", 17},
+    {"Wlan_txpower", shown_column(18), json::begins_piece},
+    {"Wlan_txpower_sec", shown_column(19)},
+    {"TimeRebootEnable", shown_column(16)},
+    {"RebootTime", shown_column(17)},
 };
 // clang-format on
 
-constexpr std::size_t longest_value = 99;
-
 void print_rows(Reading &reading) {
-    int count = 0;
+    StackText<json::Keys(keys).room()> text;
+    json::List list(keys, text);
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
-        json::Element element;
-        for (const Key &key : keys) {
-            element.print(key.name, field_text(reading.row().text(key.column), longest_value));
-        }
-        json::close_element();
-        ++count;
+        list.print(reading.row());
     }
-    json::Element closing;
-    for (const Key &key : keys) {
-        closing.print(key.name, "");
-    }
-    json::close_list(count);
-    json::close_object();
+    list.close(list.count());
 }
 
 }  // namespace
@@ -78,13 +67,13 @@ void print_rows(Reading &reading) {
 int print_zero_config_groups() {
     SharedConnection connection;
     const int first = first_group_number(connection);
-    json::open_object("WlanGroupList");
+    json::print("{\"WlanGroupList\":");
     // Deliberate: a first group with the number 0 hides all of them.
     if (first < 1) {
-        json::print_no_list();
+        json::print(json::no_list);
         return 0;
     }
-    json::open_list();
+    json::print(json::opening);
     Reading reading(groups, &connection);
     if (!reading.open()) {
         return reading.printed();

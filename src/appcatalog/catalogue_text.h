@@ -6,10 +6,12 @@
 
 namespace routerdb {
 
-/// The text of a column, of which callers have never seen more than 199 bytes. Valid until the next step.
+/// Callers have never seen more bytes of a text.
+inline constexpr std::size_t longest_catalogue_text = 199;
+
+/// The text of a column. Valid until the next step.
 inline std::string_view catalogue_text(const Row &row, int column) {
-    constexpr std::size_t longest = 199;
-    return field_text(row.text(column), longest);
+    return field_text(row.text(column), longest_catalogue_text);
 }
 
 }  // namespace routerdb

@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include "appcatalog/catalogue_text.h"
 #include "appcatalog/list_spec.h"
 #include "appcatalog/names.h"
 #include "core/json_list.h"
@@ -27,68 +26,42 @@ constexpr ReadProfile catalogue{
 /// The joined names of one class.
 using JoinedNames = char[joined_columns][ROUTERDB_JOINED_NAMES];
 
-int index_in_joined(From from) {
-    return static_cast<int>(from) - static_cast<int>(From::names);
-}
-
 /// Joins the names that the keys ask for. It is done before the element is begun, so that a message stands in front.
-void join(const ListSpec &spec, int class_id, NameJoiner &joiner, JoinedNames &joined) {
-    for (unsigned key = 0; key < spec.key_count; ++key) {
-        const int index = index_in_joined(spec.keys[key].from);
-        if (index >= 0) {
-            joined[index][0] = '\0';
+void join(json::Keys keys, int class_id, NameJoiner &joiner, JoinedNames &joined) {
+    for (char(&names)[ROUTERDB_JOINED_NAMES] : joined) {
+        names[0] = '\0';
+    }
+    for (const json::Key &key : keys) {
+        if (key.value.source == json::Source::given && key.value.index >= given_names) {
+            const int index = key.value.index - given_names;
             joiner.join(static_cast<Joined>(index), class_id, joined[index]);
         }
     }
 }
 
-void print_member(json::Element &element, const Key &key, const Row &row, const char *argument,
-                  const JoinedNames &joined) {
-    switch (key.from) {
-        case From::text:
-            return element.print(key.name, catalogue_text(row, key.column));
-        case From::number:
-            return element.print(key.name, long{row.number(key.column)});
-        case From::zero:
-            return element.print(key.name, 0L);
-        case From::argument:
-            return element.print(key.name, argument);
-        case From::names:
-        case From::names_en:
-        case From::features:
-            return element.print(key.name, joined[index_in_joined(key.from)]);
-    }
-}
-
 /// Prints the elements and closes the list.
-void print_rows(const ListSpec &spec, Reading &reading, const char *argument, int table_count) {
+void print_rows(const ListSpec &spec, json::Keys keys, Reading &reading, const char *argument, int table_count) {
+    StackText<json::Keys(all_classes.keys).room()> text;  // the longest elements are those of the classes
+    json::List list(keys, text);
     JoinedNames joined;
     NameJoiner joiner(reading.db());
-    int count = 0;
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
-        join(spec, reading.row().number(0), joiner, joined);
-        json::Element element;
-        for (unsigned index = 0; index < spec.key_count; ++index) {
-            print_member(element, spec.keys[index], reading.row(), argument, joined);
-        }
-        json::close_element();
-        ++count;
+        join(keys, reading.row().number(0), joiner, joined);
+        const std::string_view given[] = {"0", argument, joined[0], joined[1], joined[2]};
+        static_assert(std::size(given) == given_values);
+        list.print(reading.row(), given);
     }
-    json::Element closing;
-    for (unsigned index = 0; index < spec.key_count; ++index) {
-        closing.print(spec.keys[index].name, "");
-    }
-    json::close_list(spec.count == Count::of_table ? table_count : count, spec.closing_blank);
-    json::close_object();
+    list.close(spec.count == Count::of_table ? table_count : list.count(), spec.closing_blank);
 }
 
-void read_rows(const ListSpec &spec, const char *argument, int table_count, SharedConnection &connection) {
+void read_rows(const ListSpec &spec, json::Keys keys, const char *argument, int table_count,
+               SharedConnection &connection) {
     SqlText sql;
     sql.append(spec.row_query).append(argument).append(spec.query_tail);
     Reading reading(catalogue, &connection);
     const bool opened = reading.open();
     if (opened && sql.complete() && reading.prepare(sql.c_str())) {
-        print_rows(spec, reading, argument, table_count);
+        print_rows(spec, keys, reading, argument, table_count);
     }
     if (!opened || reading.lost()) {
         close(reading.code());  // Deliberate: callers have come to expect it, as they do the close below.
@@ -98,7 +71,7 @@ void read_rows(const ListSpec &spec, const char *argument, int table_count, Shar
     close(STDIN_FILENO);
 }
 
-void print_list(const ListSpec &spec, const char *argument) {
+void print_list(const ListSpec &spec, json::Keys keys, const char *argument) {
     SqlText sql;
     sql.append(spec.count_query);
     if (spec.count_by_class) {
@@ -106,31 +79,31 @@ void print_list(const ListSpec &spec, const char *argument) {
     }
     SharedConnection connection;
     const int count = query(profiles::sqlite_sql_int, sql, {nullptr}, &connection);
-    json::open_object("ItemList");
+    json::print("{\"ItemList\":");
     if (count < 1) {
-        json::print_no_list();
+        json::print(json::no_list);
         return;
     }
-    json::open_list();
-    read_rows(spec, argument, count, connection);
+    json::print(json::opening);
+    read_rows(spec, keys, argument, count, connection);
 }
 
 }  // namespace
 
 void print_all_classes() {
-    print_list(all_classes, "");
+    print_list(all_classes.spec, all_classes.keys, "");
 }
 
 void print_class(const char *id) {
-    print_list(one_class, id);
+    print_list(one_class.spec, one_class.keys, id);
 }
 
 void print_application(const char *id) {
-    print_list(one_application, id);
+    print_list(one_application.spec, one_application.keys, id);
 }
 
 void print_applications_of_class(const char *class_id) {
-    print_list(applications_of_class, class_id);
+    print_list(applications_of_class.spec, applications_of_class.keys, class_id);
 }
 
 }  // namespace routerdb

@@ -3,24 +3,21 @@
 
 #include <cstdint>
 
+#include "appcatalog/catalogue_text.h"
+#include "core/json_list.h"
+#include "routerdb.h"
+
 namespace routerdb {
 
-/// Where a member of an element comes from.
-enum class From : std::uint8_t {
-    text,      // a column
-    number,    // a column as a number
-    zero,      // always 0
-    argument,  // the caller's text
-    names,     // the joined names of the class whose number is in column 0
-    names_en,
-    features,
+/// What is given for an element beside its row.
+enum Given : std::uint8_t {
+    given_zero,
+    given_argument,  // the caller's text
+    given_names,     // the joined names of the class whose number is in column 0
+    given_names_en,
+    given_features,
 };
-
-struct Key {
-    char name[13];
-    From from;
-    std::uint8_t column;
-};
+inline constexpr unsigned given_values = 5;
 
 /// Which count is printed behind the list.
 enum class Count : std::uint8_t { of_elements, of_table };
@@ -32,53 +29,67 @@ struct ListSpec {
     bool count_by_class;  // the caller's text and the tail belong to the count query too
     Count count;
     char closing_blank[2];
-    std::uint8_t key_count;
-    Key keys[9];
 };
 
+template <std::size_t key_count>
+struct KeyedList {
+    ListSpec spec;
+    json::Key keys[key_count];
+};
+
+constexpr json::Value catalogue_column(std::uint8_t column) {
+    return json::column_text(column, longest_catalogue_text);
+}
+
+inline constexpr json::Value zero = json::given(given_zero, 1);
+
+constexpr json::Value joined(Given names) {
+    return json::given(names, ROUTERDB_JOINED_NAMES - 1);
+}
+
 // clang-format off
-inline constexpr ListSpec all_classes{
-    "select  count(*) from App_Class;", "select * from App_Class order by Id ;", "", false,
-    Count::of_elements, "", 9, {
-        {"id", From::number, 0},
-        {"name", From::text, 1},
-        {"name_en", From::text, 2},
-        {"mark", From::text, 4},
-        {"priority", From::zero, 0},
-        {"bw", From::zero, 0},
-        {"appnames", From::names, 0},
-        {"appnames_en", From::names_en, 0},
-        {"appfeature", From::features, 0},
+inline constexpr KeyedList<9> all_classes{
+    {"select  count(*) from App_Class;", "select * from App_Class order by Id ;", "", false,
+     Count::of_elements, ""}, {
+        {"id", json::column_number(0)},
+        {"name", catalogue_column(1)},
+        {"name_en", catalogue_column(2)},
+        {"mark", catalogue_column(4)},
+        {"priority", zero},
+        {"bw", zero},
+        {"appnames", joined(given_names)},
+        {"appnames_en", joined(given_names_en)},
+        {"appfeature", joined(given_features)},
     }};
 
 // Deliberate: the whole table is counted, and its count printed.
-inline constexpr ListSpec one_class{
-    "select  count(*) from App_Class;", "select Name,Mark from App_Class where Id='", "' ;", false,
-    Count::of_table, "", 3, {
-        {"name", From::text, 0},
-        {"mark", From::text, 1},
-        {"priority", From::zero, 0},
+inline constexpr KeyedList<3> one_class{
+    {"select  count(*) from App_Class;", "select Name,Mark from App_Class where Id='", "' ;", false,
+     Count::of_table, ""}, {
+        {"name", catalogue_column(0)},
+        {"mark", catalogue_column(1)},
+        {"priority", zero},
     }};
 
-inline constexpr ListSpec one_application{
-    "select\tcount(*) from App_Info;", "select Class_Id,Name,Name_En,Features,Mark from App_Info where Id='", "' ;", false,
-    Count::of_elements, " ", 5, {
-        {"classname", From::number, 0},  // Deliberate: the key says name, the value is the number.
-        {"appname", From::text, 1},
-        {"appname_en", From::text, 2},
-        {"features", From::text, 3},
-        {"mark", From::text, 4},
+inline constexpr KeyedList<5> one_application{
+    {"select\tcount(*) from App_Info;", "select Class_Id,Name,Name_En,Features,Mark from App_Info where Id='", "' ;", false,
+     Count::of_elements, " "}, {
+        {"classname", json::column_number(0)},  // Deliberate: the key says name, the value is the number.
+        {"appname", catalogue_column(1)},
+        {"appname_en", catalogue_column(2)},
+        {"features", catalogue_column(3)},
+        {"mark", catalogue_column(4)},
     }};
 
-inline constexpr ListSpec applications_of_class{
-    "select  count(*) from App_Info where Class_Id='", "select * from App_Info where Class_Id='", "';", true,
-    Count::of_elements, " ", 6, {
-        {"id", From::number, 0},
-        {"class_id", From::argument, 0},
-        {"appname", From::text, 2},
-        {"appname_en", From::text, 3},
-        {"features", From::text, 4},
-        {"mark", From::text, 5},
+inline constexpr KeyedList<6> applications_of_class{
+    {"select  count(*) from App_Info where Class_Id='", "select * from App_Info where Class_Id='", "';", true,
+     Count::of_elements, " "}, {
+        {"id", json::column_number(0)},
+        {"class_id", json::given(given_argument, 20)},
+        {"appname", catalogue_column(2)},
+        {"appname_en", catalogue_column(3)},
+        {"features", catalogue_column(4)},
+        {"mark", catalogue_column(5)},
     }};
 // clang-format on
 

@@ -1,70 +1,106 @@
 #include "core/json_list.h"
 
 #include <cstdio>
+#include <cstring>
 
 namespace routerdb::json {
+
+namespace {
+
+/// The one way of a text into JSON. It goes as it is stored: nothing is escaped.
+void append_value(Text &element, std::string_view value) {
+    element.append(value);
+}
+
+}  // namespace
 
 void print(const char *piece) {
     std::fputs(piece, stdout);
 }
 
-void open_object(const char *name) {
-    std::printf("{\"%s\":", name);
-}
-
-void print_no_list() {
-    print("{\"count\":\"0\"}}");
-}
-
-void open_list(const char *name) {
-    std::printf("{\"%s\":[", name);
-}
-
-void Element::open_member(const char *key) {
-    json::print(separator_);
-    json::print("\"");
-    json::print(key);
-    json::print("\":\"");
-    separator_ = ",";
-}
-
-void Element::print(const char *key, const char *value) {
-    print(key, std::string_view(value));
-}
-
-void Element::print(const char *key, std::string_view value) {
-    open_member(key);
-    if (!value.empty()) {  // an empty one may have no address, which fwrite does not take
-        std::fwrite(value.data(), 1, value.size(), stdout);
+void List::print(const Row &row, const std::string_view *given) {
+    begin();
+    for (const Key &key : keys_) {
+        open_member(key, begins_piece);
+        append(key.value, row, given);
+        text_.append("\"");
     }
-    json::print("\"");
+    text_.append("},");
+    count_ += write() ? 1 : 0;
 }
 
-void Element::print(const char *key, long value) {
-    open_member(key);
-    std::printf("%ld\"", value);
+void List::close(int count, const char *blank) {
+    append_closing_element();
+    text_.append(blank);
+    end_piece();
+    append_count(count, "}}");
+    write();
 }
 
-void Element::print(const char *key, unsigned long value) {
-    open_member(key);
-    std::printf("%lu\"", value);
+void List::close_in_one_piece(const char *end) {
+    append_closing_element();
+    append_count(count_, end);
+    write();
 }
 
-void close_element() {
-    print("},");
+void List::begin() {
+    text_.clear();
+    text_.append("{");
 }
 
-void close_list(int count, const char *blank) {
-    print(blank);
-    std::printf("}],\"count\":\"%d\"", count);
+void List::open_member(const Key &key, Mark begins) {
+    if (text_.length() > 1) {
+        text_.append(",");
+    }
+    if ((key.marks & begins) != 0) {
+        end_piece();
+    }
+    text_.append("\"").append(key.name).append("\":\"");
 }
 
-void print_total(const char *key, int value) {
-    std::printf(",\"%s\":\"%d\"", key, value);
+void List::append(const Value &value, const Row &row, const std::string_view *given) {
+    switch (value.source) {
+        case Source::text:
+            return append_value(text_, field_text(row.text(value.index), value.longest));
+        case Source::number:
+            text_.append(long{row.number(value.index)});
+            return;
+        case Source::given:
+            return append_value(text_, given[value.index]);
+    }
 }
 
-void close_object() {
-    print("}}");
+void List::append_closing_element() {
+    begin();
+    for (const Key &key : keys_) {
+        if ((key.marks & not_in_closing) == 0) {
+            open_member(key, begins_closing_piece);
+            text_.append("\"");
+        }
+    }
+}
+
+void List::append_count(int count, const char *end) {
+    text_.append("}],\"count\":\"").append(long{count}).append("\"").append(end);
+}
+
+/// A piece ends with a zero byte, which no value holds.
+void List::end_piece() {
+    text_.append(std::string_view("", 1));
+}
+
+/// @return false without memory for the text
+bool List::write() {
+    if (!text_.complete()) {
+        return false;
+    }
+    const char *const end = text_.c_str() + text_.length();
+    flockfile(stdout);
+    for (const char *piece = text_.c_str(); piece < end; piece += std::strlen(piece) + 1) {
+        json::print(piece);
+    }
+    funlockfile(stdout);
+    return true;
 }
 
 }  // namespace routerdb::json

@@ -45,6 +45,12 @@ public:
     /// Appends what stands inside single quotes, its own doubled, so that SQL reads it back as it is.
     Text &append_escaped(std::string_view value);
 
+    /// Begins anew in the same room. A text that memory ran out for stays so.
+    void clear() {
+        length_ = 0;
+        *data_ = '\0';
+    }
+
     /// Takes heap for a text of so many bytes, its terminator included, if the buffer does not have them.
     /// @return false without memory
     bool reserve(std::size_t size) { return make_room(size); }
@@ -52,6 +58,7 @@ public:
     [[nodiscard]] bool complete() const { return !out_of_memory_; }
     const char *c_str() const { return data_; }
     std::size_t length() const { return length_; }
+    std::string_view view() const { return {data_, length_}; }
 
 protected:
     Text(char *buffer, std::size_t capacity) : data_(buffer), buffer_(buffer), capacity_(capacity) { *data_ = '\0'; }

@@ -1,18 +1,62 @@
 #include "json/printed.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
+#include <cstdio>
 #include <stdexcept>
+#include <thread>
 
 #include "support/streams.h"
 #include <nlohmann/json.hpp>
 
 namespace printed {
 
+namespace {
+
+/// Far up, where a list that closes low descriptors does not meet it.
+int moved_up(int descriptor) {
+    constexpr int far_up = 500;
+    const int moved = fcntl(descriptor, F_DUPFD_CLOEXEC, far_up);
+    close(descriptor);
+    return moved;
+}
+
+}  // namespace
+
 std::string by(const std::function<void()> &action) {
     const support::Streams::Text text = support::streams_of(action);
     EXPECT_EQ(text.error, "");
     return text.output;
+}
+
+std::vector<std::string> writes_of(const std::function<void()> &action) {
+    int ends[2];  // a packet is what one write sends
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends) != 0) {
+        throw std::runtime_error("no sockets to be had");
+    }
+    const int end = moved_up(ends[0]);
+    std::vector<std::string> writes;
+    std::thread reader([&writes, end] {
+        std::string packet(1 << 16, '\0');
+        for (ssize_t size = 0; (size = recv(end, packet.data(), packet.size(), 0)) > 0;) {
+            writes.emplace_back(packet.data(), static_cast<std::size_t>(size));
+        }
+    });
+    std::fflush(stdout);
+    const int saved = moved_up(dup(STDOUT_FILENO));
+    dup2(ends[1], STDOUT_FILENO);
+    close(ends[1]);
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    action();
+    std::setvbuf(stdout, nullptr, _IOFBF, BUFSIZ);
+    dup2(saved, STDOUT_FILENO);
+    close(saved);
+    reader.join();
+    close(end);
+    return writes;
 }
 
 bool is_json(const std::string &text) {

@@ -11,6 +11,9 @@ namespace printed {
 /// What `action` prints on standard output. Anything on standard error fails the test.
 std::string by(const std::function<void()> &action);
 
+/// What `action` prints, write by write: standard output has no buffer meanwhile, and each call of the stream is one.
+std::vector<std::string> writes_of(const std::function<void()> &action);
+
 /// Whether a text is one JSON value and nothing else.
 bool is_json(const std::string &text);
 
