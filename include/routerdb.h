@@ -1381,17 +1381,17 @@ ROUTERDB_API void SetDevStatusbyIP(const char *ip, const char *status);
 
 /// Reads the status of an access point.
 /// @param      mac  the address
-/// @param[out] out  room for the text (5 bytes); "0" when there is no such row
+/// @param[out] out  room for 5 bytes, at which the text is cut; "0" when there is no such row
 ROUTERDB_API void GetDevStatus(const char *mac, char *out);
 
 /// Reads the upgrade status of an access point.
 /// @param      mac  the address
-/// @param[out] out  room for the text (25 bytes); "0" when there is no such row
+/// @param[out] out  room for 25 bytes, at which the text is cut; "0" when there is no such row
 ROUTERDB_API void GetDevUpgradeStatus(const char *mac, char *out);
 
 /// Reads the MAC address of an access point.
 /// @param      sn   its serial number
-/// @param[out] out  room for the text (20 bytes); untouched when there is no such row
+/// @param[out] out  room for 20 bytes, at which the text is cut; untouched when there is no such row
 ROUTERDB_API void GetDevMacBySN(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point by its MAC address.
