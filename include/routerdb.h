@@ -1722,7 +1722,8 @@ ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRec
 /// @note As thread-safe as add_addrserverlease_sql().
 ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFile, const char *pidFile);
 
-/// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file.
+/// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file. Of an
+/// address in the file 31 characters count, of a host name 127.
 /// @param      mac        the address in upper case, with colons
 /// @param[out] hostname   room for 128 bytes; untouched when no line matches
 /// @param      leaseFile  path of the lease file
