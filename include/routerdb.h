@@ -1456,7 +1456,8 @@ ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
 /// Reads one WLAN group.
 /// @param[out] group    cleared, then filled; the SSIDs of networks 2, 3, 4, 6, 7 and 8 come in GB2312
 /// @param      groupId  its number
-/// @return 0, also when there is no such group; a positive number when the database could not be opened
+/// @return 0, also when there is no such group; a positive number when the database could not be opened or not be
+/// closed
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds. Thread-safe; takes no lock.
 ROUTERDB_API int DB_getwlangroupinfoByindex(DevInfo *group, int groupId);
