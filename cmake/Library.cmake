@@ -43,6 +43,7 @@ add_library(
     src/core/json_list.cpp
     src/core/lock_file.cpp
     src/core/maintenance.cpp
+    src/core/number.cpp
     src/core/query.cpp
     src/core/random.cpp
     src/core/reading.cpp

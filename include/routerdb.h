@@ -1381,17 +1381,17 @@ ROUTERDB_API void SetDevStatusbyIP(const char *ip, const char *status);
 
 /// Reads the status of an access point.
 /// @param      mac  the address
-/// @param[out] out  room for the text (5 bytes); "0" when there is no such row
+/// @param[out] out  room for 5 bytes, at which the text is cut; "0" when there is no such row
 ROUTERDB_API void GetDevStatus(const char *mac, char *out);
 
 /// Reads the upgrade status of an access point.
 /// @param      mac  the address
-/// @param[out] out  room for the text (25 bytes); "0" when there is no such row
+/// @param[out] out  room for 25 bytes, at which the text is cut; "0" when there is no such row
 ROUTERDB_API void GetDevUpgradeStatus(const char *mac, char *out);
 
 /// Reads the MAC address of an access point.
 /// @param      sn   its serial number
-/// @param[out] out  room for the text (20 bytes); untouched when there is no such row
+/// @param[out] out  room for 20 bytes, at which the text is cut; untouched when there is no such row
 ROUTERDB_API void GetDevMacBySN(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point by its MAC address.
@@ -1456,7 +1456,8 @@ ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
 /// Reads one WLAN group.
 /// @param[out] group    cleared, then filled; the SSIDs of networks 2, 3, 4, 6, 7 and 8 come in GB2312
 /// @param      groupId  its number
-/// @return 0, also when there is no such group; a positive number when the database could not be opened
+/// @return 0, also when there is no such group; a positive number when the database could not be opened or not be
+/// closed
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds. Thread-safe; takes no lock.
 ROUTERDB_API int DB_getwlangroupinfoByindex(DevInfo *group, int groupId);
@@ -1727,7 +1728,8 @@ ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRec
 /// @note As thread-safe as add_addrserverlease_sql().
 ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFile, const char *pidFile);
 
-/// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file.
+/// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file. Of an
+/// address in the file 31 characters count, of a host name 127.
 /// @param      mac        the address in upper case, with colons
 /// @param[out] hostname   room for 128 bytes; untouched when no line matches
 /// @param      leaseFile  path of the lease file

@@ -67,15 +67,15 @@ void SetDevStatusbyIP(const char *ip, const char *status) {
 }
 
 void GetDevStatus(const char *mac, char *out) {
-    read_status("Dev_Status", or_empty(mac), out);
+    read_status("Dev_Status", or_empty(mac), {out, sizeof(DevInfo::Dev_Status)});
 }
 
 void GetDevUpgradeStatus(const char *mac, char *out) {
-    read_status("Dev_Upgrade_Status", or_empty(mac), out);
+    read_status("Dev_Upgrade_Status", or_empty(mac), {out, sizeof(DevInfo::Dev_Upgrade_Status)});
 }
 
 void GetDevMacBySN(unsigned long sn, char *out) {
-    read_mac(sn, out);
+    read_mac(sn, {out, sizeof(DevInfo::Dev_MAC)});
 }
 
 void GetDevSNByMac(const char *mac, unsigned long *sn) {

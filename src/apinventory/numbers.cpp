@@ -2,13 +2,11 @@
 
 #include <arpa/inet.h>
 
-#include <cstdlib>
-
 namespace routerdb {
 
 namespace {
 
-/// A field's text with a terminator, cut at the widest field that holds a number.
+/// A field's text with a terminator, cut at the widest field that holds an address.
 struct Terminated {
     explicit Terminated(std::string_view view) { copy_cut(view, text, sizeof(text)); }
 
@@ -16,10 +14,6 @@ struct Terminated {
 };
 
 }  // namespace
-
-int number_in(std::string_view text) {
-    return std::atoi(Terminated(text).text);  // NOLINT(cert-err34-c): a text that is no number counts as 0
-}
 
 int wlans_in_use(const DevInfo &device) {
     return number_in(field_text(device.Dev_Wlan_Radio_Num));

@@ -3,13 +3,11 @@
 
 #include <string_view>
 
+#include "core/number.h"
 #include "core/text.h"
 #include "routerdb.h"
 
 namespace routerdb {
-
-/// The number that a text starts with; 0 for one that is no number.
-int number_in(std::string_view text);
 
 /// The sum of two numbers that a database may hold at their limits: there it goes on from the other end.
 constexpr int wrapping_sum(int a, int b) {

@@ -1,7 +1,6 @@
 #include "apinventory/status.h"
 
 #include <cstdlib>
-#include <cstring>
 
 #include "apinventory/notify.h"
 #include "core/execute.h"
@@ -25,7 +24,7 @@ void run(const Text &sql) {
     [[maybe_unused]] const int result = execute(profiles::exec_char, sql);
 }
 
-void read_text(const Text &sql, char *out) {
+void read_text(const Text &sql, TextRoom out) {
     Destination destination;
     destination.text = out;
     [[maybe_unused]] const int result = query(profiles::exec_char_char, sql, destination);
@@ -43,14 +42,14 @@ void set_status(LookupKey key, const char *value, const char *status) {
     run(sql);
 }
 
-void read_status(const char *column, const char *mac, char *out) {
-    std::strcpy(out, "0");
+void read_status(const char *column, const char *mac, TextRoom out) {
+    out.take("0");
     Sql sql;
     sql.append("select ").append(column).append(" from  DevInfo  where Dev_MAC=").append_quoted(mac).append(";");
     read_text(sql, out);
 }
 
-void read_mac(unsigned long sn, char *out) {
+void read_mac(unsigned long sn, TextRoom out) {
     Sql sql;
     sql.append("select Dev_MAC from  DevInfo where Dev_Sn=").append_quoted(sn).append(";");
     read_text(sql, out);

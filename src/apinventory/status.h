@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "core/query.h"
 #include "core/shared_connection.h"
 
 namespace routerdb {
@@ -15,10 +16,10 @@ enum class LookupKey : std::uint8_t { mac, ip };
 void set_status(LookupKey key, const char *value, const char *status);
 
 /// Reads a column of the access point with a MAC address; "0" without one.
-void read_status(const char *column, const char *mac, char *out);
+void read_status(const char *column, const char *mac, TextRoom out);
 
 /// Reads the MAC address of a serial number; untouched without a row.
-void read_mac(unsigned long sn, char *out);
+void read_mac(unsigned long sn, TextRoom out);
 
 /// Reads the serial number of an access point; untouched without a row.
 void read_sn(LookupKey key, const char *value, unsigned long &sn, SharedConnection *shared = nullptr);

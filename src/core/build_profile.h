@@ -27,6 +27,9 @@ struct BuildProfile {
     /// One converter serves all texts of a record.
     bool shares_converter = false;
 
+    /// A column that holds an integer is read as one instead of through its text.
+    bool reads_integers = false;
+
     /// Records that arrive whole go straight into the caller's list instead of through a block of their own.
     bool receives_in_place = false;
 };
@@ -44,6 +47,7 @@ constexpr BuildProfile make_modern() {
     profile.merges_totals = true;
     profile.binds_ids = true;
     profile.shares_converter = true;
+    profile.reads_integers = true;
     profile.receives_in_place = true;
     return profile;
 }

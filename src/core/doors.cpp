@@ -70,7 +70,7 @@ int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value) {
 
 int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out) {
     Destination destination;
-    destination.text = out;
+    destination.text = unlimited_room(out);
     return query(profiles::exec_char_char, or_empty(sql), destination);
 }
 
@@ -96,7 +96,7 @@ int GET_DB_SQLITE_SQL_INT(const char *sql) {
 
 unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db) {
     Destination destination;
-    destination.text = out;
+    destination.text = unlimited_room(out);
     Backoff backoff(profiles::sqlite_sql_str_n.access.first_delay);
     return static_cast<unsigned int>(query(profiles::sqlite_sql_str_n, db, backoff, or_empty(sql), destination));
 }

@@ -2,8 +2,6 @@
 
 #include <unistd.h>
 
-#include <cstring>
-
 #include "core/statement.h"
 
 namespace routerdb {
@@ -58,7 +56,7 @@ bool Collector::take(const Row &row) {
             outcome = row.number(0);
             return false;
         case Rows::first_text:
-            std::strcpy(destination.text, row.text(0, "0"));  // the caller vouches for the room
+            destination.text.take(row.text(0, "0"));
             return false;
         case Rows::unseen:
             return true;
@@ -72,7 +70,7 @@ bool Collector::take(const Row &row) {
 void Collector::take_last_text(const Row &row) const {
     const char *text = row.text(0, nullptr);
     if (text != nullptr) {
-        std::strcpy(destination.text, text);  // the caller vouches for the room
+        destination.text.take(text);
     }
 }
 

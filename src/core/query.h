@@ -29,11 +29,24 @@ struct QueryProfile {
     StandardInput standard_input;
 };
 
+/// Where a text goes. One that is longer is cut so that its terminator fits.
+struct TextRoom {
+    char *first;
+    std::size_t size;
+
+    void take(const char *text) const { copy_cut(text, first, size); }
+};
+
+/// The room of a caller who vouches for it.
+constexpr TextRoom unlimited_room(char *first) {
+    return {first, SIZE_MAX};
+}
+
 /// The caller's variable, where the rows go into one. Which member counts follows from the profile's rows.
 union Destination {
     unsigned int *counter;
     unsigned long *number;
-    char *text;
+    TextRoom text;
 };
 
 /// Opens as the profile says, runs a query, closes.

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "core/build_profile.h"
 #include "core/text.h"
 
 namespace routerdb {
@@ -31,7 +32,7 @@ int Row::number(int column) const {
     // An integer that fits is what atoi would make of its text; anything else goes through the text, so that digits
     // beyond the range of int come out as atoi has them on this platform.
     int number = 0;
-    if (read_int(column, number)) {
+    if (build_profile.reads_integers && read_int(column, number)) {
         return number;
     }
     return std::atoi(text(column));  // NOLINT(cert-err34-c): callers rely on its reading of odd texts

@@ -13,11 +13,10 @@ namespace {
 
 constexpr std::size_t line_length = 256;
 
-/// The fields of a line, each with room for the whole of it.
+/// What callers see of a line.
 struct LeaseLine {
-    char mac[line_length + 1];
-    char ip[line_length + 1];
-    char hostname[line_length + 1];
+    char mac[32];
+    char hostname[host_name_width];
 };
 
 void to_upper_case(char *text) {
@@ -28,12 +27,14 @@ void to_upper_case(char *text) {
     }
 }
 
-/// Reads expiry, MAC address, IP address and host name. What a line lacks is empty.
+/// Reads expiry, MAC address, IP address and host name. What a line lacks is empty. The words are read whole before
+/// they are cut, or the rest of one would be taken for the next.
 void parse(const char *line, LeaseLine &lease) {
-    int expiry = 0;
-    lease.mac[0] = lease.ip[0] = lease.hostname[0] = '\0';
-    // NOLINTNEXTLINE(cert-err34-c): the expiry is not used
-    std::sscanf(line, "%d %256s %256s %256s", &expiry, lease.mac, lease.ip, lease.hostname);
+    char mac[line_length + 1] = "";
+    char hostname[line_length + 1] = "";
+    std::sscanf(line, "%*d %256s %*s %256s", mac, hostname);
+    copy_cut(mac, lease.mac, sizeof(lease.mac));
+    copy_cut(hostname, lease.hostname, sizeof(lease.hostname));
     to_upper_case(lease.mac);
 }
 

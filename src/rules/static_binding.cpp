@@ -1,8 +1,6 @@
 #include "rules/static_binding.h"
 
-#include <cstdlib>
-#include <cstring>
-
+#include "core/number.h"
 #include "core/text.h"
 #include "sqlservice/client.h"
 
@@ -17,22 +15,13 @@ struct Address {
     int clash;
 };
 
-/// The number that a scalar reply starts with, whether or not its text is terminated; 0 for an empty one.
-int number_in(const Reply &reply) {
-    char digits[24] = {};
-    const std::size_t size = reply.size() < sizeof(digits) ? reply.size() : sizeof(digits) - 1;
-    if (size != 0) {
-        std::memcpy(digits, reply.data(), size);
-    }
-    return std::atoi(digits);  // NOLINT(cert-err34-c): a text that is no number counts as 0
-}
-
 /// "select count(*) from dhcpserverstaticbind where ip='192.168.1.2';", sent as a scalar query.
 int ask(const char *what, const RuleTable &table, const Address &address) {
     SqlText statement;
     statement.append("select ").append(what).append(" from ").append(table.name);
     statement.append(" where ").append(address.column).append("=").append_quoted(address.value).append(";");
-    return number_in(Reply(ROUTERDB_TABLE_SCALAR, ROUTERDB_QUERY, statement));
+    const Reply reply(ROUTERDB_TABLE_SCALAR, ROUTERDB_QUERY, statement);
+    return number_in({reply.data(), reply.size()});
 }
 
 /// @param clashes  whether an address, which some row or none may have, stands in the way

@@ -71,6 +71,18 @@ TEST(GroupNumber, stands_in_the_statement_as_a_text_with_its_sign) {
                      "sqlite3_prepare_v2 select * from WlanZeroCfgGroupInfo where WlanGroup_Id='0';"}));
 }
 
+TEST(WlanGroup, by_its_number_gives_what_closing_the_database_gave) {
+    insert(tables::wlan_groups, numbered_row(tables::wlan_groups, "7"));
+    for (const int number : {7, 8}) {
+        Recorder recorder;
+        recorder.answer("sqlite3_close", {SQLITE_BUSY});
+        DevInfo group;
+        EXPECT_EQ(DB_getwlangroupinfoByindex(&group, number), SQLITE_BUSY);
+        EXPECT_EQ(places::text(group, "wlan_group_name"), number == 7 ? "c1" : "");
+        EXPECT_EQ(DB_getwlangroupinfoByindex(&group, number), SQLITE_OK);
+    }
+}
+
 TEST(DefaultGroup, of_an_empty_table_gives_0_and_leaves_the_record_as_it_was) {
     DevInfo group = places::odd_record();
     EXPECT_EQ(DB_getwlanzerocfggroupinfo(&group), 0);

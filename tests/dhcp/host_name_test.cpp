@@ -56,6 +56,8 @@ const LeaseText texts[] = {
     {"HostNameOf128Characters", "1 AA:BB:CC:DD:EE:0F 192.168.1.2 " + x(128) + "\n", x(127)},
     {"HostNameOf200Characters", "1 AA:BB:CC:DD:EE:0F 192.168.1.2 " + x(200) + "\n", x(127)},
     {"LongMac", "1 " + x(200) + " 192.168.1.2 other\n" + line, "phone"},
+    {"AddressThatFillsItsField", "1 AA:BB:CC:DD:EE:0F " + x(15) + " phone\n", "phone"},
+    {"AddressThatIsLonger", "1 AA:BB:CC:DD:EE:0F " + x(16) + " phone\n", "phone"},
     {"LongAddress", "1 AA:BB:CC:DD:EE:0F " + x(200) + " phone\n", "phone"},
     {"LineOf256Characters", "1 AA:BB:CC:DD:EE:0F 192.168.1.2 phone " + x(218) + "\n", "phone"},
     {"LongLineBeforeIt", x(1000) + "\n" + line, "phone"},
@@ -80,6 +82,25 @@ INSTANTIATE_TEST_SUITE_P(All, HostNames, testing::ValuesIn(texts), [](const auto
 TEST(HostName, is_found_on_a_line_that_holds_no_address_when_none_is_asked_for) {
     EXPECT_EQ(host_name("", line), "before");
     EXPECT_EQ(host_name("", line + "nonsense\n"), "");
+}
+
+/// A line that holds this address, and its host name as a caller sees it who asks for another text.
+std::string host_of(const std::string &in_the_file, const std::string &asked_for) {
+    return host_name(asked_for, "1 " + in_the_file + " 192.168.1.2 phone\n");
+}
+
+TEST(HostName, is_found_by_the_31_characters_of_an_address_that_fit) {
+    const std::string fitting(31, 'A');
+    EXPECT_EQ(host_of(fitting, fitting), "phone");
+    EXPECT_EQ(host_of(fitting + "B", fitting), "phone");
+    EXPECT_EQ(host_of(fitting + "b" + x(168), fitting), "phone");
+}
+
+TEST(HostName, is_not_found_by_more_of_an_address_than_fits_or_by_less) {
+    const std::string fitting(31, 'A');
+    EXPECT_EQ(host_of(fitting + "B", fitting + "B"), "before");
+    EXPECT_EQ(host_of(std::string(200, 'A'), std::string(200, 'A')), "before");
+    EXPECT_EQ(host_of(fitting, std::string(30, 'A')), "before");
 }
 
 TEST(HostName, leaves_one_stream_of_the_lease_file_open_with_each_call) {
@@ -111,6 +132,16 @@ TEST(RouterHostName, is_read_from_the_files_of_the_dhcp_server_whatever_the_flag
         get_hostname_by_mac("AA:BB:CC:DD:EE:0F", host, flag);
         EXPECT_STREQ(host, "phone");
     }
+}
+
+TEST(RouterHostName, is_found_by_what_fits_of_a_longer_address) {
+    const std::string fitting(31, 'A');
+    support::write_file("/var/dhcp.leases", "1 " + fitting + "B 192.168.1.2 phone\n");
+    char host[128] = "before";
+    get_hostname_by_mac((fitting + "B").c_str(), host, 0);
+    EXPECT_STREQ(host, "before");
+    get_hostname_by_mac(fitting.c_str(), host, 0);
+    EXPECT_STREQ(host, "phone");
 }
 
 TEST(RouterHostName, is_not_looked_for_without_an_address_or_a_buffer) {

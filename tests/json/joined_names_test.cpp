@@ -113,6 +113,20 @@ TEST_P(JoinedNames, stay_as_they_were_when_the_query_cannot_be_prepared) {
     EXPECT_EQ(recorder.sleeps(), std::vector<unsigned>{});
 }
 
+TEST_P(JoinedNames, replace_what_stood_there_when_the_first_step_has_ended) {
+    add(3, "'A'");
+    char out[room] = "before";
+    Lines steps;
+    Recorder recorder;
+    recorder.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    recorder.watch([&](const std::string &line) { steps.push_back(line + ": " + out); });
+    GetParam().call(3, out, database_.handle());
+    steps.erase(steps.begin());  // preparing
+    EXPECT_EQ(steps, (Lines{"sqlite3_step: before", "usleep 55: before", "sqlite3_step: before", "usleep 60: before",
+                            "sqlite3_step: before", "usleep 65: before", "sqlite3_step: before", "sqlite3_step: A/",
+                            "sqlite3_finalize: A/"}));
+}
+
 TEST_P(JoinedNames, are_empty_when_the_first_step_fails) {
     add(3, "'A'");
     Recorder recorder;

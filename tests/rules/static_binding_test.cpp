@@ -50,6 +50,14 @@ std::string answer(const std::string &text) {
     return reply_of(text + '\0');
 }
 
+std::string blanks(std::size_t count) {
+    return std::string(count, ' ');
+}
+
+std::string zeros(std::size_t count) {
+    return std::string(count, '0');
+}
+
 /// The answers to its questions, and what a call makes of them.
 struct Clash : support::Named {
     int (*call)();
@@ -92,6 +100,14 @@ std::vector<Clash> clashes_of_new_bindings() {
         adding("an answer ends with its terminator", {reply_of(std::string("0\0001", 3)), none, reply_of("")}, 0),
         adding("an answer longer than any number", {none, reply_of("1 " + std::string(5000, 'x'))}, 2),
         adding("the reply to the insert does not count", {none, none, one}, 0),
+        adding("a count behind 100,000 blanks", {none, reply_of(blanks(100000) + "1")}, 2),
+        adding("a count behind 100,000 zeros", {none, reply_of(zeros(100000) + "1")}, 2),
+        adding("a count behind blanks, a sign and zeros",
+               {answer(blanks(99) + "-" + zeros(99) + "1"), answer(blanks(99) + "+" + zeros(99) + "1")}, 2),
+        adding("blanks without a count", {reply_of(blanks(100000)), reply_of(blanks(1)), reply_of("")}, 0),
+        adding("a count that the announced size cuts off",
+               {words({0, 0, 30}) + blanks(30) + "1", words({0, 0, 30}) + zeros(30) + "1", reply_of("")}, 0),
+        adding("blanks that break off before the count", {words({0, 0, 31}) + blanks(30), none, reply_of("")}, 0),
     };
 }
 
@@ -140,6 +156,31 @@ TEST_P(StaticBinding, is_written_when_no_other_one_has_its_addresses) {
 
 INSTANTIATE_TEST_SUITE_P(Added, StaticBinding, testing::ValuesIn(clashes_of_new_bindings()));
 INSTANTIATE_TEST_SUITE_P(Modified, StaticBinding, testing::ValuesIn(clashes_of_changed_bindings()));
+
+TEST(StaticBindings, are_counted_behind_any_number_of_blanks_and_zeros) {
+    constexpr std::size_t most = 26;
+    Lines answers;
+    for (std::size_t count = 0; count <= most; ++count) {
+        answers.insert(answers.end(), {reply_of(blanks(count) + "1"), reply_of(zeros(count) + "1")});
+    }
+    const FakeService service(answers);
+    for (std::size_t count = 0; count <= most; ++count) {
+        EXPECT_EQ(add(), 1) << count << " blanks";
+        EXPECT_EQ(add(), 1) << count << " zeros";
+    }
+}
+
+TEST(StaticBindings, are_their_own_behind_any_number_of_zeros) {
+    Lines answers;
+    for (const std::size_t count : {21U, 22U, 23U, 24U, 1000U}) {
+        answers.insert(answers.end(),
+                       {reply_of("1"), reply_of(zeros(count) + "7"), reply_of("1"), reply_of(blanks(count) + "8")});
+    }
+    const FakeService service(answers);
+    for (std::size_t i = 0; i < answers.size() / 4; ++i) {
+        EXPECT_EQ(modify(), 2) << i;
+    }
+}
 
 TEST(StaticBindings, without_a_service_clash_with_nothing) {
     const auto streams = support::streams_of([] {

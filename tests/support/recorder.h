@@ -21,6 +21,7 @@ public:
     ~Recorder();
 
     /// Answers that the next calls of `function` give without being made, one each; after them the real one answers.
+    /// sqlite3_close closes all the same.
     /// For "sqlite3_..." and "usleep" the number is the result code, for "socket", "connect", "send", "recv", "open"
     /// and "fcntl" it is the errno that goes with -1.
     void answer(std::string_view function, std::initializer_list<int> results);
