@@ -96,9 +96,8 @@ void read_each(Totals &totals, SharedConnection &connection) {
 /// @return whether they are what the statements one by one would give
 bool read_at_once(Totals &totals, SharedConnection &connection) {
     Reading reading(silent_totals, &connection);
-    if (!reading.open() ||
-        !reading.prepare("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
-                         "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") ||
+    if (reading.start("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
+                      "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") != Start::ready ||
         !reading.first_row()) {
         return false;
     }
@@ -197,7 +196,7 @@ void print_page(const PageRequest &request) {
     SqlText sql;
     append_page(sql, request);
     Reading reading(page, &connection);
-    if (sql.complete() && reading.open() && reading.prepare(sql.c_str())) {
+    if (reading.start(sql) == Start::ready) {
         print_rows(reading, totals);
     }
 }
