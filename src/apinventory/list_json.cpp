@@ -1,7 +1,7 @@
 #include "apinventory/list_json.h"
 
-#include "apinventory/device_fields.h"
 #include "apinventory/numbers.h"
+#include "apinventory/parts.h"
 #include "apinventory/status.h"
 #include "core/json_list.h"
 #include "core/profiles.h"
@@ -30,42 +30,37 @@ enum class From : std::uint8_t { text, serial_number, stations, no_group_name };
 struct Key {
     char name[22];
     From from;
-    std::uint8_t column;
-    std::uint8_t width;  // of the record's member, which bounds what is printed
+    DeviceColumn shown;  // the width of its member bounds what is printed
     bool in_closing;     // Deliberate: the closing element has fewer keys.
 };
 
-constexpr std::uint8_t wlan_column(unsigned number, std::uint8_t column) {
-    return static_cast<std::uint8_t>(device_layout.first_wlan + device_layout.wlan_columns * number + column);
-}
-
 // clang-format off
 constexpr Key keys[] = {
-    {"m_sn", From::serial_number, 0, 0, true},
-    {"m_group_name", From::text, 1, 200, true},
-    {"m_dev_name", From::text, 2, 200, true},
-    {"m_dev_ip", From::text, 3, 20, true},
-    {"m_dev_mac", From::text, 8, 20, true},
-    {"m_onlinetime", From::text, 9, 50, true},
-    {"m_sw_ver", From::text, 11, 200, true},
-    {"m_sw_name", From::text, 10, 200, true},
-    {"m_channel", From::text, 112, 5, true},
-    {"m_current_channel", From::text, 113, 5, false},
-    {"m_stanum", From::stations, 0, 0, true},
-    {"m_dev_status", From::text, 153, 5, true},
-    {"m_dev_upgrade_status", From::text, 159, 25, true},
-    {"m_wlan_group_name", From::no_group_name, 0, 0, true},
-    {"m_wlan_radio_num", From::text, 15, 5, true},
-    {"m_channel_sec", From::text, 132, 5, true},
-    {"m_current_channel_sec", From::text, 133, 5, false},
-    {"m_TimeRebootEnable", From::text, 157, 5, true},
-    {"m_RebootTime", From::text, 158, 50, true},
-    {"m_CurrentTime", From::text, 156, 50, true},
-    {"m_dev_modelname", From::text, 13, 100, true},
-    {"m_wlan_txpower", From::text, 126, 5, true},
-    {"m_wlan_txpower_sec", From::text, 146, 5, true},
-    {"m_wlan_ssid", From::text, wlan_column(0, 2), 100, false},
-    {"m_wlan_ssid_sec", From::text, wlan_column(4, 2), 100, false},
+    {"m_sn", From::serial_number, {}, true},
+    {"m_group_name", From::text, device_column("Dev_Group"), true},
+    {"m_dev_name", From::text, device_column("Dev_Name"), true},
+    {"m_dev_ip", From::text, device_column("Dev_Ipaddress"), true},
+    {"m_dev_mac", From::text, device_column("Dev_MAC"), true},
+    {"m_onlinetime", From::text, device_column("Dev_OnlineTime"), true},
+    {"m_sw_ver", From::text, device_column("Dev_SwVer"), true},
+    {"m_sw_name", From::text, device_column("Dev_SwName"), true},
+    {"m_channel", From::text, device_column("Channel", radio_part(0)), true},
+    {"m_current_channel", From::text, device_column("Current_Channel", radio_part(0)), false},
+    {"m_stanum", From::stations, {}, true},
+    {"m_dev_status", From::text, device_column("Dev_Status"), true},
+    {"m_dev_upgrade_status", From::text, device_column("Dev_Upgrade_Status"), true},
+    {"m_wlan_group_name", From::no_group_name, {}, true},
+    {"m_wlan_radio_num", From::text, device_column("Dev_Wlan_Radio_Num"), true},
+    {"m_channel_sec", From::text, device_column("Channel", radio_part(1)), true},
+    {"m_current_channel_sec", From::text, device_column("Current_Channel", radio_part(1)), false},
+    {"m_TimeRebootEnable", From::text, device_column("Dev_RebootTime_Enable"), true},
+    {"m_RebootTime", From::text, device_column("Dev_RebootTime"), true},
+    {"m_CurrentTime", From::text, device_column("Dev_CurrentDateTime"), true},
+    {"m_dev_modelname", From::text, device_column("Dev_Model_Name"), true},
+    {"m_wlan_txpower", From::text, device_column("Txpower", radio_part(0)), true},
+    {"m_wlan_txpower_sec", From::text, device_column("Txpower", radio_part(1)), true},
+    {"m_wlan_ssid", From::text, device_column("Ssid", network_part(0)), false},
+    {"m_wlan_ssid_sec", From::text, device_column("Ssid", network_part(4)), false},
 };
 // clang-format on
 
@@ -120,9 +115,14 @@ Totals read_totals(SharedConnection &connection) {
 /// The stations of both radios, or of the first one unless the access point has eight networks.
 long stations_of(const Row &row) {
     constexpr int wlans_of_two_radios = 8;
-    const auto number = [&row](int column) { return number_in(field_text(row.text(column), radio_width - 1)); };
-    const int first = number(128);
-    return number(15) == wlans_of_two_radios ? first + number(148) : first;
+    constexpr DeviceColumn networks = device_column("Dev_Wlan_Radio_Num");
+    constexpr DeviceColumn of_first = device_column("Sta_Num", radio_part(0));
+    constexpr DeviceColumn of_second = device_column("Sta_Num", radio_part(1));
+    const auto number = [&row](DeviceColumn shown) {
+        return number_in(field_text(row.text(shown.column), shown.width - 1U));
+    };
+    const int first = number(of_first);
+    return number(networks) == wlans_of_two_radios ? first + number(of_second) : first;
 }
 
 void print_device(const Row &row) {
@@ -130,7 +130,7 @@ void print_device(const Row &row) {
     for (const Key &key : keys) {
         switch (key.from) {
             case From::text:
-                element.print(key.name, field_text(row.text(key.column), key.width - 1U));
+                element.print(key.name, field_text(row.text(key.shown.column), key.shown.width - 1U));
                 break;
             case From::serial_number:
                 element.print(key.name, static_cast<unsigned long>(static_cast<std::uint32_t>(row.unsigned_number(0))));

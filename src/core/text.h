@@ -48,9 +48,6 @@ public:
     Text &append_quoted(long number) { return append("'").append(number).append("'"); }
     Text &append_quoted(unsigned long number) { return append("'").append(number).append("'"); }
 
-    /// Appends what stands inside single quotes, its own doubled.
-    Text &append_escaped(std::string_view value);
-
     /// Takes heap for a text of so many bytes, its terminator included, if the buffer does not have them.
     /// @return false without memory
     bool reserve(std::size_t size) { return make_room(size); }
@@ -64,6 +61,7 @@ protected:
     ~Text();
 
 private:
+    Text &append_doubled(std::string_view value);
     bool make_room(std::size_t size);
 
     char *data_;
