@@ -15,14 +15,12 @@ using namespace profiles::parts;
 constexpr ReadProfile group{free_printing, prepare_on_output};
 constexpr ReadProfile group_with_random_delay{free_printing_random, prepare_on_output};
 
-using ReadRow = void (*)(const Row &row, Ssids ssids, DevInfo &group);
-
 /// Reads all rows, so that the values of the last one stay.
-Start read_rows(Reading &reading, const Text &sql, ReadRow read_row, Ssids ssids, DevInfo &record) {
+Start read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, DevInfo &record) {
     const Start start = reading.start(sql);
     if (start == Start::ready) {
         for (bool more = reading.first_row(); more; more = reading.next_row()) {
-            read_row(reading.row(), ssids, record);
+            read_record(reading.row(), table, ssids, record);
         }
     }
     return start;
@@ -35,7 +33,7 @@ int read_wlan_group(DevInfo &record, int id) {
     StackText<80> sql;
     sql.append("select * from WlanGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
     Reading reading(group);
-    const Start start = read_rows(reading, sql, read_group, Ssids::in_gb2312, record);
+    const Start start = read_rows(reading, sql, Table::wlan_groups, Ssids::in_gb2312, record);
     return start == Start::not_opened ? reading.printed() : reading.close().connection;
 }
 
@@ -48,7 +46,7 @@ int read_default_zero_config(DevInfo &record) {
     StackText<80> sql;
     sql.append("select * from WlanZerocfgGroupInfo where WlanGroup_Id='1';");  // spelled so here; SQLite does not mind
     Reading reading(group, &connection);
-    const Start start = read_rows(reading, sql, read_zero_config_group, Ssids::in_gb2312, record);
+    const Start start = read_rows(reading, sql, Table::zero_config_groups, Ssids::in_gb2312, record);
     return start == Start::not_opened ? reading.printed() : 1;
 }
 
@@ -58,7 +56,7 @@ int read_zero_config(DevInfo &record, int id) {
     sql.append("select * from WlanZeroCfgGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
     Reading reading(group_with_random_delay);
     // Deliberate: here the SSIDs stay as they are stored, in the default group they do not.
-    const Start start = read_rows(reading, sql, read_zero_config_group, Ssids::as_stored, record);
+    const Start start = read_rows(reading, sql, Table::zero_config_groups, Ssids::as_stored, record);
     return start == Start::not_opened ? -1 : 0;
 }
 

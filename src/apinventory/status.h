@@ -6,6 +6,7 @@
 
 #include "core/query.h"
 #include "core/shared_connection.h"
+#include "core/text.h"
 
 namespace routerdb {
 
@@ -22,7 +23,8 @@ void read_status(const char *column, const char *mac, TextRoom out);
 void read_mac(unsigned long sn, TextRoom out);
 
 /// Reads the serial number of an access point; untouched without a row.
-void read_sn(LookupKey key, const char *value, unsigned long &sn, SharedConnection *shared = nullptr);
+void read_sn(LookupKey key, std::string_view value, Quotes quotes, unsigned long &sn,
+             SharedConnection *shared = nullptr);
 
 /// Sets the upgrade status and announces the change.
 void set_upgrade_status(const char *mac, const char *status);
