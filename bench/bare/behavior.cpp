@@ -7,7 +7,7 @@
 #include <cstdlib>
 
 #include "bare/connection.h"
-#include "harness/places.h"
+#include "harness/desk.h"
 #include "harness/texts.h"
 #include "harness/variants.h"
 
@@ -132,12 +132,12 @@ void read_rule(sqlite3_stmt *statement, BehaviorItem &rule) {
 }  // namespace
 
 void list_behavior_rules() {
-    std::memset(&places.behavior_rules, 0, sizeof(places.behavior_rules));
+    std::memset(&desk.behavior_rules, 0, sizeof(desk.behavior_rules));
     const Lock lock(Lock::Draw::before_opening);
     sqlite3 *const db = open(paths::main_database);
     sqlite3_stmt *const statement = prepare(db, "select * from behavior_rule order by id;");
     while (sqlite3_step(statement) == SQLITE_ROW) {
-        read_rule(statement, places.behavior_rules.items[places.behavior_rules.count++]);
+        read_rule(statement, desk.behavior_rules.items[desk.behavior_rules.count++]);
     }
     sqlite3_finalize(statement);
     sqlite3_close(db);

@@ -4,8 +4,8 @@
 #include <cstring>
 
 #include "bare/connection.h"
+#include "harness/desk.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/variants.h"
 
 namespace bench::bare {

@@ -7,7 +7,7 @@
 
 #include <cstdlib>
 
-#include "harness/places.h"
+#include "harness/desk.h"
 
 namespace bench::bare {
 

@@ -2,9 +2,9 @@
 #include <cstdlib>
 
 #include "bare/connection.h"
+#include "harness/desk.h"
 #include "harness/device_columns.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/texts.h"
 #include "harness/variants.h"
 
@@ -34,11 +34,11 @@ DeviceTotals read_totals() {
 }  // namespace
 
 void get_device() {
-    places.device = {};
+    desk.device = {};
     sqlite3 *const db = open(paths::main_database);
     sqlite3_stmt *const statement = prepare(db, known_device_sql);
     while (sqlite3_step(statement) == SQLITE_ROW) {
-        read_row(statement, places.device);
+        read_row(statement, desk.device);
     }
     sqlite3_finalize(statement);
     sqlite3_close(db);
@@ -46,7 +46,7 @@ void get_device() {
 
 void get_device_converted() {
     get_device();
-    convert_ssids(places.device);
+    convert_ssids(desk.device);
 }
 
 void list_devices() {
@@ -54,14 +54,14 @@ void list_devices() {
         const Lock lock;
         count_rows("select  * from DevInfo;");
     }
-    places.devices = {};
+    desk.devices = {};
     sqlite3 *const db = open(paths::main_database);
     sqlite3_stmt *const statement = prepare(db, "select * from DevInfo  order by Dev_IPSUM ;");
     while (sqlite3_step(statement) == SQLITE_ROW) {
         auto *const device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         *device = {};
         read_row(statement, *device);
-        places.devices.devices[places.devices.count++] = device;
+        desk.devices.devices[desk.devices.count++] = device;
     }
     sqlite3_finalize(statement);
     sqlite3_close(db);

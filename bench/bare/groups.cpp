@@ -2,8 +2,8 @@
 #include <cstdlib>
 
 #include "bare/connection.h"
+#include "harness/desk.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/variants.h"
 
 namespace bench::bare {

@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "bare/connection.h"
-#include "harness/places.h"
+#include "harness/desk.h"
 #include "harness/texts.h"
 #include "harness/variants.h"
 
@@ -66,12 +66,12 @@ void read_url_filter(sqlite3 *db, sqlite3_stmt *statement, UrlFilterItem &rule) 
 }  // namespace
 
 void list_url_filters() {
-    places.url_filters = {};
+    desk.url_filters = {};
     const Lock lock(Lock::Draw::before_opening);
     sqlite3 *const db = open(paths::main_database);
     sqlite3_stmt *const statement = prepare(db, "select * from filter_url order by Id;");
     while (sqlite3_step(statement) == SQLITE_ROW) {
-        read_url_filter(db, statement, places.url_filters.items[places.url_filters.count++]);
+        read_url_filter(db, statement, desk.url_filters.items[desk.url_filters.count++]);
     }
     sqlite3_finalize(statement);
     sqlite3_close(db);

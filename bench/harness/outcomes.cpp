@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "harness/places.h"
+#include "harness/desk.h"
 #include "harness/variants.h"
 
 namespace bench::outcomes {
@@ -62,28 +62,28 @@ void set_up() {
 }
 
 std::string device() {
-    return bytes_of(places.device);
+    return bytes_of(desk.device);
 }
 
 std::string devices() {
-    std::string bytes = std::to_string(places.devices.count);
-    for (unsigned index = 0; index < places.devices.count; ++index) {
-        bytes += bytes_of(*places.devices.devices[index]);
+    std::string bytes = std::to_string(desk.devices.count);
+    for (unsigned index = 0; index < desk.devices.count; ++index) {
+        bytes += bytes_of(*desk.devices.devices[index]);
     }
     return bytes;
 }
 
 std::string url_filters() {
-    return bytes_of(places.url_filters);
+    return bytes_of(desk.url_filters);
 }
 
 std::string behavior_rules() {
-    return bytes_of(places.behavior_rules);
+    return bytes_of(desk.behavior_rules);
 }
 
 std::string reply() {
-    const std::size_t size = places.reply.size > 0 ? static_cast<std::size_t>(places.reply.size) : 0;
-    return {static_cast<const char *>(places.reply.data), size};
+    const std::size_t size = desk.reply.size > 0 ? static_cast<std::size_t>(desk.reply.size) : 0;
+    return {static_cast<const char *>(desk.reply.data), size};
 }
 
 std::string device_rows() {
@@ -107,10 +107,10 @@ std::string printed() {
 }
 
 void free_devices(Variant /*variant*/) {
-    for (unsigned index = 0; index < places.devices.count; ++index) {
-        std::free(places.devices.devices[index]);
+    for (unsigned index = 0; index < desk.devices.count; ++index) {
+        std::free(desk.devices.devices[index]);
     }
-    places.devices.count = 0;
+    desk.devices.count = 0;
 }
 
 void restore(Variant /*variant*/) {
@@ -122,8 +122,8 @@ void restore(Variant /*variant*/) {
 void restore_for_update(Variant variant) {
     restore(variant);
     bare::get_device();
-    std::strcpy(places.device.wlan[2].Ssid, "Meetings on the 2nd floor");
-    std::strcpy(places.device.Dev_Wlan_Channel, "6");
+    std::strcpy(desk.device.wlan[2].Ssid, "Meetings on the 2nd floor");
+    std::strcpy(desk.device.Dev_Wlan_Channel, "6");
 }
 
 void restore_for_registration(Variant variant) {
@@ -159,8 +159,8 @@ void close_left_open(Variant /*variant*/) {
 }
 
 void choose_service(Variant variant) {
-    std::free(places.reply.data);
-    places.reply = {};
+    std::free(desk.reply.data);
+    desk.reply = {};
     unlink(paths::service_socket);
     const char *const socket =
         variant == Variant::modern ? "/var/sqlserver_socket.modern" : "/var/sqlserver_socket.exact";

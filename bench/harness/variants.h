@@ -1,4 +1,4 @@
-// The operations as each variant writes them. All work on `places` or print to the standard output stream.
+// The operations as each variant writes them. All work on `desk` or print to the standard output stream.
 #pragma once
 
 #define BENCH_OPERATIONS         \

@@ -3,7 +3,7 @@
 
 #include <cstdio>
 
-#include "harness/places.h"
+#include "harness/desk.h"
 #include "sqlitecpp/reading.h"
 
 int main() {

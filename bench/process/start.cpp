@@ -1,7 +1,7 @@
 // The operation "process start" of the variants that are programs of their own.
 #include <cstdio>
 
-#include "harness/places.h"
+#include "harness/desk.h"
 #include "harness/spawn.h"
 #include "harness/variants.h"
 

@@ -1,9 +1,9 @@
 // Access points with the sqlite3 program.
 #include <cstdlib>
 
+#include "harness/desk.h"
 #include "harness/device_columns.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/texts.h"
 #include "harness/variants.h"
 #include "program/rows.h"
@@ -23,24 +23,24 @@ void read_row(const Row &row, DevInfo &device) {
 }  // namespace
 
 void get_device() {
-    places.device = {};
+    desk.device = {};
     for (const Row &row : query(paths::main_database, known_device_sql)) {
-        read_row(row, places.device);
+        read_row(row, desk.device);
     }
 }
 
 void get_device_converted() {
     get_device();
-    convert_ssids(places.device);
+    convert_ssids(desk.device);
 }
 
 void list_devices() {
-    places.devices = {};
+    desk.devices = {};
     for (const Row &row : query(paths::main_database, "select * from DevInfo order by Dev_IPSUM")) {
         auto *const device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         *device = {};
         read_row(row, *device);
-        places.devices.devices[places.devices.count++] = device;
+        desk.devices.devices[desk.devices.count++] = device;
     }
 }
 

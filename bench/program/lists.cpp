@@ -1,6 +1,6 @@
 // Rules, the catalogue and groups with the sqlite3 program.
+#include "harness/desk.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/texts.h"
 #include "harness/variants.h"
 #include "program/rows.h"
@@ -43,13 +43,13 @@ void read_url_filter(const Row &row, UrlFilterItem &rule) {
 }  // namespace
 
 void list_url_filters() {
-    places.url_filters = {};
+    desk.url_filters = {};
     const std::vector<Row> rows =
         query(paths::main_database,
               "select * from filter_url as rule left join user_timegroup as time on rule.timecontrol = 2 and "
               "time.id = rule.timegroup_id order by rule.Id");
     for (const Row &row : rows) {
-        read_url_filter(row, places.url_filters.items[places.url_filters.count++]);
+        read_url_filter(row, desk.url_filters.items[desk.url_filters.count++]);
     }
 }
 

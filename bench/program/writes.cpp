@@ -1,6 +1,6 @@
 // Changes of one row with the sqlite3 program.
+#include "harness/desk.h"
 #include "harness/outcomes.h"
-#include "harness/places.h"
 #include "harness/update_columns.h"
 #include "harness/variants.h"
 #include "program/rows.h"
@@ -25,10 +25,10 @@ void execute_update() {
 
 void configure_device() {
     std::string sql = "update DevInfo set ";
-    for_each_configured(places.device, [&sql](const char *column, const char *value) {
+    for_each_configured(desk.device, [&sql](const char *column, const char *value) {
         sql.append(column).append(" = ").append(quoted(value)).append(", ");
     });
-    sql += "Dev_Status = '1' where Dev_Sn = " + std::to_string(places.device.Dev_Sn);
+    sql += "Dev_Status = '1' where Dev_Sn = " + std::to_string(desk.device.Dev_Sn);
     execute(paths::main_database, sql);
 }
 

@@ -13,26 +13,26 @@ void get_device() {
     soci::session sql(soci::sqlite3, main_database());
     const long long sn = known_device;
     const Rows rows = (sql.prepare << "select * from DevInfo where Dev_Sn = :sn", soci::use(sn));
-    places.device = {};
+    desk.device = {};
     for (const soci::row &row : rows) {
-        read_device(row, places.device);
+        read_device(row, desk.device);
     }
 }
 
 void get_device_converted() {
     get_device();
-    convert_ssids(places.device);
+    convert_ssids(desk.device);
 }
 
 void list_devices() {
     soci::session sql(soci::sqlite3, main_database());
     const Rows rows = (sql.prepare << "select * from DevInfo order by Dev_IPSUM");
-    places.devices = {};
+    desk.devices = {};
     for (const soci::row &row : rows) {
         auto *const device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         *device = {};
         read_device(row, *device);
-        places.devices.devices[places.devices.count++] = device;
+        desk.devices.devices[desk.devices.count++] = device;
     }
 }
 

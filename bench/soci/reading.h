@@ -6,8 +6,8 @@
 
 #include <string>
 
+#include "harness/desk.h"
 #include "harness/device_columns.h"
-#include "harness/places.h"
 #include "harness/texts.h"
 
 namespace bench::soci_users {

@@ -79,9 +79,9 @@ void list_url_filters() {
     soci::session sql(soci::sqlite3, main_database());
     const Rows rows = (sql.prepare << "select * from filter_url order by Id");
     TimeGroups groups(sql);
-    places.url_filters = {};
+    desk.url_filters = {};
     for (const soci::row &row : rows) {
-        read_url_filter(row, groups, places.url_filters.items[places.url_filters.count++]);
+        read_url_filter(row, groups, desk.url_filters.items[desk.url_filters.count++]);
     }
 }
 
@@ -104,9 +104,9 @@ void list_behavior_rules() {
         return any;
     };
     const Rows rows = (sql.prepare << "select * from behavior_rule order by id");
-    std::memset(&places.behavior_rules, 0, sizeof(places.behavior_rules));
+    std::memset(&desk.behavior_rules, 0, sizeof(desk.behavior_rules));
     for (const soci::row &row : rows) {
-        BehaviorItem &rule = places.behavior_rules.items[places.behavior_rules.count++];
+        BehaviorItem &rule = desk.behavior_rules.items[desk.behavior_rules.count++];
         read_behavior_rule(row, leases, rule);
         write_names(
             rule, [&](int class_id, Names &names) { return find(classes, class_id, names); },

@@ -38,12 +38,11 @@ void execute_update() {
 
 void configure_device() {
     soci::session sql(soci::sqlite3, main_database());
-    update(sql, places.device.Dev_Sn, "Dev_Status = '1'",
-           [](auto write) { for_each_configured(places.device, write); });
+    update(sql, desk.device.Dev_Sn, "Dev_Status = '1'", [](auto write) { for_each_configured(desk.device, write); });
 }
 
 void register_device() {
-    const DevInfo &device = places.device;
+    const DevInfo &device = desk.device;
     const long long sn = inet_addr(device.Dev_Ipaddress);
     const std::string mac = device.Dev_MAC;
     soci::session sql(soci::sqlite3, main_database());

@@ -1,6 +1,6 @@
 // The application catalogue and the groups with SQLiteCpp.
+#include "harness/desk.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/variants.h"
 #include "sqlitecpp/reading.h"
 

@@ -1,8 +1,8 @@
 // Access points with SQLiteCpp.
 #include <cstdlib>
 
+#include "harness/desk.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
 #include "harness/variants.h"
 #include "sqlitecpp/reading.h"
 
@@ -12,26 +12,26 @@ void get_device() {
     const SQLite::Database db(paths::main_database);
     SQLite::Statement query(db, "select * from DevInfo where Dev_Sn = ?");
     query.bind(1, static_cast<int64_t>(known_device));
-    places.device = {};
+    desk.device = {};
     while (query.executeStep()) {
-        read_device(query, places.device);
+        read_device(query, desk.device);
     }
 }
 
 void get_device_converted() {
     get_device();
-    convert_ssids(places.device);
+    convert_ssids(desk.device);
 }
 
 void list_devices() {
     const SQLite::Database db(paths::main_database);
     SQLite::Statement query(db, "select * from DevInfo order by Dev_IPSUM");
-    places.devices = {};
+    desk.devices = {};
     while (query.executeStep()) {
         auto *const device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         *device = {};
         read_device(query, *device);
-        places.devices.devices[places.devices.count++] = device;
+        desk.devices.devices[desk.devices.count++] = device;
     }
 }
 

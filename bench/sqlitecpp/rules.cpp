@@ -1,6 +1,6 @@
 // Lists of rules with SQLiteCpp.
+#include "harness/desk.h"
 #include "harness/leases.h"
-#include "harness/places.h"
 #include "harness/variants.h"
 #include "sqlitecpp/reading.h"
 
@@ -77,9 +77,9 @@ void list_url_filters() {
     const SQLite::Database db(paths::main_database);
     SQLite::Statement query(db, "select * from filter_url order by Id");
     SQLite::Statement groups(db, "select * from user_timegroup where id = ?");
-    places.url_filters = {};
+    desk.url_filters = {};
     while (query.executeStep()) {
-        read_url_filter(query, groups, places.url_filters.items[places.url_filters.count++]);
+        read_url_filter(query, groups, desk.url_filters.items[desk.url_filters.count++]);
     }
 }
 
@@ -90,9 +90,9 @@ void list_behavior_rules() {
     SQLite::Statement query(db, "select * from behavior_rule order by id");
     SQLite::Statement classes(catalogue, "select Name, Name_En from App_Class where Id = ?");
     SQLite::Statement applications(catalogue, "select Name, Name_En from App_Info where Class_Id = ? and Features = ?");
-    std::memset(&places.behavior_rules, 0, sizeof(places.behavior_rules));
+    std::memset(&desk.behavior_rules, 0, sizeof(desk.behavior_rules));
     while (query.executeStep()) {
-        BehaviorItem &rule = places.behavior_rules.items[places.behavior_rules.count++];
+        BehaviorItem &rule = desk.behavior_rules.items[desk.behavior_rules.count++];
         read_behavior_rule(query, leases, rule);
         write_names(
             rule,

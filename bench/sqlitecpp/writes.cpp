@@ -1,8 +1,8 @@
 // Changes of one row with SQLiteCpp.
 #include <arpa/inet.h>
 
+#include "harness/desk.h"
 #include "harness/outcomes.h"
-#include "harness/places.h"
 #include "harness/update_columns.h"
 #include "harness/variants.h"
 #include "sqlitecpp/reading.h"
@@ -39,11 +39,11 @@ void execute_update() {
 
 void configure_device() {
     SQLite::Database db(paths::main_database, SQLite::OPEN_READWRITE);
-    update(db, places.device.Dev_Sn, "Dev_Status = '1'", [](auto write) { for_each_configured(places.device, write); });
+    update(db, desk.device.Dev_Sn, "Dev_Status = '1'", [](auto write) { for_each_configured(desk.device, write); });
 }
 
 void register_device() {
-    const DevInfo &device = places.device;
+    const DevInfo &device = desk.device;
     const unsigned long sn = inet_addr(device.Dev_Ipaddress);
     SQLite::Database db(paths::main_database, SQLite::OPEN_READWRITE);
     SQLite::Transaction transaction(db);
