@@ -8,9 +8,9 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "bare/by_hand.h"
 #include "harness/desk.h"
 #include "harness/requests.h"
-#include "harness/variants.h"
 
 namespace bench::bare {
 

@@ -5,11 +5,11 @@
 
 #include <cstdlib>
 
+#include "bare/by_hand.h"
 #include "bare/connection.h"
 #include "harness/desk.h"
 #include "harness/outcomes.h"
-#include "harness/update_columns.h"
-#include "harness/variants.h"
+#include "harness/settings.h"
 
 namespace bench::bare {
 

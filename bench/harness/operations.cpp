@@ -1,11 +1,16 @@
 #include <cstdio>
 
+#include "bare/by_hand.h"
 #include "harness/desk.h"
 #include "harness/operation.h"
 #include "harness/outcomes.h"
 #include "harness/requests.h"
 #include "harness/spawn.h"
-#include "harness/variants.h"
+#include "peers/by_peer.h"
+#include "peers/name.h"
+#include "peers/program.h"
+#include "peers/soci.h"
+#include "peers/sqlitecpp.h"
 
 namespace bench {
 
@@ -16,9 +21,7 @@ namespace {
 using namespace outcomes;
 
 #define VARIANTS(function) \
-    { bare::function, sqlitecpp::function, soci_users::function, program::function }
-#define WRAPPERS(function) \
-    { bare::function, sqlitecpp::function, soci_users::function, nullptr }
+    { bare::function, peers::function<peers::SqliteCpp>, peers::function<peers::Soci>, peers::function<peers::Program> }
 #define BARE_ONLY(function) \
     { bare::function, nullptr, nullptr, nullptr }
 
@@ -39,13 +42,13 @@ constexpr Operation table[] = {
      [](const Library &library) {
          library.GetBehaviorItemListInServer(&desk.behavior_rules, "select * from behavior_rule order by id;");
      },
-     WRAPPERS(list_behavior_rules)},
+     VARIANTS(list_behavior_rules)},
     {"DB_EXEC_SQL_CHAR", restore, device_rows, 200, Clock::processor,
      [](const Library &library) { library.DB_EXEC_SQL_CHAR(update_sql); }, VARIANTS(execute_update)},
     {"DB_UpdateInfo", restore_for_update, device_rows, 200, Clock::processor,
      [](const Library &library) { library.DB_UpdateInfo(desk.device); }, VARIANTS(configure_device)},
     {"DB_addinfo", restore_for_registration, device_rows, 50, Clock::processor,
-     [](const Library &library) { library.DB_addinfo(desk.device); }, WRAPPERS(register_device)},
+     [](const Library &library) { library.DB_addinfo(desk.device); }, VARIANTS(register_device)},
     {"GetApDevList_cgi", forget_printed, printed, 200, Clock::processor,
      [](const Library &library) { library.GetApDevList_cgi(1, 0, 0, 0, nullptr, nullptr, 17); },
      VARIANTS(print_device_page)},
@@ -59,12 +62,17 @@ constexpr Operation table[] = {
      [](const Library &library) { library.sqlclient_cmd(&all_filters, &desk.reply); }, BARE_ONLY(request_all)},
     {"GetUrlFilterItemList", choose_service, url_filters, 200, Clock::elapsed,
      [](const Library &library) { library.GetUrlFilterItemList(&desk.url_filters); }, BARE_ONLY(fetch_url_filters)},
-    {"process start", forget_printed, printed, 100, Clock::processor,
-     [](const Library &library) { spawn({library.start_program}); }, VARIANTS(start_and_read)},
+    {"process start",
+     forget_printed,
+     printed,
+     100,
+     Clock::processor,
+     [](const Library &library) { spawn({library.start_program}); },
+     {[] { spawn({beside("start-bare")}); }, [] { spawn({beside("start-sqlitecpp")}); },
+      [] { spawn({beside("start-soci")}); }, peers::print_name<peers::Program>}},
 };
 
 #undef BARE_ONLY
-#undef WRAPPERS
 #undef VARIANTS
 
 }  // namespace
