@@ -2,14 +2,14 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
+#include "bare/by_hand.h"
 #include "bare/connection.h"
-#include "harness/places.h"
+#include "harness/desk.h"
+#include "harness/reading.h"
 #include "harness/texts.h"
-#include "harness/variants.h"
 
 namespace bench::bare {
 
@@ -46,7 +46,7 @@ void find_host_name(const char *mac, char *host_name) {
         std::sscanf(line, "%d %256s %256s %256s", &expiry, lease_mac, ip, name);
         to_upper_case(lease_mac);
         if (std::strcmp(lease_mac, mac) == 0) {
-            copy_text(name, std::strlen(name), host_name, 128);
+            copy_text(name, host_name, 128);
             break;
         }
     }
@@ -55,7 +55,7 @@ void find_host_name(const char *mac, char *host_name) {
 
 void append(char (&field)[2048], const char *piece) {
     const std::size_t length = std::strlen(field);
-    copy_text(piece, std::strlen(piece), field + length, sizeof(field) - length);
+    copy_text(piece, field + length, sizeof(field) - length);
 }
 
 void append_both(BehaviorItem &rule, const char *piece) {
@@ -66,15 +66,11 @@ void append_both(BehaviorItem &rule, const char *piece) {
 /// Appends both names that a query of the catalogue finds, behind a separator.
 void append_names(BehaviorItem &rule, const char *sql, const char *separator) {
     draw_delay();
-    sqlite3 *const db = open(paths::catalogue_database);
-    sqlite3_stmt *const statement = prepare(db, sql);
-    if (sqlite3_step(statement) == SQLITE_ROW) {
+    for_first(Connection(paths::catalogue_database), sql, [&rule, separator](const Row &row) {
         append_both(rule, separator);
-        append(rule.behavior_names, text(statement, 0));
-        append(rule.behavior_names_en, text(statement, 1));
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+        append(rule.behavior_names, row.text(0));
+        append(rule.behavior_names_en, row.text(1));
+    });
 }
 
 /// Takes the text before a separator off another one.
@@ -109,38 +105,17 @@ void append_all_names(BehaviorItem &rule) {
     }
 }
 
-void read_rule(sqlite3_stmt *statement, BehaviorItem &rule) {
-    rule.id = integer(statement, 0);
-    rule.control_type = integer(statement, 1);
-    rule.ipcontrol = integer(statement, 2);
-    rule.timecontrol = integer(statement, 4);
-    copy(statement, 6, rule.devmac);
-    copy(statement, 7, rule.devstartip);
-    copy(statement, 8, rule.devendip);
-    copy(statement, 10, rule.behavior_info);
-    for (int day = 0; day < 7; ++day) {
-        rule.weekday[day] = integer(statement, 11 + day);
-    }
-    copy(statement, 18, rule.start_time);
-    copy(statement, 19, rule.end_time);
-    rule.status = integer(statement, 20);
-    copy(statement, 21, rule.mark);
-    find_host_name(rule.devmac, rule.hostname);
-    append_all_names(rule);
-}
-
 }  // namespace
 
 void list_behavior_rules() {
-    std::memset(&places.behavior_rules, 0, sizeof(places.behavior_rules));
+    std::memset(&desk.behavior_rules, 0, sizeof(desk.behavior_rules));
     const Lock lock(Lock::Draw::before_opening);
-    sqlite3 *const db = open(paths::main_database);
-    sqlite3_stmt *const statement = prepare(db, "select * from behavior_rule order by id;");
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        read_rule(statement, places.behavior_rules.items[places.behavior_rules.count++]);
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+    for_each(Connection(paths::main_database), "select * from behavior_rule order by id;", [](const Row &row) {
+        BehaviorItem &rule = desk.behavior_rules.items[desk.behavior_rules.count++];
+        read_behavior_rule(row, rule);
+        find_host_name(rule.devmac, rule.hostname);
+        append_all_names(rule);
+    });
 }
 
 }  // namespace bench::bare

@@ -7,7 +7,7 @@
 
 #include <cstdlib>
 
-#include "harness/places.h"
+#include "harness/desk.h"
 
 namespace bench::bare {
 
@@ -31,21 +31,18 @@ void draw_delay() {
     [[maybe_unused]] volatile const int delay = 51 + static_cast<int>(rand() * 100.0 * 0x1p-31);
 }
 
-sqlite3 *open(const char *path) {
-    sqlite3 *db = nullptr;
-    sqlite3_open(path, &db);
-    return db;
+Connection::Connection(const char *path) {
+    sqlite3_open(path, &db_);
+}
+
+Connection::~Connection() {
+    sqlite3_close(db_);
 }
 
 sqlite3_stmt *prepare(sqlite3 *db, const char *sql) {
     sqlite3_stmt *statement = nullptr;
     sqlite3_prepare_v2(db, sql, -1, &statement, nullptr);
     return statement;
-}
-
-const char *text(sqlite3_stmt *statement, int column) {
-    const unsigned char *text = sqlite3_column_text(statement, column);
-    return text != nullptr ? reinterpret_cast<const char *>(text) : "";
 }
 
 Lock::Lock(Draw draw) {
@@ -66,23 +63,14 @@ Lock::~Lock() {
 
 int number(const char *path, const char *sql) {
     draw_delay();
-    sqlite3 *const db = open(path);
-    sqlite3_stmt *const statement = prepare(db, sql);
-    const int number = sqlite3_step(statement) == SQLITE_ROW ? std::atoi(text(statement, 0)) : 0;
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+    int number = 0;
+    for_first(Connection(path), sql, [&number](const Row &row) { number = row.number(0); });
     return number;
 }
 
 int count_rows(const char *sql) {
-    sqlite3 *const db = open(paths::main_database);
-    sqlite3_stmt *const statement = prepare(db, sql);
     int count = 0;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        ++count;
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+    for_each(Connection(paths::main_database), sql, [&count](const Row &) { ++count; });
     return count;
 }
 
@@ -90,14 +78,13 @@ void execute(const char *sql) {
     pthread_mutex_lock(&writers);
     {
         const Lock lock;
-        sqlite3 *const db = open(paths::main_database);
+        const Connection db(paths::main_database);
         sqlite3_exec(db, "PRAGMA synchronous = NORMAL; ", nullptr, nullptr, nullptr);
         sqlite3_exec(db, "PRAGMA page_size = 12000; ", nullptr, nullptr, nullptr);
         sqlite3_exec(db, "PRAGMA cache_size = 4000; ", nullptr, nullptr, nullptr);
         char *message = nullptr;
         sqlite3_exec(db, sql, nullptr, nullptr, &message);
         sqlite3_free(message);
-        sqlite3_close(db);
     }
     pthread_mutex_unlock(&writers);
 }

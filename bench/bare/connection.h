@@ -3,29 +3,61 @@
 
 #include <sqlite3.h>
 
-#include <cstdint>
 #include <cstdlib>
-
-#include "harness/texts.h"
 
 namespace bench::bare {
 
 /// Draws the first delay of a call from rand(). Nobody is busy here, so that it is not used.
 void draw_delay();
 
-sqlite3 *open(const char *path);
+class Connection {
+public:
+    explicit Connection(const char *path);
+    Connection(const Connection &) = delete;
+    Connection &operator=(const Connection &) = delete;
+    ~Connection();
+
+    operator sqlite3 *() const { return db_; }  // NOLINT(google-explicit-constructor): to be used as one
+
+private:
+    sqlite3 *db_ = nullptr;
+};
+
+/// The row that a statement stands on.
+class Row {
+public:
+    explicit Row(sqlite3_stmt *statement) : statement_(statement) {}
+
+    const char *text(int column) const {
+        const unsigned char *const text = sqlite3_column_text(statement_, column);
+        return text != nullptr ? reinterpret_cast<const char *>(text) : "";
+    }
+    int number(int column) const { return std::atoi(text(column)); }
+
+private:
+    sqlite3_stmt *statement_;
+};
+
 sqlite3_stmt *prepare(sqlite3 *db, const char *sql);
 
-/// The text of a column, empty for NULL.
-const char *text(sqlite3_stmt *statement, int column);
-
-/// The same as a number, and copied into a field.
-inline std::int32_t integer(sqlite3_stmt *statement, int column) {
-    return std::atoi(text(statement, column));
+/// Calls `use` with each row of a statement.
+template <typename Use>
+void for_each(sqlite3 *db, const char *sql, Use use) {
+    sqlite3_stmt *const statement = prepare(db, sql);
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        use(Row(statement));
+    }
+    sqlite3_finalize(statement);
 }
-template <std::size_t width>
-void copy(sqlite3_stmt *statement, int column, char (&field)[width]) {
-    copy_text(text(statement, column), field);
+
+/// Calls it with the first row alone, if there is one, and reads no further.
+template <typename Use>
+void for_first(sqlite3 *db, const char *sql, Use use) {
+    sqlite3_stmt *const statement = prepare(db, sql);
+    if (sqlite3_step(statement) == SQLITE_ROW) {
+        use(Row(statement));
+    }
+    sqlite3_finalize(statement);
 }
 
 /// Holds the lock file.

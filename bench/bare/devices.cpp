@@ -1,23 +1,56 @@
 // Access points by hand.
+#include <array>
+#include <cstdio>
 #include <cstdlib>
+#include <map>
+#include <string>
 
+#include "bare/by_hand.h"
 #include "bare/connection.h"
-#include "harness/device_columns.h"
+#include "harness/desk.h"
 #include "harness/json_lists.h"
-#include "harness/places.h"
-#include "harness/texts.h"
-#include "harness/variants.h"
+#include "harness/reading.h"
 
 namespace bench::bare {
 
 namespace {
 
-void read_row(sqlite3_stmt *statement, DevInfo &device) {
-    device.Dev_Sn = static_cast<std::uint32_t>(std::strtoul(text(statement, 0), nullptr, 10));
-    for (const Place &place : device_columns) {
-        const char *value = text(statement, place.column);
-        copy_text(value, std::strlen(value), reinterpret_cast<char *>(&device) + place.offset, place.width);
+/// In place of a column of `DevInfo`.
+constexpr int station_count = -2;
+constexpr int no_group_name = -3;
+
+/// Where the list finds its values in a row of `DevInfo`.
+struct Columns {
+    Columns() {
+        std::map<std::string, int> named{{"Dev_Sn", 0}, {"'N/A'", no_group_name}};
+        for (const places::Place &place : places::all()) {
+            named[place.name] = place.device;
+        }
+        for (std::size_t key = 0; key < device_keys.size(); ++key) {
+            const auto column = named.find(device_keys[key].column);
+            keys[key] = column != named.end() ? column->second : station_count;
+        }
     }
+
+    std::array<int, device_keys.size()> keys{};
+    int networks = places::named("Dev_Wlan_Radio_Num").device;
+    int stations = places::named("Dev_Wlan_Sta_Num").device;
+    int stations_sec = places::named("Dev_Wlan_Sta_Num_sec").device;
+};
+
+/// Of one radio, or of both for an access point with eight networks.
+int count_stations(const Row &row, const Columns &columns) {
+    return row.number(columns.stations) + (row.number(columns.networks) == 8 ? row.number(columns.stations_sec) : 0);
+}
+
+void print_device(const Row &row) {
+    static const Columns columns;
+    char stations[12];
+    std::snprintf(stations, sizeof(stations), "%d", count_stations(row, columns));
+    print_element(device_keys, [&](int key) -> const char * {
+        const int column = columns.keys[static_cast<std::size_t>(key)];
+        return column == station_count ? stations : column == no_group_name ? "N/A" : row.text(column);
+    });
 }
 
 DeviceTotals read_totals() {
@@ -34,19 +67,13 @@ DeviceTotals read_totals() {
 }  // namespace
 
 void get_device() {
-    places.device = {};
-    sqlite3 *const db = open(paths::main_database);
-    sqlite3_stmt *const statement = prepare(db, known_device_sql);
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        read_row(statement, places.device);
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+    desk.device = {};
+    for_each(Connection(paths::main_database), known_device_sql, [](const Row &row) { read_device(row, desk.device); });
 }
 
 void get_device_converted() {
     get_device();
-    convert_ssids(places.device);
+    convert_ssids(desk.device);
 }
 
 void list_devices() {
@@ -54,34 +81,26 @@ void list_devices() {
         const Lock lock;
         count_rows("select  * from DevInfo;");
     }
-    places.devices = {};
-    sqlite3 *const db = open(paths::main_database);
-    sqlite3_stmt *const statement = prepare(db, "select * from DevInfo  order by Dev_IPSUM ;");
-    while (sqlite3_step(statement) == SQLITE_ROW) {
+    desk.devices = {};
+    for_each(Connection(paths::main_database), "select * from DevInfo  order by Dev_IPSUM ;", [](const Row &row) {
         auto *const device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         *device = {};
-        read_row(statement, *device);
-        places.devices.devices[places.devices.count++] = device;
-    }
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
+        read_device(row, *device);
+        desk.devices.devices[desk.devices.count++] = device;
+    });
 }
 
 void print_device_page() {
     const DeviceTotals totals = read_totals();
-    std::printf("{\"ApDevList\":{\"data\":[");
+    std::fputs(devices_head, stdout);
     draw_delay();
-    sqlite3 *const db = open(paths::main_database);
-    sqlite3_stmt *const statement =
-        prepare(db, "select * from DevInfo where Dev_Ipaddress <> '' order by Dev_IPSUM  limit 0,17 ;");
     int count = 0;
-    while (sqlite3_step(statement) == SQLITE_ROW) {
-        print_device([statement](int column) { return text(statement, column); });
-        ++count;
-    }
+    for_each(Connection(paths::main_database),
+             "select * from DevInfo where Dev_Ipaddress <> '' order by Dev_IPSUM  limit 0,17 ;", [&](const Row &row) {
+                 print_device(row);
+                 ++count;
+             });
     print_devices_end(count, totals);
-    sqlite3_finalize(statement);
-    sqlite3_close(db);
 }
 
 }  // namespace bench::bare

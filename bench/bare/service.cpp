@@ -8,9 +8,9 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "harness/places.h"
+#include "bare/by_hand.h"
+#include "harness/desk.h"
 #include "harness/requests.h"
-#include "harness/variants.h"
 
 namespace bench::bare {
 
@@ -56,20 +56,20 @@ void exchange(const SqlRequest &request, SqlReply &reply) {
 }  // namespace
 
 void request_one() {
-    exchange(one_filter, places.reply);
+    exchange(one_filter, desk.reply);
 }
 
 void request_all() {
-    exchange(all_filters, places.reply);
+    exchange(all_filters, desk.reply);
 }
 
 void fetch_url_filters() {
     SqlReply reply{};
     exchange(all_filters, reply);
     const std::size_t count = static_cast<std::size_t>(reply.size) / sizeof(UrlFilterItem);
-    places.url_filters.count = static_cast<std::uint32_t>(count);
-    std::memcpy(places.url_filters.items, reply.data, count * sizeof(UrlFilterItem));
-    std::memset(places.url_filters.items + count, 0, (ROUTERDB_LIST_CAPACITY - count) * sizeof(UrlFilterItem));
+    desk.url_filters.count = static_cast<std::uint32_t>(count);
+    std::memcpy(desk.url_filters.items, reply.data, count * sizeof(UrlFilterItem));
+    std::memset(desk.url_filters.items + count, 0, (ROUTERDB_LIST_CAPACITY - count) * sizeof(UrlFilterItem));
     std::free(reply.data);
 }
 

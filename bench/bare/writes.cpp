@@ -5,11 +5,11 @@
 
 #include <cstdlib>
 
+#include "bare/by_hand.h"
 #include "bare/connection.h"
+#include "harness/desk.h"
 #include "harness/outcomes.h"
-#include "harness/places.h"
-#include "harness/update_columns.h"
-#include "harness/variants.h"
+#include "harness/settings.h"
 
 namespace bench::bare {
 
@@ -66,15 +66,15 @@ void execute_update() {
 void configure_device() {
     sqlite3_str *const sql = sqlite3_str_new(nullptr);
     sqlite3_str_appendall(sql, "update DevInfo set ");
-    for_each_configured(places.device, [sql](const char *column, const char *value) {
+    for_each_configured(desk.device, [sql](const char *column, const char *value) {
         sqlite3_str_appendf(sql, " %s='%q',", column, value);
     });
-    sqlite3_str_appendf(sql, " Dev_Status='1'   where Dev_Sn='%u'  ;", places.device.Dev_Sn);
+    sqlite3_str_appendf(sql, " Dev_Status='1'   where Dev_Sn='%u'  ;", desk.device.Dev_Sn);
     execute_and_free(sqlite3_str_finish(sql));
 }
 
 void register_device() {
-    const DevInfo &device = places.device;
+    const DevInfo &device = desk.device;
     const unsigned long sn = inet_addr(device.Dev_Ipaddress);
     if (is_known(device)) {
         return;

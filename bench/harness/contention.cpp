@@ -11,8 +11,8 @@
 #include <ctime>
 #include <functional>
 
+#include "harness/desk.h"
 #include "harness/outcomes.h"
-#include "harness/places.h"
 
 namespace bench {
 

@@ -7,8 +7,8 @@
 #include <cstring>
 
 #include "harness/count.h"
+#include "harness/desk.h"
 #include "harness/outcomes.h"
-#include "harness/places.h"
 
 namespace bench {
 

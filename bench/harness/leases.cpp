@@ -5,7 +5,7 @@
 #include <csignal>
 #include <fstream>
 
-#include "harness/places.h"
+#include "harness/desk.h"
 
 namespace bench {
 

@@ -1,52 +1,54 @@
 #include <cstdio>
 
+#include "bare/by_hand.h"
+#include "harness/desk.h"
 #include "harness/operation.h"
 #include "harness/outcomes.h"
-#include "harness/places.h"
 #include "harness/requests.h"
 #include "harness/spawn.h"
-#include "harness/variants.h"
+#include "peers/by_peer.h"
+#include "peers/name.h"
+#include "peers/program.h"
+#include "peers/soci.h"
+#include "peers/sqlitecpp.h"
 
 namespace bench {
 
-Places places;
+Desk desk;
 
 namespace {
 
 using namespace outcomes;
 
 #define VARIANTS(function) \
-    { bare::function, sqlitecpp::function, soci_users::function, program::function }
-#define WRAPPERS(function) \
-    { bare::function, sqlitecpp::function, soci_users::function, nullptr }
+    { bare::function, peers::function<peers::SqliteCpp>, peers::function<peers::Soci>, peers::function<peers::Program> }
 #define BARE_ONLY(function) \
     { bare::function, nullptr, nullptr, nullptr }
 
 // Name, preparation, outcome, rounds, clock, library, other variants.
 constexpr Operation table[] = {
     {"DB_getinfo", nullptr, device, 400, Clock::processor,
-     [](const Library &library) { library.DB_getinfo(&places.device, known_device, 0); }, VARIANTS(get_device)},
+     [](const Library &library) { library.DB_getinfo(&desk.device, known_device, 0); }, VARIANTS(get_device)},
     {"DB_getinfo, converted", nullptr, device, 400, Clock::processor,
-     [](const Library &library) { library.DB_getinfo(&places.device, known_device, 1); },
-     VARIANTS(get_device_converted)},
+     [](const Library &library) { library.DB_getinfo(&desk.device, known_device, 1); }, VARIANTS(get_device_converted)},
     {"GetApDevList", free_devices, devices, 200, Clock::processor,
-     [](const Library &library) { library.GetApDevList(&places.devices, 0); }, VARIANTS(list_devices)},
+     [](const Library &library) { library.GetApDevList(&desk.devices, 0); }, VARIANTS(list_devices)},
     {"GetUrlFilterItemListInServer", nullptr, url_filters, 200, Clock::processor,
      [](const Library &library) {
-         library.GetUrlFilterItemListInServer(&places.url_filters, "select * from filter_url order by Id;");
+         library.GetUrlFilterItemListInServer(&desk.url_filters, "select * from filter_url order by Id;");
      },
      VARIANTS(list_url_filters)},
     {"GetBehaviorItemListInServer", close_left_open, behavior_rules, 8, Clock::processor,
      [](const Library &library) {
-         library.GetBehaviorItemListInServer(&places.behavior_rules, "select * from behavior_rule order by id;");
+         library.GetBehaviorItemListInServer(&desk.behavior_rules, "select * from behavior_rule order by id;");
      },
-     WRAPPERS(list_behavior_rules)},
+     VARIANTS(list_behavior_rules)},
     {"DB_EXEC_SQL_CHAR", restore, device_rows, 200, Clock::processor,
      [](const Library &library) { library.DB_EXEC_SQL_CHAR(update_sql); }, VARIANTS(execute_update)},
     {"DB_UpdateInfo", restore_for_update, device_rows, 200, Clock::processor,
-     [](const Library &library) { library.DB_UpdateInfo(places.device); }, VARIANTS(configure_device)},
+     [](const Library &library) { library.DB_UpdateInfo(desk.device); }, VARIANTS(configure_device)},
     {"DB_addinfo", restore_for_registration, device_rows, 50, Clock::processor,
-     [](const Library &library) { library.DB_addinfo(places.device); }, WRAPPERS(register_device)},
+     [](const Library &library) { library.DB_addinfo(desk.device); }, VARIANTS(register_device)},
     {"GetApDevList_cgi", forget_printed, printed, 200, Clock::processor,
      [](const Library &library) { library.GetApDevList_cgi(1, 0, 0, 0, nullptr, nullptr, 17); },
      VARIANTS(print_device_page)},
@@ -55,17 +57,22 @@ constexpr Operation table[] = {
     {"GetWlanZeroCfgGroupList", forget_printed, printed, 200, Clock::processor,
      [](const Library &library) { library.GetWlanZeroCfgGroupList(); }, VARIANTS(print_groups)},
     {"sqlclient_cmd, 1 record", choose_service, reply, 400, Clock::processor,
-     [](const Library &library) { library.sqlclient_cmd(&one_filter, &places.reply); }, BARE_ONLY(request_one)},
+     [](const Library &library) { library.sqlclient_cmd(&one_filter, &desk.reply); }, BARE_ONLY(request_one)},
     {"sqlclient_cmd, 128 records", choose_service, reply, 400, Clock::processor,
-     [](const Library &library) { library.sqlclient_cmd(&all_filters, &places.reply); }, BARE_ONLY(request_all)},
+     [](const Library &library) { library.sqlclient_cmd(&all_filters, &desk.reply); }, BARE_ONLY(request_all)},
     {"GetUrlFilterItemList", choose_service, url_filters, 200, Clock::elapsed,
-     [](const Library &library) { library.GetUrlFilterItemList(&places.url_filters); }, BARE_ONLY(fetch_url_filters)},
-    {"process start", forget_printed, printed, 100, Clock::processor,
-     [](const Library &library) { spawn({library.start_program}); }, VARIANTS(start_and_read)},
+     [](const Library &library) { library.GetUrlFilterItemList(&desk.url_filters); }, BARE_ONLY(fetch_url_filters)},
+    {"process start",
+     forget_printed,
+     printed,
+     100,
+     Clock::processor,
+     [](const Library &library) { spawn({library.start_program}); },
+     {[] { spawn({beside("start-bare")}); }, [] { spawn({beside("start-sqlitecpp")}); },
+      [] { spawn({beside("start-soci")}); }, peers::print_name<peers::Program>}},
 };
 
 #undef BARE_ONLY
-#undef WRAPPERS
 #undef VARIANTS
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace outcomes {
 /// Takes standard output over, and keeps the databases as they are now to restore them from. Once, at the start.
 void set_up();
 
-/// The bytes of `places`.
+/// The bytes of `desk`.
 std::string device();
 std::string devices();
 std::string url_filters();
@@ -34,10 +34,10 @@ void free_devices(Variant variant);
 /// Gives the databases the content they had at the start.
 void restore(Variant variant);
 
-/// The same, and puts a changed record of the known access point into `places`.
+/// The same, and puts a changed record of the known access point into `desk`.
 void restore_for_update(Variant variant);
 
-/// The same, and deletes the known access point, whose record `places` has as it would report itself.
+/// The same, and deletes the known access point, whose record `desk` has as it would report itself.
 void restore_for_registration(Variant variant);
 
 /// Also opens standard input again, which some functions close.

@@ -2,8 +2,6 @@
 
 #include <iconv.h>
 
-#include "harness/device_columns.h"
-
 namespace bench {
 
 namespace {
@@ -20,8 +18,8 @@ bool convert(const char *to, const char *from, const char *in, std::size_t in_le
 }  // namespace
 
 void convert_ssids(DevInfo &device) {
-    for (unsigned network = 0; network < ROUTERDB_WLANS; ++network) {
-        char(&ssid)[sizeof(DevWlanEntry::Ssid)] = device.wlan[network].Ssid;
+    for (int network = 1; network <= ROUTERDB_WLANS; ++network) {
+        char(&ssid)[sizeof(DevWlanEntry::Ssid)] = device.wlan[network - 1].Ssid;
         char converted[2 * sizeof(ssid)];
         if (is_converted(network) &&
             convert("gb2312", "utf-8", ssid, std::strlen(ssid) + 1, converted, sizeof(converted))) {

@@ -1,18 +1,9 @@
 // Starts, reads the name of one access point with SQLiteCpp, and ends.
-#include <SQLiteCpp/SQLiteCpp.h>
+#include "peers/sqlitecpp.h"
 
-#include <cstdio>
-
-#include "harness/places.h"
-#include "sqlitecpp/reading.h"
+#include "peers/name.h"
 
 int main() {
-    const SQLite::Database db(bench::paths::main_database);
-    SQLite::Statement query(db, bench::known_device_sql);
-    DevInfo device{};
-    while (query.executeStep()) {
-        bench::sqlitecpp::read_device(query, device);
-    }
-    std::puts(device.Dev_Name);
+    bench::peers::print_name<bench::peers::SqliteCpp>();
     return 0;
 }

@@ -14,14 +14,12 @@ COMPARED = ("bare", "exact", "modern", "SQLiteCpp")  # in the curves
 
 INTRODUCTION = """# Benchmark
 
-Written by `scripts/bench --write`; `bench/README.md` says what is measured and how.
+**bare** is SQLite (or the socket) by hand, as the exact profile uses it; its rows are absolute, others ratios to them.
+**exact** and **modern** are the library; SQLiteCpp, SOCI and the sqlite3 **program** get the same bytes as users would.
+Below 1.00 is less than by hand. Instructions and system calls repeat from run to run; times depend on the machine.
 
-**exact** and **modern** are the library in its two profiles. **bare** is SQLite (or the socket) by hand, with the
-connections, statements, locks and copies of the exact profile. **SQLiteCpp**, **SOCI** and the **sqlite3 program** get
-the same results the way their users would write it, on one fresh connection for each operation and without the lock
-file. All of them were checked for equal results before.
-
-Instructions, processor time and system calls of *bare* are absolute, those of the others ratios to it.
+`scripts/bench --write` made this page, after every outcome was found equal; `bench/README.md` says what is measured and
+how. Peers use one fresh connection for each operation, and no lock file.
 """
 
 

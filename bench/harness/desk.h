@@ -5,7 +5,7 @@
 
 namespace bench {
 
-struct Places {
+struct Desk {
     DevInfo device;     // read by DB_getinfo, written by DB_UpdateInfo and DB_addinfo
     ApDevList devices;  // each record from malloc
     UrlFilterItemList url_filters;
@@ -13,7 +13,7 @@ struct Places {
     SqlReply reply;  // its data from malloc
 };
 
-extern Places places;
+extern Desk desk;
 
 /// The access point that single records are read from and written to.
 inline constexpr unsigned long known_device = 192UL + 168UL * 256 + 65536 + 13UL * 16777216;
