@@ -22,7 +22,7 @@ enum Given : std::uint8_t { serial_number, stations, no_group_name };
 /// The column of a member, cut as the record would cut it. Only the columns that are printed are read.
 constexpr json::Value shown(std::string_view member, const Part &part = device_part) {
     const DeviceColumn column = device_column(member, part);
-    return json::column_text(column.column, column.width - 1U);
+    return json::column_text(column.column, static_cast<std::uint16_t>(column.width - 1));
 }
 
 // Deliberate: the closing element has fewer keys.

@@ -11,8 +11,6 @@
 
 namespace {
 
-using Lines = std::vector<std::string>;
-
 int busy_opens = 0;
 int handles = 0;  // open ones
 Lines calls;
@@ -52,7 +50,7 @@ int usleep(useconds_t /*microseconds*/) {
 
 namespace {
 
-class BusyOpen : public HelperTest<Helper> {
+class BusyOpen : public HelperTest {
 protected:
     BusyOpen() {
         handles = 0;
@@ -69,10 +67,7 @@ TEST_P(BusyOpen, leaves_no_connection_behind) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, BusyOpen,
-                         ::testing::Values(helpers::db_sql_exec, helpers::exec_char, helpers::exec_char_int,
-                                           helpers::exec_char_long, helpers::exec_char_char, helpers::int_count,
-                                           helpers::int_rows, helpers::int_count_route, helpers::int_count_dpi,
-                                           helpers::sqlite_int),
-                         helper_name<Helper>);
+                         ::testing::ValuesIn(helpers_that([](const Helper &helper) { return helper.opens; })),
+                         helper_name);
 
 }  // namespace
