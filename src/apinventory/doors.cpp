@@ -79,11 +79,11 @@ void GetDevMacBySN(unsigned long sn, char *out) {
 }
 
 void GetDevSNByMac(const char *mac, unsigned long *sn) {
-    read_sn(LookupKey::mac, or_empty(mac), *sn);
+    read_sn(LookupKey::mac, or_empty(mac), Quotes::as_given, *sn);
 }
 
 void GetDevSNByIp(const char *ip, unsigned long *sn) {
-    read_sn(LookupKey::ip, or_empty(ip), *sn);
+    read_sn(LookupKey::ip, or_empty(ip), Quotes::as_given, *sn);
 }
 
 void SetDevUpgradeStatus(const char *mac, const char *status) {

@@ -39,16 +39,18 @@ int run(const Text &sql) {
     return execute(profiles::exec_char, sql);
 }
 
+void append_mac(Text &sql, const DevInfo &device) {
+    sql.append_quoted(field_text(device.Dev_MAC), Quotes::doubled);
+}
+
 void append_mac_lookup(Text &sql, const DevInfo &device) {
-    sql.append("select Dev_Sn  from DevInfo where Dev_MAC='").append_escaped(field_text(device.Dev_MAC)).append("';");
+    sql.append("select Dev_Sn  from DevInfo where Dev_MAC=");
+    append_mac(sql, device);
+    sql.append(";");
 }
 
 void read_sn_by_mac(const DevInfo &device, unsigned long &sn, SharedConnection &connection) {
-    Sql mac;
-    mac.append_escaped(field_text(device.Dev_MAC));
-    if (mac.complete()) {
-        read_sn(LookupKey::mac, mac.c_str(), sn, &connection);
-    }
+    read_sn(LookupKey::mac, field_text(device.Dev_MAC), Quotes::doubled, sn, &connection);
 }
 
 /// Only the text of five pairs of zeros counts as no address; six pairs do not.
@@ -76,14 +78,17 @@ void make_way(const DevInfo &device, unsigned long sn, SharedConnection &connect
 int insert_row(const DevInfo &device, unsigned long sn) {
     if (has_mac(device)) {
         Sql removal;
-        removal.append("delete from DevInfo where Dev_MAC='").append_escaped(field_text(device.Dev_MAC)).append("';");
+        removal.append("delete from DevInfo where Dev_MAC=");
+        append_mac(removal, device);
+        removal.append(";");
         [[maybe_unused]] const int result = run(removal);
     }
     Sql sql;
     sql.append("insert into DevInfo (Dev_Sn,Dev_Group,Dev_Name,Dev_MAC) values(").append_quoted(sn);
-    sql.append(",'").append_escaped(field_text(device.Dev_Group));
-    sql.append("','").append_escaped(field_text(device.Dev_Name));
-    sql.append("','").append_escaped(field_text(device.Dev_MAC)).append("') ;");
+    sql.append(",").append_quoted(field_text(device.Dev_Group), Quotes::doubled);
+    sql.append(",").append_quoted(field_text(device.Dev_Name), Quotes::doubled).append(",");
+    append_mac(sql, device);
+    sql.append(") ;");
     return run(sql);
 }
 

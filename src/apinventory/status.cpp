@@ -56,12 +56,12 @@ void read_mac(unsigned long sn, char *out) {
     read_text(sql, out);
 }
 
-void read_sn(LookupKey key, const char *value, unsigned long &sn, SharedConnection *shared) {
+void read_sn(LookupKey key, std::string_view value, Quotes quotes, unsigned long &sn, SharedConnection *shared) {
     Sql sql;
     sql.append("select Dev_Sn from  DevInfo where ")
         .append(column_of(key))
         .append("=")
-        .append_quoted(value)
+        .append_quoted(value, quotes)
         .append(";");
     Destination destination;
     destination.number = &sn;
@@ -74,7 +74,7 @@ void set_upgrade_status(const char *mac, const char *status) {
     sql.append("  where Dev_MAC=").append_quoted(mac).append(";");
     run(sql);
     unsigned long sn = 0;  // announced for an unknown address
-    read_sn(LookupKey::mac, mac, sn);
+    read_sn(LookupKey::mac, mac, Quotes::as_given, sn);
     notify(Event::modified, sn);
 }
 

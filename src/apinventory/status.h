@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "core/shared_connection.h"
+#include "core/text.h"
 
 namespace routerdb {
 
@@ -21,7 +22,8 @@ void read_status(const char *column, const char *mac, char *out);
 void read_mac(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point; untouched without a row.
-void read_sn(LookupKey key, const char *value, unsigned long &sn, SharedConnection *shared = nullptr);
+void read_sn(LookupKey key, std::string_view value, Quotes quotes, unsigned long &sn,
+             SharedConnection *shared = nullptr);
 
 /// Sets the upgrade status and announces the change.
 void set_upgrade_status(const char *mac, const char *status);

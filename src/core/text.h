@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace routerdb {
@@ -24,6 +25,12 @@ std::string_view field_text(const char (&field)[width]) {
 /// terminator stays.
 void copy_cut(std::string_view text, char *field, std::size_t width);
 
+/// What becomes of the single quotes inside a value.
+enum class Quotes : std::uint8_t {
+    as_given,  // they stay: the caller may have doubled them
+    doubled    // SQL reads the value back as it is
+};
+
 /// A text under construction. It starts in a buffer on the stack and moves to the heap when it outgrows that. Where
 /// memory runs out it remembers so: whoever uses the text asks complete() first.
 class Text {
@@ -36,13 +43,12 @@ public:
     Text &append(long number);
     Text &append(unsigned long number);
 
-    /// Appends a value between single quotes, as it stands.
-    template <typename Value>
-    Text &append_quoted(Value value) {
-        return append("'").append(value).append("'");
-    }
+    /// Appends a value between single quotes: the one way for values to get into SQL.
+    Text &append_quoted(std::string_view value, Quotes quotes = Quotes::as_given);
+    Text &append_quoted(long number) { return append("'").append(number).append("'"); }
+    Text &append_quoted(unsigned long number) { return append("'").append(number).append("'"); }
 
-    /// Appends what stands inside single quotes, its own doubled, so that SQL reads it back as it is.
+    /// Appends what stands inside single quotes, its own doubled.
     Text &append_escaped(std::string_view value);
 
     /// Begins anew in the same room. A text that memory ran out for stays so.

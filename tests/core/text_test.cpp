@@ -11,6 +11,7 @@
 
 namespace {
 
+using routerdb::Quotes;
 using routerdb::StackText;
 using support::WrappedCalls;
 
@@ -42,10 +43,11 @@ TEST(Text, puts_values_between_quotes_as_they_stand) {
     EXPECT_STREQ(text.c_str(), "'it's''''-3'");
 }
 
-TEST(Text, doubles_quotes_in_escaped_values) {
+TEST(Text, doubles_quotes_inside_values_where_it_is_asked_to) {
     SmallText text;
-    text.append_escaped("it's").append_escaped("").append_escaped("''").append_escaped("plain");
-    EXPECT_STREQ(text.c_str(), "it''s''''plain");
+    text.append_quoted("it's", Quotes::doubled).append(",").append_quoted("", Quotes::doubled).append(",");
+    text.append_quoted("''", Quotes::doubled).append(",").append_quoted("plain", Quotes::doubled);
+    EXPECT_STREQ(text.c_str(), "'it''s','','''''','plain'");
 }
 
 TEST(Text, has_the_room_that_was_reserved) {
