@@ -12,7 +12,7 @@ add_library(
     src/apinventory/compare.cpp
     src/apinventory/devices.cpp
     src/apinventory/doors.cpp
-    src/apinventory/fragments.cpp
+    src/apinventory/assignments.cpp
     src/apinventory/groups.cpp
     src/apinventory/list_json.cpp
     src/apinventory/notify.cpp

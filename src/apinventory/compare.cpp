@@ -2,57 +2,72 @@
 
 #include <cstdio>
 
-#include "apinventory/device_fields.h"
-#include "apinventory/member.h"
 #include "apinventory/numbers.h"
+#include "apinventory/parts.h"
 
 namespace routerdb {
 
 namespace {
 
-constexpr int wlans_of_one_radio = 4;
-constexpr int wlans_of_two_radios = 8;
+using members::Kind;
+using members::Member;
 
-// The BSSID is the access point's own and never compared.
-constexpr Member wlan_always[] = {
-    WLAN_MEMBER(Enable),   WLAN_MEMBER(Hide_Ssid),      WLAN_MEMBER(Ssid),     WLAN_MEMBER(VlanId),
-    WLAN_MEMBER(Security), WLAN_MEMBER(Securitycipher), WLAN_MEMBER(Authmode),
-};
-constexpr Member wlan_wep[] = {WLAN_MEMBER(Wep_Type), WLAN_MEMBER(Wep_Value)};
-constexpr Member wlan_key[] = {WLAN_MEMBER(Psk_Type), WLAN_MEMBER(Psk_Value)};
-
-// Deliberate: channel, rate, mode, bandwidth, power, receive option and station limit do not count.
-constexpr Member radio_always[] = {
-    RADIO_MEMBER(Ampdu), RADIO_MEMBER(Isolate), RADIO_MEMBER(Beacon_Inertval),   RADIO_MEMBER(Rts),
-    RADIO_MEMBER(Cts),   RADIO_MEMBER(ShortGI), RADIO_MEMBER(CoverageThreshold),
-};
-constexpr Member radio_power[] = {RADIO_MEMBER(Txpower)};
-constexpr Member reboot[] = {DEVICE_MEMBER(Dev_RebootTime_Enable), DEVICE_MEMBER(Dev_RebootTime)};
-
-/// WEP and key texts count when the group's security uses them.
-bool wlan_differs(const DevWlanEntry &device, const DevWlanEntry &group) {
-    const int cipher = number_in(field_text(group.Securitycipher));
-    const int authentication = number_in(field_text(group.Authmode));
-    return any_differs(wlan_always, &device, &group) ||
-           ((cipher == 1 || cipher == 2) && any_differs(wlan_wep, &device, &group)) ||
-           (authentication == 1 && any_differs(wlan_key, &device, &group));
+/// Whether a part counts for an access point with so many networks in use.
+bool is_compared(const Part &part, int in_use) {
+    constexpr int of_one_radio = 4;
+    constexpr int of_two_radios = 8;
+    switch (part.kind) {
+        case Kind::device:
+            break;
+        case Kind::network:
+            return part.number < of_one_radio || in_use != of_one_radio;
+        case Kind::radio:
+            return part.number == 0 || in_use == of_two_radios;
+    }
+    return true;
 }
 
-/// @param power  whether the transmit power counts
-bool wireless_differs(const DevInfo &device, const DevInfo &group, bool power) {
-    const int in_use = wlans_in_use(device);
-    const int compared = in_use == wlans_of_one_radio ? wlans_of_one_radio : ROUTERDB_WLANS;
-    for (int number = 0; number < compared; ++number) {
-        if (wlan_differs(device.wlan[number], group.wlan[number])) {
+/// WEP and key texts count when the group's security uses them.
+bool uses_wep(const DevWlanEntry &network) {
+    const int cipher = number_in(field_text(network.Securitycipher));
+    return cipher == 1 || cipher == 2;
+}
+
+bool uses_key(const DevWlanEntry &network) {
+    return number_in(field_text(network.Authmode)) == 1;
+}
+
+bool counts(const Part &part, const Member &member, const DevInfo &group, Table of_group) {
+    switch (member.compared) {
+        case members::never:
+            break;
+        case members::always:
             return true;
+        case members::under_wep:
+            return uses_wep(group.wlan[part.number]);
+        case members::under_key:
+            return uses_key(group.wlan[part.number]);
+        case members::against_zero_config:
+            return of_group == Table::zero_config_groups;
+    }
+    return false;
+}
+
+/// @param of_group  tells what kind of group it is
+bool differs(const DevInfo &device, const DevInfo &group, Table of_group) {
+    const int in_use = wlans_in_use(device);
+    for (const Part &part : parts) {
+        if (!is_compared(part, in_use)) {
+            continue;
+        }
+        for (const Member &member : members_of(part)) {
+            if (text_of(device, part, member) != text_of(group, part, member) &&
+                counts(part, member, group, of_group)) {
+                return true;
+            }
         }
     }
-    const auto radio_differs = [&](std::size_t distance) {
-        const char *a = reinterpret_cast<const char *>(&device) + distance;
-        const char *b = reinterpret_cast<const char *>(&group) + distance;
-        return any_differs(radio_always, a, b) || (power && any_differs(radio_power, a, b));
-    };
-    return radio_differs(0) || (in_use == wlans_of_two_radios && radio_differs(second_radio));
+    return false;
 }
 
 }  // namespace
@@ -62,11 +77,11 @@ bool differs_from_group(const DevInfo &device, const DevInfo &group) {
         std::printf("%s %d\n", "CompareDevInfoWithGroupInfo", 6054);
         return true;
     }
-    return wireless_differs(device, group, false);
+    return differs(device, group, Table::wlan_groups);
 }
 
 bool differs_from_zero_config(const DevInfo &device, const DevInfo &group) {
-    return wireless_differs(device, group, true) || any_differs(reboot, &device, &group);
+    return differs(device, group, Table::zero_config_groups);
 }
 
 }  // namespace routerdb

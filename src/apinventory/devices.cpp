@@ -30,7 +30,7 @@ int read_device_by_sn(DevInfo &device, unsigned long sn, Ssids ssids) {
     int count = 0;
     if (reading.open() && reading.prepare(sql.c_str())) {
         for (bool more = reading.first_row(); more; more = reading.next_row()) {
-            read_device(reading.row(), ssids, device);
+            read_record(reading.row(), Table::devices, ssids, device);
             ++count;
         }
     }
@@ -54,7 +54,7 @@ bool read_all_devices(ApDevList &list, Ssids ssids) {
             break;
         }
         *device = {};
-        read_device(reading.row(), ssids, *device);
+        read_record(reading.row(), Table::devices, ssids, *device);
         list.devices[list.count++] = device;
     }
     return list.count != 0;

@@ -15,13 +15,11 @@ using namespace profiles::parts;
 constexpr ReadProfile group{free_printing, prepare_on_output};
 constexpr ReadProfile group_with_random_delay{free_printing_random, prepare_on_output};
 
-using ReadRow = void (*)(const Row &row, Ssids ssids, DevInfo &group);
-
 /// Reads all rows, so that the values of the last one stay.
-void read_rows(Reading &reading, const Text &sql, ReadRow read_row, Ssids ssids, DevInfo &record) {
+void read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, DevInfo &record) {
     if (reading.prepare(sql.c_str())) {
         for (bool more = reading.first_row(); more; more = reading.next_row()) {
-            read_row(reading.row(), ssids, record);
+            read_record(reading.row(), table, ssids, record);
         }
     }
 }
@@ -36,7 +34,7 @@ int read_wlan_group(DevInfo &record, int id) {
     if (!reading.open()) {
         return reading.printed();
     }
-    read_rows(reading, sql, read_group, Ssids::in_gb2312, record);
+    read_rows(reading, sql, Table::wlan_groups, Ssids::in_gb2312, record);
     return reading.close().connection;
 }
 
@@ -52,7 +50,7 @@ int read_default_zero_config(DevInfo &record) {
     if (!reading.open()) {
         return reading.printed();
     }
-    read_rows(reading, sql, read_zero_config_group, Ssids::in_gb2312, record);
+    read_rows(reading, sql, Table::zero_config_groups, Ssids::in_gb2312, record);
     return reading.lost() ? reading.printed() : 1;
 }
 
@@ -65,7 +63,7 @@ int read_zero_config(DevInfo &record, int id) {
         return -1;
     }
     // Deliberate: here the SSIDs stay as they are stored, in the default group they do not.
-    read_rows(reading, sql, read_zero_config_group, Ssids::as_stored, record);
+    read_rows(reading, sql, Table::zero_config_groups, Ssids::as_stored, record);
     return 0;
 }
 

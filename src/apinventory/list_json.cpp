@@ -1,7 +1,7 @@
 #include "apinventory/list_json.h"
 
-#include "apinventory/device_fields.h"
 #include "apinventory/numbers.h"
+#include "apinventory/parts.h"
 #include "apinventory/totals.h"
 #include "core/json_list.h"
 #include "core/profiles.h"
@@ -20,56 +20,51 @@ constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wordin
 enum Given : std::uint8_t { serial_number, stations, no_group_name };
 
 /// The column of a member, cut as the record would cut it. Only the columns that are printed are read.
-constexpr json::Value shown(DeviceField field) {
-    return json::column_text(field.column, field.width - 1);
+constexpr json::Value shown(std::string_view name, const Part &part = device_part) {
+    const DeviceColumn column = device_column(name, part);
+    return json::column_text(column.number, column.width - 1);
 }
-
-#define SHOWN(member) shown(device_field(offsetof(DevInfo, member)))
-#define SHOWN_OF_WLAN(number, member) shown(wlan_field(number, offsetof(DevWlanEntry, member)))
 
 // Deliberate: the closing element has fewer keys.
 // clang-format off
 constexpr json::Key keys[] = {
     {"m_sn", json::given(serial_number, 20)},
-    {"m_group_name", SHOWN(Dev_Group)},
-    {"m_dev_name", SHOWN(Dev_Name)},
-    {"m_dev_ip", SHOWN(Dev_Ipaddress)},
-    {"m_dev_mac", SHOWN(Dev_MAC)},
-    {"m_onlinetime", SHOWN(Dev_OnlineTime)},
-    {"m_sw_ver", SHOWN(Dev_SwVer)},
-    {"m_sw_name", SHOWN(Dev_SwName)},
-    {"m_channel", SHOWN(Dev_Wlan_Channel)},
-    {"m_current_channel", SHOWN(Dev_Wlan_Current_Channel), json::not_in_closing},
+    {"m_group_name", shown("Dev_Group")},
+    {"m_dev_name", shown("Dev_Name")},
+    {"m_dev_ip", shown("Dev_Ipaddress")},
+    {"m_dev_mac", shown("Dev_MAC")},
+    {"m_onlinetime", shown("Dev_OnlineTime")},
+    {"m_sw_ver", shown("Dev_SwVer")},
+    {"m_sw_name", shown("Dev_SwName")},
+    {"m_channel", shown("Channel", first_radio)},
+    {"m_current_channel", shown("Current_Channel", first_radio), json::not_in_closing},
     {"m_stanum", json::given(stations, 20)},
-    {"m_dev_status", SHOWN(Dev_Status)},
-    {"m_dev_upgrade_status", SHOWN(Dev_Upgrade_Status)},
+    {"m_dev_status", shown("Dev_Status")},
+    {"m_dev_upgrade_status", shown("Dev_Upgrade_Status")},
     {"m_wlan_group_name", json::given(no_group_name, 3)},
-    {"m_wlan_radio_num", SHOWN(Dev_Wlan_Radio_Num)},
-    {"m_channel_sec", SHOWN(Dev_Wlan_Channel_sec)},
-    {"m_current_channel_sec", SHOWN(Dev_Wlan_Current_Channel_sec), json::not_in_closing},
-    {"m_TimeRebootEnable", SHOWN(Dev_RebootTime_Enable)},
-    {"m_RebootTime", SHOWN(Dev_RebootTime)},
-    {"m_CurrentTime", SHOWN(Dev_CurrentDateTime)},
-    {"m_dev_modelname", SHOWN(Dev_Model_Name)},
-    {"m_wlan_txpower", SHOWN(Dev_Wlan_Txpower)},
-    {"m_wlan_txpower_sec", SHOWN(Dev_Wlan_Txpower_sec)},
-    {"m_wlan_ssid", SHOWN_OF_WLAN(0, Ssid), json::not_in_closing},
-    {"m_wlan_ssid_sec", SHOWN_OF_WLAN(4, Ssid), json::not_in_closing},
+    {"m_wlan_radio_num", shown("Dev_Wlan_Radio_Num")},
+    {"m_channel_sec", shown("Channel", second_radio)},
+    {"m_current_channel_sec", shown("Current_Channel", second_radio), json::not_in_closing},
+    {"m_TimeRebootEnable", shown("Dev_RebootTime_Enable")},
+    {"m_RebootTime", shown("Dev_RebootTime")},
+    {"m_CurrentTime", shown("Dev_CurrentDateTime")},
+    {"m_dev_modelname", shown("Dev_Model_Name")},
+    {"m_wlan_txpower", shown("Txpower", first_radio)},
+    {"m_wlan_txpower_sec", shown("Txpower", second_radio)},
+    {"m_wlan_ssid", shown("Ssid", network_part(0)), json::not_in_closing},
+    {"m_wlan_ssid_sec", shown("Ssid", network_part(4)), json::not_in_closing},
 };
 // clang-format on
 
-#undef SHOWN
-#undef SHOWN_OF_WLAN
-
-int number_of(const Row &row, DeviceField field) {
-    return number_in(field_text(row.text(field.column), field.width - 1U));
+int number_of(const Row &row, DeviceColumn column) {
+    return number_in(field_text(row.text(column.number), column.width - 1U));
 }
 
 /// The stations of both radios, or of the first one unless the access point has eight networks.
 long stations_of(const Row &row) {
-    constexpr DeviceField networks = device_field(offsetof(DevInfo, Dev_Wlan_Radio_Num));
-    constexpr DeviceField of_first_radio = device_field(offsetof(DevInfo, Dev_Wlan_Sta_Num));
-    constexpr DeviceField of_second_radio = device_field(offsetof(DevInfo, Dev_Wlan_Sta_Num_sec));
+    constexpr DeviceColumn networks = device_column("Dev_Wlan_Radio_Num");
+    constexpr DeviceColumn of_first_radio = device_column("Sta_Num", first_radio);
+    constexpr DeviceColumn of_second_radio = device_column("Sta_Num", second_radio);
     constexpr int networks_of_two_radios = 8;
     const int first = number_of(row, of_first_radio);
     return number_of(row, networks) == networks_of_two_radios ? first + number_of(row, of_second_radio) : first;
@@ -80,7 +75,10 @@ void print_device(json::List &list, const Row &row) {
     serial_number_text.append(static_cast<unsigned long>(static_cast<std::uint32_t>(row.unsigned_number(0))));
     StackText<24> stations_text;
     stations_text.append(stations_of(row));
-    const std::string_view given[] = {serial_number_text.view(), stations_text.view(), "N/A"};
+    std::string_view given[no_group_name + 1];
+    given[serial_number] = serial_number_text.view();
+    given[stations] = stations_text.view();
+    given[no_group_name] = "N/A";
     list.print(row, given);
 }
 

@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "apinventory/parts.h"
 #include "core/row.h"
-#include "routerdb.h"
 
 namespace routerdb {
 
@@ -13,13 +13,7 @@ enum class Ssids : std::uint8_t {
     in_gb2312,  // but those of the first network of each radio, and those that cannot be converted
 };
 
-/// Reads a row of `DevInfo` over what the record held; what is no column stays.
-void read_device(const Row &row, Ssids ssids, DevInfo &device);
-
-/// Reads a row of `WlanGroupInfo` over what the record held.
-void read_group(const Row &row, Ssids ssids, DevInfo &group);
-
-/// Reads a row of `WlanZeroCfgGroupInfo` over what the record held.
-void read_zero_config_group(const Row &row, Ssids ssids, DevInfo &group);
+/// Reads a row of a table over what the record held; what is no column stays.
+void read_record(const Row &row, Table table, Ssids ssids, DevInfo &record);
 
 }  // namespace routerdb

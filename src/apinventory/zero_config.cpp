@@ -3,12 +3,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "apinventory/device_fields.h"
-#include "apinventory/fragments.h"
+#include "apinventory/assignments.h"
 #include "apinventory/groups.h"
 #include "apinventory/numbers.h"
-#include "apinventory/wlan_fragments.h"
-#include "apinventory/zero_config_defaults.h"
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
@@ -17,56 +14,29 @@ namespace routerdb {
 
 namespace {
 
-constexpr bool as_given = false;
+using members::spaced;
 
-// clang-format off
-constexpr DeviceFragment saved_name  = DEVICE_AS(blank, wlan_group_name, "Name", comma);
+constexpr Assigned saved_name("wlan_group_name");
 
 // Between the rate and the mode of the first radio, the RADIUS server is written.
-constexpr RadioFragment saved_radio_head[] = {
-    RADIO(blank, Channel, comma),
-    RADIO(blank, Isolate, comma),
-    RADIO(blank, Rate, comma),
+constexpr Assigned saved_radio_head[] = {{"Channel"}, {"Isolate"}, {"Rate"}};
+constexpr Assigned saved_radius[] = {{"radius_server_ip"}, {"radius_server_port"}, {"radius_shared_key"}};
+constexpr Assigned saved_radio[] = {
+    {"Mode"},    {"Bw"},  {"Ampdu"},           {"Beacon_Inertval"},  {"Rts"},
+    {"Txpower"}, {"Cts"}, {"ShortGI", spaced}, {"RxOption", spaced}, {"MaxStaNum", spaced},
 };
-constexpr DeviceFragment saved_radius[] = {
-    DEVICE_AS(blank, radius_server_ip, "Wlan_Radius_ServerIP", comma),
-    DEVICE_AS(blank, radius_server_port, "Wlan_Radius_ServerPort", comma),
-    DEVICE_AS(blank, radius_shared_key, "Wlan_Radius_Sharekey", comma),
-};
-constexpr RadioFragment saved_radio[] = {
-    RADIO(blank, Mode, comma),
-    RADIO(blank, Bw, comma),
-    RADIO(blank, Ampdu, comma),
-    RADIO_AS(blank, Beacon_Inertval, "Beacon_Interval", comma),
-    RADIO(blank, Rts, comma),
-    RADIO(blank, Txpower, comma),
-    RADIO(blank, Cts, comma),
-    RADIO(blank, ShortGI, comma_blank),
-    RADIO_AS(blank, RxOption, "RevOption", comma_blank),
-    RADIO(blank, MaxStaNum, comma_blank),
-};
-constexpr RadioFragment saved_threshold = RADIO(blank, CoverageThreshold, comma_blank);
-constexpr RadioFragment saved_second_threshold = RADIO(blank, CoverageThreshold, blank);
+constexpr Assigned saved_threshold("CoverageThreshold", spaced);
+constexpr Assigned saved_second_threshold("CoverageThreshold", members::last);
+constexpr Assigned saved_reboot[] = {{"Dev_RebootTime_Enable", spaced}, {"Dev_RebootTime", spaced}};
 
-constexpr DeviceFragment saved_reboot[] = {
-    DEVICE(blank, Dev_RebootTime_Enable, comma_blank),
-    DEVICE(blank, Dev_RebootTime, comma_blank),
-};
-// clang-format on
-
-template <std::size_t count>
-void fill(const Default (&defaults)[count], void *base) {
-    for (const Default &value : defaults) {
-        copy_cut(value.text, static_cast<char *>(base) + value.member.offset, value.member.width);
+/// The first network of a radio is on. All have names, counted from 0 on either radio.
+void start_network(unsigned number, DevWlanEntry &network) {
+    constexpr unsigned of_a_radio = ROUTERDB_WLANS / 2;
+    if (leads_its_radio(network_part(number))) {
+        copy_cut("1", network.Enable, sizeof(network.Enable));
     }
-}
-
-void fill_wlan(unsigned number, DevWlanEntry &wlan) {
-    constexpr unsigned wlans_of_a_radio = ROUTERDB_WLANS / 2;
-    fill(default_wlan, &wlan);
-    copy_cut(leads_its_radio(number) ? "1" : "0", wlan.Enable, sizeof(wlan.Enable));
-    const bool second = number >= wlans_of_a_radio;
-    std::snprintf(wlan.Ssid, sizeof(wlan.Ssid), second ? "WLAN_2_%u" : "WLAN%u", number % wlans_of_a_radio);
+    const bool second = number >= of_a_radio;
+    std::snprintf(network.Ssid, sizeof(network.Ssid), second ? "WLAN_2_%u" : "WLAN%u", number % of_a_radio);
 }
 
 /// The first column of the first row, read under the lock file.
@@ -111,22 +81,20 @@ void insert_group(const DevInfo &group, int id) {
 }
 
 void append_update(Text &sql, const DevInfo &group, int id) {
-    const Scope whole = scope_of(group, "WlanGroup_", as_given);
-    const Scope first = scope_of_radio(group, "WlanGroup_Wlan_", false, as_given);
-    const Scope second = scope_of_radio(group, "WlanGroup_Wlan_", true, as_given);
+    const Assignments assignments(sql, group, Table::zero_config_groups, Quotes::as_given, nullptr);
     sql.append("update WlanZeroCfgGroupInfo set ");
-    append_fragment(sql, saved_name, whole);
+    assignments.append(device_part, saved_name);
     for (unsigned number = 0; number < ROUTERDB_WLANS; ++number) {
-        append_fragments(sql, settings_of_wlan, scope_of_wlan(group, "WlanGroup_Wlan", number, as_given, nullptr));
+        assignments.append_settings(network_part(number));
     }
-    append_fragments(sql, saved_radio_head, first);
-    append_fragments(sql, saved_radius, whole);
-    append_fragments(sql, saved_radio, first);
-    append_fragment(sql, saved_threshold, first);
-    append_fragments(sql, saved_radio_head, second);
-    append_fragments(sql, saved_radio, second);
-    append_fragments(sql, saved_reboot, whole);
-    append_fragment(sql, saved_second_threshold, second);
+    assignments.append_each(first_radio, saved_radio_head);
+    assignments.append_each(device_part, saved_radius);
+    assignments.append_each(first_radio, saved_radio);
+    assignments.append(first_radio, saved_threshold);
+    assignments.append_each(second_radio, saved_radio_head);
+    assignments.append_each(second_radio, saved_radio);
+    assignments.append_each(device_part, saved_reboot);
+    assignments.append(second_radio, saved_second_threshold);
     sql.append("  where WlanGroup_Id=").append_quoted(long{id}).append(" ");
 }
 
@@ -141,12 +109,16 @@ void fill_with_defaults(DevInfo &group) {
     SharedConnection connection;
     const int number = next_group(connection, first_group_number(connection));
     std::snprintf(group.wlan_group_name, sizeof(group.wlan_group_name), "ZeroCfgGROUP_NAME%d", number);
-    fill(default_device, &group);
-    for (unsigned wlan = 0; wlan < ROUTERDB_WLANS; ++wlan) {
-        fill_wlan(wlan, group.wlan[wlan]);
+    for (const Part &part : parts) {
+        for (const members::Member &member : members_of(part)) {
+            if (*member.initially != '\0') {
+                copy_cut(member.initially, field_of(group, part, member), member.width);
+            }
+        }
+        if (part.kind == members::Kind::network) {
+            start_network(part.number, group.wlan[part.number]);
+        }
     }
-    fill(default_radio, &group);
-    fill(default_radio, reinterpret_cast<char *>(&group) + second_radio);
 }
 
 int read_or_start_zero_config(DevInfo &group, const char *id_text) {

@@ -55,14 +55,14 @@ Text &Text::append(unsigned long number) {
 Text &Text::append_quoted(std::string_view value, Quotes quotes) {
     append("'");
     if (quotes == Quotes::doubled) {
-        append_escaped(value);
+        append_doubled(value);
     } else {
         append(value);
     }
     return append("'");
 }
 
-Text &Text::append_escaped(std::string_view value) {
+Text &Text::append_doubled(std::string_view value) {
     while (const void *quote = std::memchr(value.data(), '\'', value.size())) {
         const std::size_t size = static_cast<std::size_t>(static_cast<const char *>(quote) - value.data()) + 1;
         append({value.data(), size}).append("'");

@@ -48,9 +48,6 @@ public:
     Text &append_quoted(long number) { return append("'").append(number).append("'"); }
     Text &append_quoted(unsigned long number) { return append("'").append(number).append("'"); }
 
-    /// Appends what stands inside single quotes, its own doubled.
-    Text &append_escaped(std::string_view value);
-
     /// Begins anew in the same room. A text that memory ran out for stays so.
     void clear() {
         length_ = 0;
@@ -71,6 +68,7 @@ protected:
     ~Text();
 
 private:
+    Text &append_doubled(std::string_view value);
     bool make_room(std::size_t size);
 
     char *data_;
