@@ -42,8 +42,20 @@
 extern "C" {
 #endif
 
-/// Marks what the library exports.
+/// Marks what the library exports. SWIG stops at attributes.
+#ifdef SWIG
+#define ROUTERDB_API
+#else
 #define ROUTERDB_API __attribute__((visibility("default")))
+#endif
+
+/// A place in a file, as wide as the library takes it: the default off_t of the C library, also in a 32-bit program
+/// that has a wider one through _FILE_OFFSET_BITS=64.
+#ifdef __GLIBC__
+typedef __off_t routerdb_off_t;
+#else
+typedef off_t routerdb_off_t;
+#endif
 
 /// An SQLite connection, as <sqlite3.h> declares it.
 typedef struct sqlite3 sqlite3;
@@ -64,7 +76,7 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 /// @param len     length in bytes; 0 means up to the end of the file, however long it grows
 /// @return the result of fcntl, with errno as it left it
 /// @note Thread-safe; the lock belongs to the process.
-ROUTERDB_API int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len);
+ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int whence, routerdb_off_t len);
 
 /// Opens the database lock file, which must exist, and waits for a write lock on the whole of it.
 /// @return the lock handle, a descriptor to be given to free_db_lock(); -1 if the file cannot be opened, after

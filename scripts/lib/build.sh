@@ -6,8 +6,12 @@ checkout=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)
 # What every build needs.
 build_packages=(build-essential cmake ninja-build libsqlite3-dev sqlite3 bubblewrap)
 
+# Programs that bring the header to other languages; their packages have the same names.
+header_readers=(bindgen castxml luajit python3 swig)
+
 # What the tests need beyond that.
-test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 lib32stdc++-12-dev nlohmann-json3-dev)
+test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 lib32stdc++-12-dev nlohmann-json3-dev
+    "${header_readers[@]}")
 
 # Prints what builds for another architecture need beyond that: the architecture is what a preset begins with.
 architecture_packages() {

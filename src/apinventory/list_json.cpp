@@ -20,9 +20,9 @@ constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wordin
 enum Given : std::uint8_t { serial_number, stations, no_group_name };
 
 /// The column of a member, cut as the record would cut it. Only the columns that are printed are read.
-constexpr json::Value shown(std::string_view member, const Part &part = device_part) {
-    const DeviceColumn column = device_column(member, part);
-    return json::column_text(column.column, static_cast<std::uint16_t>(column.width - 1));
+constexpr json::Value shown(std::string_view name, const Part &part = device_part) {
+    const DeviceColumn column = device_column(name, part);
+    return json::column_text(column.number, column.width - 1);
 }
 
 // Deliberate: the closing element has fewer keys.
@@ -36,35 +36,35 @@ constexpr json::Key keys[] = {
     {"m_onlinetime", shown("Dev_OnlineTime")},
     {"m_sw_ver", shown("Dev_SwVer")},
     {"m_sw_name", shown("Dev_SwName")},
-    {"m_channel", shown("Channel", radio_part(0))},
-    {"m_current_channel", shown("Current_Channel", radio_part(0)), json::not_in_closing},
+    {"m_channel", shown("Channel", first_radio)},
+    {"m_current_channel", shown("Current_Channel", first_radio), json::not_in_closing},
     {"m_stanum", json::given(stations, 20)},
     {"m_dev_status", shown("Dev_Status")},
     {"m_dev_upgrade_status", shown("Dev_Upgrade_Status")},
     {"m_wlan_group_name", json::given(no_group_name, 3)},
     {"m_wlan_radio_num", shown("Dev_Wlan_Radio_Num")},
-    {"m_channel_sec", shown("Channel", radio_part(1))},
-    {"m_current_channel_sec", shown("Current_Channel", radio_part(1)), json::not_in_closing},
+    {"m_channel_sec", shown("Channel", second_radio)},
+    {"m_current_channel_sec", shown("Current_Channel", second_radio), json::not_in_closing},
     {"m_TimeRebootEnable", shown("Dev_RebootTime_Enable")},
     {"m_RebootTime", shown("Dev_RebootTime")},
     {"m_CurrentTime", shown("Dev_CurrentDateTime")},
     {"m_dev_modelname", shown("Dev_Model_Name")},
-    {"m_wlan_txpower", shown("Txpower", radio_part(0))},
-    {"m_wlan_txpower_sec", shown("Txpower", radio_part(1))},
+    {"m_wlan_txpower", shown("Txpower", first_radio)},
+    {"m_wlan_txpower_sec", shown("Txpower", second_radio)},
     {"m_wlan_ssid", shown("Ssid", network_part(0)), json::not_in_closing},
     {"m_wlan_ssid_sec", shown("Ssid", network_part(4)), json::not_in_closing},
 };
 // clang-format on
 
-int number_of(const Row &row, DeviceColumn field) {
-    return number_in(field_text(row.text(field.column), field.width - 1U));
+int number_of(const Row &row, DeviceColumn column) {
+    return number_in(field_text(row.text(column.number), column.width - 1U));
 }
 
 /// The stations of both radios, or of the first one unless the access point has eight networks.
 long stations_of(const Row &row) {
     constexpr DeviceColumn networks = device_column("Dev_Wlan_Radio_Num");
-    constexpr DeviceColumn of_first_radio = device_column("Sta_Num", radio_part(0));
-    constexpr DeviceColumn of_second_radio = device_column("Sta_Num", radio_part(1));
+    constexpr DeviceColumn of_first_radio = device_column("Sta_Num", first_radio);
+    constexpr DeviceColumn of_second_radio = device_column("Sta_Num", second_radio);
     constexpr int networks_of_two_radios = 8;
     const int first = number_of(row, of_first_radio);
     return number_of(row, networks) == networks_of_two_radios ? first + number_of(row, of_second_radio) : first;
@@ -75,7 +75,10 @@ void print_device(json::List &list, const Row &row) {
     serial_number_text.append(static_cast<unsigned long>(static_cast<std::uint32_t>(row.unsigned_number(0))));
     StackText<24> stations_text;
     stations_text.append(stations_of(row));
-    const std::string_view given[] = {serial_number_text.view(), stations_text.view(), "N/A"};
+    std::string_view given[no_group_name + 1];
+    given[serial_number] = serial_number_text.view();
+    given[stations] = stations_text.view();
+    given[no_group_name] = "N/A";
     list.print(row, given);
 }
 

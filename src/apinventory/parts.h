@@ -56,10 +56,9 @@ constexpr const Part &network_part(unsigned number) {
     return parts[1 + number];
 }
 
-constexpr const Part &radio_part(unsigned number) {
-    return parts[1 + ROUTERDB_WLANS + number];
-}
-static_assert(&radio_part(1) + 1 == parts + sizeof(parts) / sizeof(*parts));
+inline constexpr const Part &first_radio = parts[1 + ROUTERDB_WLANS];
+inline constexpr const Part &second_radio = parts[2 + ROUTERDB_WLANS];
+static_assert(&second_radio + 1 == parts + sizeof(parts) / sizeof(*parts));
 
 /// The first network of each radio: their SSIDs are never converted, everywhere.
 constexpr bool leads_its_radio(const Part &network) {
@@ -98,7 +97,7 @@ constexpr std::uint8_t column_of(Table in, const Part &part, const members::Memb
 
 /// A column of `DevInfo` and the width of its member, for those who show it without a record.
 struct DeviceColumn {
-    std::uint8_t column;
+    std::uint8_t number;
     std::uint8_t width;
 };
 

@@ -74,8 +74,8 @@ void append_report(Text &sql, Report report, const DevInfo &device) {
     for (unsigned number = 0; number < networks; ++number) {
         assignments.append_reported(network_part(number));
     }
-    assignments.append_reported(radio_part(0));
-    assignments.append_reported(radio_part(1));
+    assignments.append_reported(first_radio);
+    assignments.append_reported(second_radio);
     if (report != Report::saved) {
         sql.append(" Dev_Status='1',  Dev_Upgrade_Status='0', ");
     }
@@ -91,8 +91,8 @@ void append_configuration(Text &sql, const DevInfo &device) {
     for (unsigned number = 0; number < networks; ++number) {
         assignments.append_settings(network_part(number));
     }
-    append_configured_radio(assignments, radio_part(0), field_text(device.Dev_Wlan_Txpower));
-    append_configured_radio(assignments, radio_part(1), field_text(device.Dev_Wlan_Txpower_sec));
+    append_configured_radio(assignments, first_radio, field_text(device.Dev_Wlan_Txpower));
+    append_configured_radio(assignments, second_radio, field_text(device.Dev_Wlan_Txpower_sec));
     sql.append(" Dev_Status='1'   where Dev_Sn=")
         .append_quoted(static_cast<unsigned long>(device.Dev_Sn))
         .append("  ;");

@@ -63,21 +63,19 @@ void insert_group(const DevInfo &group, int id) {
 
 void append_update(Text &sql, const DevInfo &group, int id) {
     const Assignments assignments(sql, group, Table::zero_config_groups, Quotes::as_given, nullptr);
-    const Part &first = radio_part(0);
-    const Part &second = radio_part(1);
     sql.append("update WlanZeroCfgGroupInfo set ");
     assignments.append(device_part, saved_name);
     for (unsigned number = 0; number < ROUTERDB_WLANS; ++number) {
         assignments.append_settings(network_part(number));
     }
-    assignments.append_each(first, saved_radio_head);
+    assignments.append_each(first_radio, saved_radio_head);
     assignments.append_each(device_part, saved_radius);
-    assignments.append_each(first, saved_radio);
-    assignments.append(first, saved_threshold);
-    assignments.append_each(second, saved_radio_head);
-    assignments.append_each(second, saved_radio);
+    assignments.append_each(first_radio, saved_radio);
+    assignments.append(first_radio, saved_threshold);
+    assignments.append_each(second_radio, saved_radio_head);
+    assignments.append_each(second_radio, saved_radio);
     assignments.append_each(device_part, saved_reboot);
-    assignments.append(second, saved_second_threshold);
+    assignments.append(second_radio, saved_second_threshold);
     sql.append("  where WlanGroup_Id=").append_quoted(long{id}).append(" ");
 }
 

@@ -18,7 +18,7 @@ using namespace routerdb;
 pthread_mutex_t db_mutex = PTHREAD_MUTEX_INITIALIZER;
 
 int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len) {
-    return set_record_lock(fd, cmd, type, offset, whence, len);
+    return set_record_lock(fd, own_command(cmd), type, offset, whence, len);
 }
 
 int get_db_lock() {

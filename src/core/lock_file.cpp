@@ -9,6 +9,22 @@
 
 namespace routerdb {
 
+int own_command(int cmd) {
+#if defined(F_SETLK64) && F_SETLK64 != F_SETLK
+    switch (cmd) {
+        case F_GETLK64:
+            return F_GETLK;
+        case F_SETLK64:
+            return F_SETLK;
+        case F_SETLKW64:
+            return F_SETLKW;
+        default:
+            break;
+    }
+#endif
+    return cmd;
+}
+
 int set_record_lock(int fd, int cmd, int type, off_t offset, int whence, off_t len) {
     struct flock lock {};
     lock.l_type = static_cast<decltype(lock.l_type)>(type);

@@ -10,6 +10,10 @@ namespace routerdb {
 static_assert(sizeof(off_t) == sizeof(__off_t), "callers pass a default off_t: build without _FILE_OFFSET_BITS=64");
 #endif
 
+/// The number that a locking command has here. In a 32-bit program that has a wider off_t through _FILE_OFFSET_BITS=64
+/// it has another one, which would have fcntl read a wider record.
+int own_command(int cmd);
+
 /// fcntl with a record lock put together from the arguments.
 int set_record_lock(int fd, int cmd, int type, off_t offset, int whence, off_t len);
 
