@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "routerdb.h"
-#include "rules/golden/golden.h"
+#include "rules/golden/samples.h"
 #include "support/database.h"
 #include "support/record.h"
 #include "support/streams.h"
@@ -39,6 +39,6 @@ TEST_P(FoundTimeGroup, holds_the_row_and_nothing_else) {
     EXPECT_EQ(difference(GetParam().record, group), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(, FoundTimeGroup, testing::ValuesIn(golden::user_timegroup().built));
+INSTANTIATE_TEST_SUITE_P(, FoundTimeGroup, testing::ValuesIn(golden::built(golden::table("user_timegroup"))));
 
 }  // namespace

@@ -1,12 +1,15 @@
 // The list builders: what they call, wait for, say and leave.
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <cstdio>
+#include <set>
 #include <thread>
 
 #include "rules/golden/golden.h"
 #include "support/database.h"
+#include "support/exported_names.h"
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/streams.h"
@@ -147,8 +150,8 @@ TEST_P(Builder, without_the_lock_file_draws_its_delay_and_leaves_the_list_cleare
     const Recorder recorder;
     std::string list;
     const auto streams = support::streams_of([&] { list = build(); });
-    EXPECT_EQ(streams.output, GetParam().without_lock_file.output);
-    EXPECT_EQ(streams.error, GetParam().without_lock_file.error);
+    EXPECT_EQ(streams.output, GetParam().messages.without_lock_file.output);
+    EXPECT_EQ(streams.error, GetParam().messages.without_lock_file.error);
     EXPECT_EQ(difference(list_of_none(), list), "");
     EXPECT_EQ(recorder.calls(), (Lines{"gettimeofday", "srand", "rand", "open lock file"}));
     EXPECT_FALSE(support::file_exists(support::lock_file));
@@ -160,8 +163,8 @@ TEST_P(Builder, a_database_that_cannot_be_opened_leaves_the_list_cleared) {
     const Recorder recorder;
     std::string list;
     const auto streams = support::streams_of([&] { list = build(); });
-    EXPECT_EQ(streams.output, GetParam().without_database.output);
-    EXPECT_EQ(streams.error, GetParam().without_database.error);
+    EXPECT_EQ(streams.output, GetParam().messages.without_database.output);
+    EXPECT_EQ(streams.error, GetParam().messages.without_database.error);
     EXPECT_EQ(difference(list_of_none(), list), "");
     EXPECT_EQ(recorder.calls({"sqlite3", "usleep", "lock", "unlock", "close"}),
               (Lines{"lock", "sqlite3_open /etc/config/systemconf/database/myrouter.db", "sqlite3_close", "unlock",
@@ -174,8 +177,8 @@ TEST_P(Builder, a_query_that_cannot_be_prepared_leaves_the_list_cleared) {
     const Recorder recorder;
     std::string list;
     const auto streams = support::streams_of([&] { list = build("select * from nowhere;"); });
-    EXPECT_EQ(streams.output, GetParam().without_table.output);
-    EXPECT_EQ(streams.error, GetParam().without_table.error);
+    EXPECT_EQ(streams.output, GetParam().messages.without_table.output);
+    EXPECT_EQ(streams.error, GetParam().messages.without_table.error);
     EXPECT_EQ(difference(list_of_none(), list), "");
     EXPECT_EQ(recorder.calls({"sqlite3_close", "usleep", "lock", "unlock", "close"}),
               (Lines{"lock", "sqlite3_close", "unlock", "close lock file"}));
@@ -198,5 +201,18 @@ TEST_P(Builder, holds_the_lock_file_while_it_reads) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, Builder, testing::ValuesIn(golden::tables()));
+
+TEST(ListBuilders, are_those_of_the_tables_that_the_tests_know) {
+    std::set<const void *> known;
+    for (const Table &table : golden::tables()) {
+        known.insert(table.build.function());
+    }
+    std::size_t exported = 0;
+    for (const std::string &name : support::exported_names("Get\\w+ListInServer")) {
+        EXPECT_EQ(known.count(dlsym(RTLD_DEFAULT, name.c_str())), 1U) << name << " has no golden data";
+        ++exported;
+    }
+    EXPECT_EQ(exported, known.size());
+}
 
 }  // namespace

@@ -112,7 +112,7 @@ TEST_P(Client, without_a_service_lists_and_records_are_empty_and_changes_vanish)
     });
     EXPECT_EQ(streams.output, "");
     std::string failures;  // one for each request: list, get, add, modify, delete
-    for (int n = 0; n < 3 + GetParam().add_requests + GetParam().modify_requests; ++n) {
+    for (int n = 0; n < 3 + GetParam().add_requests() + GetParam().modify_requests(); ++n) {
         failures += "cannot connect sql socket client: No such file or directory\n";
     }
     EXPECT_EQ(streams.error, failures);

@@ -2,72 +2,87 @@
 #include <gtest/gtest.h>
 
 #include "routerdb.h"
-#include "rules/golden/golden.h"
+#include "rules/golden/samples.h"
 #include "support/fake_service.h"
 
 namespace {
 
 using golden::execute;
-using golden::Golden;
-using golden::Operation;
+using golden::filled;
 using golden::query;
 using golden::Table;
 
+/// A client operation and the requests that it sends.
+struct Operation : support::Named {
+    std::function<void()> run;
+    std::vector<std::string> requests;
+};
+
 void add_reading(std::vector<Operation> &operations, const Table &table) {
-    const auto list = [table] { table.list(std::string(table.list_size, '\0').data()); };
-    const auto get = [table](int id) {
-        return [table, id] { table.get(id, std::string(table.record_size, '\0').data()); };
-    };
+    const auto list = [&table] { table.list(std::string(table.list_size, '\0').data()); };
     operations.push_back({table.name + " list", list, {query(table.id, table.list_query)}});
-    operations.push_back({table.name + " get", get(7), {query(table.id, table.get_query)}});
-    operations.push_back(
-        {table.name + " get with the lowest id", get(golden::lowest), {query(table.id, table.lowest_query)}});
-}
-
-void add_changing(std::vector<Operation> &operations, const Table &table, const golden::Sample &sample) {
-    const auto call = [&](const std::function<void(golden::Pointer)> &operation) {
-        return [operation, record = sample.record] { operation(record.data()); };
-    };
-    const auto behind = [&](std::vector<std::string> requests, const std::string &statement) {
-        requests.push_back(execute(table.id, statement));
-        return requests;
-    };
-    operations.push_back(
-        {table.name + " add: " + sample.name, call(table.add), behind(sample.before_insert, sample.insert)});
-    operations.push_back(
-        {table.name + " modify: " + sample.name, call(table.modify), behind(sample.before_update, sample.update)});
-}
-
-void add_removing(std::vector<Operation> &operations, const Table &table) {
-    if (!table.remove) {
-        return;
+    for (const int id : {7, golden::lowest}) {
+        const std::string name = std::to_string(id);
+        const auto get = [&table, id] { table.get(id, std::string(table.record_size, '\0').data()); };
+        operations.push_back(
+            {table.name + " get " + name, get, {query(table.id, filled(table.get_query, "id", name))}});
     }
-    const auto add = [&](const std::string &name, const char *condition, const std::string &sent) {
-        const std::string copy = condition != nullptr ? condition : "";
-        const auto remove = [table, copy, null = condition == nullptr] { table.remove(null ? nullptr : copy.c_str()); };
-        operations.push_back({table.name + " delete" + name,
-                              remove,
-                              {execute(table.remove_id, table.remove_until_condition + sent + ";")}});
+}
+
+void add_changing(std::vector<Operation> &operations, const Table &table) {
+    for (const golden::Sample &sample : golden::samples(table)) {
+        const auto call = [&](const golden::Write &operation) {
+            return [&operation, record = sample.record] { operation(record.data()); };
+        };
+        operations.push_back({table.name + " add: " + sample.name, call(table.add), sample.add});
+        operations.push_back({table.name + " modify: " + sample.name, call(table.modify), sample.modify});
+    }
+}
+
+void add_removing_where(std::vector<Operation> &operations, const Table &table) {
+    const auto add = [&](const std::string &name, const std::function<void()> &remove, const std::string &condition) {
+        const std::string statement = filled(table.removal, "condition", condition);
+        operations.push_back({table.name + " delete " + name, remove, {execute(table.remove_id, statement)}});
     };
-    // The room that a statement has at first is 2560 bytes.
-    const std::string long_condition = "name='" + std::string(4000, 'n') + "'";
-    const std::string longer_condition = "name='" + std::string(60'000, 'n') + "'";
-    add("", "id='3' or id='7'", "id='3' or id='7'");
-    add(" with a long condition", long_condition.c_str(), long_condition);
-    add(" with a longer condition", longer_condition.c_str(), longer_condition);
-    add(" with an empty condition", "", "");
-    add(" without a condition", nullptr, "");
+    for (const auto &[name, condition] : {
+             std::pair<const char *, std::string>{"two rows", "id='3' or id='7'"},
+             {"with a long condition", "name='" + std::string(4000, 'n') + "'"},
+             {"with a longer condition", "name='" + std::string(60'000, 'n') + "'"},
+             {"with an empty condition", ""},
+         }) {
+        add(
+            name, [&table, condition = condition] { table.remove(condition.c_str()); }, condition);
+    }
+    add(
+        "without a condition", [&table] { table.remove(nullptr); }, "");
+    if (table.remove_of_kind) {
+        for (const int kind : {1, 2, 0}) {
+            add(
+                "by id, kind " + std::to_string(kind), [&table, kind] { table.remove_of_kind("id='1'", kind); },
+                "id='1'");
+        }
+    }
+}
+
+void add_removing_row(std::vector<Operation> &operations, const Table &table) {
+    for (const int id : {7, 0, golden::lowest, golden::highest}) {
+        const std::string name = std::to_string(id);
+        operations.push_back({table.name + " delete " + name,
+                              [&table, id] { table.remove_row(id); },
+                              {execute(table.remove_id, filled(table.removal, "id", name))}});
+    }
 }
 
 std::vector<Operation> operations() {
     std::vector<Operation> operations;
-    for (const Golden &golden : golden::all()) {
-        add_reading(operations, golden.table);
-        for (const golden::Sample &sample : golden.samples) {
-            add_changing(operations, golden.table, sample);
+    for (const Table &table : golden::tables()) {
+        add_reading(operations, table);
+        add_changing(operations, table);
+        table.remove ? add_removing_where(operations, table) : add_removing_row(operations, table);
+        if (table.remove_all) {
+            operations.push_back(
+                {table.name + " delete all", table.remove_all, {execute(table.remove_id, table.removal_of_all)}});
         }
-        add_removing(operations, golden.table);
-        operations.insert(operations.end(), golden.others.begin(), golden.others.end());
     }
     return operations;
 }

@@ -116,8 +116,8 @@ TEST_P(HostNames, are_missing_in_the_eighth_list_that_one_process_builds) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, HostNames,
-                         testing::Values(Rules{"filter_mac", golden::filter_mac().table, 304, 154},
-                                         Rules{"behavior_rule", golden::behavior_rule().table, 1228, 8}));
+                         testing::Values(Rules{"filter_mac", golden::table("filter_mac"), 304, 154},
+                                         Rules{"behavior_rule", golden::table("behavior_rule"), 1228, 8}));
 
 /// Each lookup takes more than a millisecond, so the lists are short.
 class ManyHostNames : public HostNames {
@@ -135,6 +135,6 @@ TEST_P(ManyHostNames, are_served_whole_in_a_thousand_lists) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, ManyHostNames, testing::Values(Rules{"filter_mac", golden::filter_mac().table, 304, 154}));
+INSTANTIATE_TEST_SUITE_P(, ManyHostNames, testing::Values(Rules{"filter_mac", golden::table("filter_mac"), 304, 154}));
 
 }  // namespace

@@ -1,7 +1,7 @@
 // The way of rules through the service, there and back.
 #include <gtest/gtest.h>
 
-#include "rules/golden/golden.h"
+#include "rules/golden/samples.h"
 #include "support/database.h"
 #include "support/record.h"
 #include "support/service.h"

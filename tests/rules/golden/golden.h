@@ -1,143 +1,120 @@
-// What the tests know of each rule table, in literal statements and literal offsets. One file per table.
+// What the tests know of each rule table: its places in table and record, by number, and its statements, in words. One
+// file per table. Rows, records and statements of all kinds come from it, and nothing from the library's own tables.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "rules/golden/operations.h"
+#include "rules/golden/place.h"
 #include "support/named.h"
 #include "support/streams.h"
 
 namespace golden {
 
-inline constexpr std::int32_t lowest = -2147483648;
-inline constexpr std::int32_t highest = 2147483647;
-
-inline std::string of(std::size_t count, char letter) {
-    return std::string(count, letter);
-}
-
-/// So many characters, a number at their end.
-inline std::string numbered(std::size_t count, char letter, int n) {
-    const std::string number = std::to_string(n);
-    return of(count - number.size(), letter) + number;
-}
-
-/// A record or a list, whatever its structure.
-class Pointer {
-public:
-    Pointer(const void *place) : place_(place) {}
-
-    template <typename Structure>
-    operator Structure *() const {
-        return static_cast<Structure *>(const_cast<void *>(place_));
-    }
-
-private:
-    const void *place_;
+/// Where a record holds what it takes from its time group: the group's name, a copy of the group, of which it may carry
+/// the beginning only, and a flag that its times are known, if it has one.
+struct TimeGroupPlaces {
+    std::size_t name;
+    std::size_t group;
+    std::size_t size = 380;
+    std::optional<std::size_t> known{};
 };
+
+/// Where a record holds what it takes from its IP group. The group's range takes the place of the rule's own where that
+/// is carried without a group only.
+struct IpGroupPlaces {
+    std::size_t name;
+    std::size_t group;
+};
+
+/// Where a record holds the names of its applications in both languages, 2048 bytes each.
+struct NamePlaces {
+    std::size_t names;
+    std::size_t names_en;
+};
+
+/// What a builder says: without the lock file, without the database, with a query of the table "nowhere".
+struct Messages {
+    support::Streams::Text without_lock_file;
+    support::Streams::Text without_database;
+    support::Streams::Text without_table;
+};
+
+inline const Messages common_messages{{"cannot open /var/databaselock!\n", ""},
+                                      {"Error: unable to open database file", ""},
+                                      {"Error: no such table: nowhere", ""}};
+inline const Messages detailed_messages{
+    {"", "cannot open /var/databaselock!\n"},
+    {"", "cannot open /etc/config/systemconf/database/myrouter.db, ErrorCode: 14!\n"},
+    {"cannot prepare sql cmdline, Error: no such table: nowhere\n", ""}};
 
 struct Table : support::Named {
     std::uint32_t id;
     std::size_t record_size;
     std::size_t list_size;
+    Places places{};  // in the order of the columns
 
-    std::function<void(Pointer)> list{};
-    std::function<void(int, Pointer)> get{};
-    std::function<void(Pointer)> add{};
-    std::function<void(Pointer)> modify{};
-    int add_requests = 1;
-    int modify_requests = 1;
-    bool long_statements = false;                // those of row 1 outgrow the room that a statement has at first
-    std::function<void(const char *)> remove{};  // by a condition; some tables have none
-    std::function<void(int)> remove_row{};       // those that have none: by an id
-    std::function<int(Pointer, const char *)> build{};
+    Read list{};
+    ReadOne get{};
+    Write add{};
+    Write modify{};
+    Build build{};
 
-    /// Row number n: the statement that inserts it, and its record in a list. Every row is another one.
-    std::string (*row)(int n) = nullptr;
-    std::string (*record)(int n) = nullptr;
+    // A removal that a table does not have is empty.
+    RemoveWhere remove{};
+    RemoveOfKind remove_of_kind{};
+    RemoveRow remove_row{};  // of tables that do not remove by a condition
+    RemoveAll remove_all{};
 
-    /// Rows 1 to n in one transaction, and their records.
-    std::string inserts(int n) const;
+    // "{name}" stands for the value of that column, "{condition}" for the one that is given.
+    std::string list_query{};
+    std::string get_query{};
+    std::string insert{};
+    std::string update{};
+    std::string removal{};
+    std::string removal_of_all{};
+    std::uint32_t remove_id = id;                    // table id that removals go under
+    std::vector<std::string> asked_before_insert{};  // scalar queries
+    std::vector<std::string> asked_before_update{};
+
+    std::optional<TimeGroupPlaces> time_group{};
+    std::optional<IpGroupPlaces> ip_group{};
+    std::optional<std::size_t> host_name{};  // of the address in the column "devmac"
+    std::optional<NamePlaces> names{};       // of the applications in the column "behavior_info"
+
+    Messages messages = common_messages;
+
+    /// Row number n. Every row is another one, and has times and addresses of its own.
+    Values row(int n) const;
+
+    /// The record of such a row, and of rows 1 to n.
+    std::string record(int n) const;
     std::string records(int n) const;
+
+    /// Inserts rows 1 to n in one transaction.
+    std::string inserts(int n) const;
+
+    /// An add, or a modify, and what it asks first.
+    int add_requests() const { return 1 + static_cast<int>(asked_before_insert.size()); }
+    int modify_requests() const { return 1 + static_cast<int>(asked_before_update.size()); }
 
     /// Removes row 1.
     void remove_first() const;
-
-    std::string list_query{};
-    std::string get_query{};     // of row 7
-    std::string lowest_query{};  // of row -2147483648
-    std::string remove_until_condition{};
-    std::uint32_t remove_id = id;  // table id that removals go under
-
-    /// What the builder says: without the lock file, without the database, with a query of the table "nowhere".
-    support::Streams::Text without_lock_file{"cannot open /var/databaselock!\n", ""};
-    support::Streams::Text without_database{"Error: unable to open database file", ""};
-    support::Streams::Text without_table{"Error: no such table: nowhere", ""};
 };
 
-/// A caller's record and the statements that add and modify make of it.
-struct Sample : support::Named {
-    std::string record;
-    std::string insert;
-    std::string update;
-    std::vector<std::string> before_insert{};  // requests that an add sends first
-    std::vector<std::string> before_update{};
-};
-
-/// A client operation and the requests that it sends.
-struct Operation : support::Named {
-    std::function<void()> run;
-    std::vector<std::string> requests;
-};
-
-/// One request, as support::readable() shows it.
-std::string query(std::uint32_t table_id, const std::string &text);
-std::string execute(std::uint32_t table_id, const std::string &text);
-
-/// Statements that leave one row in a table, and the record that the builder makes of it.
-struct Built : support::Named {
-    std::string rows;
-    std::string record;
-    std::string leases{};     // content of the lease file, which is not made without
-    std::string catalogue{};  // statements for the catalogue database
-
-    void prepare() const;
-};
-
-struct Golden {
-    Table table;
-    std::vector<Sample> samples;
-    std::vector<Operation> others;  // operations that not every table has
-    std::vector<Built> built;
-};
-
-/// A row and its table.
-struct Row : support::Named {
-    Table table;
-    Built built;
-};
-
-Golden filter_url();
-Golden user_timegroup();
-Golden acl(int number);
-Golden domain_ip();
-Golden famliymember();
-Golden forword_ipport();
-Golden smartqos_whitelist();
-Golden user_ipgroup();
-Golden user_urlinfo();
-Golden dhcpserverstaticbind();
-Golden filter_mac();
-Golden filter_ipport();
-Golden qos_rule();
-Golden behavior_rule();
+// The tables of each file.
+#define TABLE(name) std::vector<Table> name();
+#include "golden_tables.inc"
+#undef TABLE
 
 /// All of them.
-std::vector<Golden> all();
-std::vector<Table> tables();
-std::vector<Row> rows();
+const std::vector<Table> &tables();
+
+/// The one with a name.
+const Table &table(const std::string &name);
 
 }  // namespace golden

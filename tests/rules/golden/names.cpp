@@ -29,35 +29,64 @@ std::string catalogue() {
            "','fitting');";
 }
 
+struct Text {
+    std::size_t offset;
+    std::string text;
+};
+
+/// Row 8 with one column given, and its record with some texts.
+Built named(const Table &table, const std::string &name, const char *column, const std::string &sql,
+            const std::vector<Text> &texts) {
+    const Values values = changed(table.places, plain_values(table), {{column, ""}});
+    Record record = built_record(table, values);
+    for (const Text &text : texts) {
+        record.text(text.offset, text.text);
+    }
+    return built_of(table, name, changed(table.places, as_sql(table.places, values), {{column, sql}}), record);
+}
+
 }  // namespace
 
-std::vector<Built> with_host_names(const InsertValue &insert, const Record &record, const HostPlaces &places) {
-    const auto named = [&](const char *mac, const std::string &name) {
-        return Record(record).text(places.mac, mac).text(places.name, name).bytes();
+std::vector<Built> with_host_names(const Table &table) {
+    if (!table.host_name) {
+        return {};
+    }
+    const std::size_t mac_offset = table.places[index_of(table.places, "devmac")].offset;
+    const auto host = [&](const char *name, const std::string &sql, const char *mac, const std::string &host_name,
+                          const std::string &lease_file) {
+        Built row = named(table, name, "devmac", sql, {{mac_offset, mac}, {*table.host_name, host_name}});
+        row.leases = lease_file;
+        return row;
     };
-    constexpr char mac[] = "00:11:22:33:44:55";
-    const std::string tablet = insert("'00:11:22:33:44:55'");
-    const std::string television = insert("'AA:BB:CC:DD:EE:FF'");
+    constexpr char known_mac[] = "00:11:22:33:44:55";
+    const std::string tablet = "'00:11:22:33:44:55'";
+    const std::string television = "'AA:BB:CC:DD:EE:FF'";
     return {
-        {"host name, the first of its address", tablet, named(mac, "tablet"), leases},
-        {"host name of a lease in lower case", television, named("AA:BB:CC:DD:EE:FF", "电视"), leases},
-        {"host name of a rule in lower case", insert("'aa:bb:cc:dd:ee:ff'"), named("aa:bb:cc:dd:ee:ff", ""), leases},
-        {"host name that the lease lacks", insert("'AA:BB:CC:00:00:01'"), named("AA:BB:CC:00:00:01", ""), leases},
-        {"host name of an unknown address", tablet, named(mac, ""), other_lease},
-        {"host name of 127 characters", tablet, named(mac, of(127, 'h')), lease_of(of(127, 'h'))},
-        {"host name beyond 127 characters", tablet, named(mac, of(127, 'h')), lease_of(of(180, 'h'))},
-        {"host name of no address", insert("''"), named("", ""), lease_of("tablet")},
-        {"host name of a NULL address, without leases", insert("null"), named("", "")},
+        host("host name, the first of its address", tablet, known_mac, "tablet", leases),
+        host("host name of a lease in lower case", television, "AA:BB:CC:DD:EE:FF", "电视", leases),
+        host("host name of a rule in lower case", "'aa:bb:cc:dd:ee:ff'", "aa:bb:cc:dd:ee:ff", "", leases),
+        host("host name that the lease lacks", "'AA:BB:CC:00:00:01'", "AA:BB:CC:00:00:01", "", leases),
+        host("host name of an unknown address", tablet, known_mac, "", other_lease),
+        host("host name of 127 characters", tablet, known_mac, of(127, 'h'), lease_of(of(127, 'h'))),
+        host("host name beyond 127 characters", tablet, known_mac, of(127, 'h'), lease_of(of(180, 'h'))),
+        host("host name of no address", "''", "", "", lease_of("tablet")),
+        host("host name of a NULL address, without leases", "null", "", "", ""),
     };
 }
 
-std::vector<Built> with_application_names(const InsertValue &insert, const Record &record, const NamePlaces &places) {
+std::vector<Built> with_application_names(const Table &table) {
+    if (!table.names) {
+        return {};
+    }
+    const Place &info_place = table.places[index_of(table.places, "behavior_info")];
     const auto built = [&](const char *name, const std::string &info, const std::string &names,
                            const std::string &names_en) {
-        const std::string carried = info.substr(0, 2047);
-        const std::string whole =
-            Record(record).text(places.info, carried).text(places.names, names).text(places.names_en, names_en).bytes();
-        return Built{name, insert("'" + info + "'"), whole, "", catalogue()};
+        Built row = named(table, name, "behavior_info", "'" + info + "'",
+                          {{info_place.offset, info.substr(0, info_place.width - 1)},
+                           {table.names->names, names},
+                           {table.names->names_en, names_en}});
+        row.catalogue = catalogue();
+        return row;
     };
     const std::string cut = "3:" + of(2040, 'x') + "?f1?f2";  // one character too many
     return {
