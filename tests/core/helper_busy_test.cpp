@@ -9,40 +9,9 @@
 namespace {
 
 using support::Recorder;
-using Lines = std::vector<std::string>;
-using Sleeps = std::vector<unsigned>;
 
-struct BusyCase : Helper {
-    const char *database;
-    int statements_ahead;    // of the caller's, through sqlite3_exec
-    Sleeps sleeps;           // of two series of three retries, with the smallest first delay
-    unsigned longest_first;  // sleep, with the greatest first delay
-    Outcome outcome;         // of "select 5;"
-};
-
-const Sleeps hundredfold{5600, 6100, 6600, 7100, 7600, 8100};
-const Sleeps from_150{155, 160, 165, 170, 175, 180};
-const Sleeps from_50{55, 60, 65, 70, 75, 80};
-const Sleeps random_from_51{56, 61, 66, 71, 76, 81};
-
-const BusyCase busy_cases[] = {
-    {helpers::db_sql_exec, support::main_database, 0, random_from_51, 155, {0, ""}},
-    {helpers::exec_char, support::main_database, 3, hundredfold, 15500, {0, ""}},
-    {helpers::exec_char_int, support::main_database, 0, from_150, 155, {0, "1001"}},
-    {helpers::exec_char_long, support::main_database, 0, from_50, 55, {0, "5"}},
-    {helpers::exec_char_char, support::main_database, 0, from_50, 55, {0, "5"}},
-    {helpers::int_count, support::main_database, 0, random_from_51, 155, {5, ""}},
-    {helpers::int_rows, support::main_database, 0, random_from_51, 155, {1, ""}},
-    {helpers::int_count_route, support::main_database, 0, random_from_51, 155, {5, ""}},
-    {helpers::int_count_dpi, support::catalogue_database, 0, random_from_51, 155, {5, ""}},
-    {helpers::sqlite_int, support::catalogue_database, 0, random_from_51, 155, {5, ""}},
-    {helpers::sqlite_str_n, support::main_database, 0, random_from_51, 155, {0, "5"}},
-};
-
-class Busy : public HelperTest<BusyCase> {
+class Busy : public HelperTest {
 protected:
-    static bool opens() { return GetParam().call != helpers::sqlite_str_n.call; }
-
     /// The statement itself meets these codes, one after the other.
     void answer_statement(std::initializer_list<int> codes) {
         for (int i = 0; i < GetParam().statements_ahead; ++i) {
@@ -58,20 +27,20 @@ protected:
 
 TEST_P(Busy, sleeps_grow_through_one_series) {
     recorder_.answer("rand", {0});
-    if (opens()) {
+    if (GetParam().opens) {
         recorder_.answer("sqlite3_open", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
         answer_statement({SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     } else {
         answer_statement({SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR, SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     }
-    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
     EXPECT_EQ(recorder_.sleeps(), GetParam().sleeps);
 }
 
 TEST_P(Busy, the_first_sleep_has_an_upper_bound) {
     recorder_.answer("rand", {RAND_MAX});
     answer_statement({SQLITE_BUSY});
-    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
     EXPECT_EQ(recorder_.sleeps(), Sleeps{GetParam().longest_first});
 }
 
@@ -86,7 +55,7 @@ TEST_P(Busy, retries_have_no_limit) {
         recorder_.answer("sqlite3_exec", {SQLITE_BUSY});
         recorder_.answer("sqlite3_prepare_v2", {SQLITE_BUSY});
     }
-    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
     const Sleeps &sleeps = GetParam().sleeps;
     ASSERT_EQ(recorder_.sleeps().size(), many);
     EXPECT_EQ(recorder_.sleeps().back(), sleeps[0] + (many - 1) * (sleeps[1] - sleeps[0]));
@@ -100,11 +69,11 @@ TEST_P(Busy, waits_until_another_process_lets_go_of_the_database) {
             other_.execute("commit;");
         }
     });
-    EXPECT_EQ(call("select 5 from sqlite_master limit 1;"), GetParam().outcome);
+    EXPECT_EQ(call("select 5 from sqlite_master limit 1;"), GetParam().outcomes.five);
     EXPECT_EQ(sleeps, 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(, Busy, ::testing::ValuesIn(busy_cases), helper_name<BusyCase>);
+INSTANTIATE_TEST_SUITE_P(, Busy, ::testing::ValuesIn(helpers()), helper_name);
 
 using BusyReader = Busy;
 
@@ -112,7 +81,7 @@ TEST_P(BusyReader, the_first_step_belongs_to_the_series) {
     recorder_.answer("rand", {0});
     recorder_.answer("sqlite3_prepare_v2", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     recorder_.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
-    EXPECT_EQ(call("select 5;"), GetParam().outcome);
+    EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
     EXPECT_EQ(recorder_.sleeps(), GetParam().sleeps);
 }
 
@@ -123,8 +92,7 @@ TEST_P(BusyReader, a_failing_first_step_is_final) {
     EXPECT_EQ(recorder_.calls({"sqlite3_step"}).size(), 1U);
 }
 
-INSTANTIATE_TEST_SUITE_P(, BusyReader, ::testing::ValuesIn(std::begin(busy_cases) + 2, std::end(busy_cases)),
-                         helper_name<BusyCase>);
+INSTANTIATE_TEST_SUITE_P(, BusyReader, ::testing::ValuesIn(helpers_that(reads_rows)), helper_name);
 
 TEST(StatementHelpers, a_random_first_delay_is_whole_microseconds) {
     constexpr struct {
@@ -135,7 +103,7 @@ TEST(StatementHelpers, a_random_first_delay_is_whole_microseconds) {
         Recorder recorder;
         recorder.answer("rand", {draw.drawn});
         recorder.answer("sqlite3_open", {SQLITE_BUSY});
-        helpers::int_count_route.call(nullptr, "select 5;");
+        helper("GET_DB_SQL_INT_COUNT_ROUTE").call(nullptr, "select 5;");
         EXPECT_EQ(recorder.sleeps(), Sleeps{draw.sleep}) << draw.drawn;
     }
 }
@@ -150,7 +118,8 @@ TEST(DB_EXEC_SQL_CHAR_INT, logs_after_each_sleep) {
             other.execute("commit;");
         }
     });
-    EXPECT_EQ(helpers::exec_char_int.call(nullptr, "select 5 from sqlite_master limit 1;"), (Outcome{0, "1001"}));
+    EXPECT_EQ(helper("DB_EXEC_SQL_CHAR_INT").call(nullptr, "select 5 from sqlite_master limit 1;"),
+              (Outcome{0, "1001"}));
     EXPECT_EQ(recorder.calls({"usleep", "syslog"}),
               (Lines{"usleep 155", "syslog 3 sql busy/locked cmdline, Error: out of memory\n", "usleep 160",
                      "syslog 3 sql busy/locked cmdline, Error: database is locked\n", "usleep 165",
@@ -160,7 +129,8 @@ TEST(DB_EXEC_SQL_CHAR_INT, logs_after_each_sleep) {
 TEST(StatementHelpers, a_statement_that_is_ready_waits_for_its_first_row) {
     const CallersConnection connection = open_callers_connection();
     const support::Database other;
-    helpers::sqlite_str_n.call(connection.get(), "select 5 from sqlite_master;");  // reads the schema
+    const Callable &read = helper("GET_DB_SQLITE_SQL_STR_N");
+    read.call(connection.get(), "select 5 from sqlite_master;");  // reads the schema
     other.execute("begin exclusive;");
     Recorder recorder;
     recorder.watch([&](const std::string &line) {
@@ -168,7 +138,7 @@ TEST(StatementHelpers, a_statement_that_is_ready_waits_for_its_first_row) {
             other.execute("commit;");
         }
     });
-    EXPECT_EQ(helpers::sqlite_str_n.call(connection.get(), "select 5 from sqlite_master;"), (Outcome{0, "5"}));
+    EXPECT_EQ(read.call(connection.get(), "select 5 from sqlite_master;"), (Outcome{0, "5"}));
     EXPECT_EQ(recorder.calls({"sqlite3_prepare_v2", "sqlite3_step", "usleep"}).size(), 4U);
 }
 

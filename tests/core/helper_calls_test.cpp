@@ -2,62 +2,26 @@
 // meanwhile.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "core/helpers.h"
 #include "core/holdings.h"
+#include "support/exported_names.h"
 #include "support/recorder.h"
 
 namespace {
 
 using support::Recorder;
-using Lines = std::vector<std::string>;
+TEST(StatementHelpers, are_those_that_the_tests_know) {
+    std::set<std::string> known;
+    for (const Helper &helper : helpers()) {
+        known.insert(helper.name);
+    }
+    const auto exported = support::exported_names("DbSqlExec|DB_EXEC_SQL\\w+|GET_DB_SQL\\w+");
+    EXPECT_EQ(known, std::set<std::string>(exported.begin(), exported.end()));
+}
 
-constexpr char open_main[] = "sqlite3_open /etc/config/systemconf/database/myrouter.db";
-constexpr char open_catalogue[] = "sqlite3_open /etc/config/systemconf/database/dpilib.db";
-constexpr char prepare[] = "sqlite3_prepare_v2 select 5;";
-
-struct CallsCase : Helper {
-    Lines calls;
-    Lines holdings;
-};
-
-const Lines read_all_rows{open_main, prepare, "sqlite3_step", "sqlite3_step", "sqlite3_finalize", "sqlite3_close"};
-const Lines read_all_rows_under_the_lock{"open lock file", "gettimeofday",     "srand",         "rand",
-                                         "lock",           open_main,          prepare,         "sqlite3_step",
-                                         "sqlite3_step",   "sqlite3_finalize", "sqlite3_close", "unlock",
-                                         "close lock file"};
-const Lines lock_alone{"sqlite3_open /etc/config/systemconf/database/myrouter.db: lock", "close lock file: nothing"};
-
-const CallsCase calls_cases[] = {
-    {helpers::db_sql_exec,
-     {"open lock file", "gettimeofday", "srand", "rand", "lock", open_main, "sqlite3_exec select 5;", "sqlite3_free",
-      "sqlite3_close", "unlock", "close lock file"},
-     lock_alone},
-    {helpers::exec_char,
-     {"open lock file", "gettimeofday", "srand", "rand", "lock", open_main,
-      "sqlite3_exec PRAGMA synchronous = NORMAL; ", "sqlite3_exec PRAGMA page_size = 12000; ",
-      "sqlite3_exec PRAGMA cache_size = 4000; ", "sqlite3_exec select 5;", "sqlite3_free", "sqlite3_close", "unlock",
-      "close lock file"},
-     {"open lock file: mutex", "sqlite3_open /etc/config/systemconf/database/myrouter.db: mutex and lock",
-      "close lock file: mutex", "afterwards: nothing"}},
-    {helpers::exec_char_int, read_all_rows, {}},
-    {helpers::exec_char_long, read_all_rows, {}},
-    {helpers::exec_char_char, read_all_rows, {}},
-    {helpers::int_count, read_all_rows_under_the_lock, lock_alone},
-    {helpers::int_rows, read_all_rows_under_the_lock, lock_alone},
-    {helpers::int_count_route,
-     {"gettimeofday", "srand", "rand", open_main, prepare, "sqlite3_step", "sqlite3_finalize", "sqlite3_close"},
-     {}},
-    {helpers::int_count_dpi,
-     {"gettimeofday", "srand", "rand", open_catalogue, prepare, "sqlite3_step", "sqlite3_finalize", "sqlite3_close"},
-     {}},
-    {helpers::sqlite_int,
-     {"gettimeofday", "srand", "rand", open_catalogue, prepare, "sqlite3_step", "sqlite3_finalize", "sqlite3_close",
-      "close 0"},
-     {}},
-    {helpers::sqlite_str_n, {"gettimeofday", "srand", "rand", prepare, "sqlite3_step", "sqlite3_finalize"}, {}},
-};
-
-using StatementHelper = HelperTest<CallsCase>;
+using StatementHelper = HelperTest;
 
 TEST_P(StatementHelper, makes_these_calls_and_no_others) {
     Recorder recorder;
@@ -80,7 +44,7 @@ TEST_P(StatementHelper, leaves_no_descriptor_and_no_memory_of_sqlite) {
     call("select 5;");
     const bool closes_standard_input = GetParam().calls.back() == "close 0";
     EXPECT_EQ(support::open_descriptors(), descriptors - (closes_standard_input ? 1 : 0));
-    if (GetParam().call != helpers::sqlite_str_n.call) {  // its connection has read the schema and lives on
+    if (GetParam().opens) {  // the caller's connection has read the schema and lives on
         EXPECT_EQ(sqlite3_memory_used(), memory);
     }
 }
@@ -92,7 +56,7 @@ TEST_P(StatementHelper, steps_nothing_when_there_is_no_statement) {
     EXPECT_EQ(recorder.calls({"sqlite3_step", "sqlite3_finalize"}), Lines());
 }
 
-INSTANTIATE_TEST_SUITE_P(, StatementHelper, ::testing::ValuesIn(calls_cases), helper_name<CallsCase>);
+INSTANTIATE_TEST_SUITE_P(, StatementHelper, ::testing::ValuesIn(helpers()), helper_name);
 
 TEST(DB_EXEC_SQL_CHAR, executes_without_a_copy_of_the_file) {
     Recorder recorder;
@@ -103,7 +67,7 @@ TEST(DB_EXEC_SQL_CHAR, executes_without_a_copy_of_the_file) {
 
 TEST(GET_DB_SQLITE_SQL_STR_N, leaves_the_callers_connection_open) {
     const CallersConnection connection = open_callers_connection();
-    helpers::sqlite_str_n.call(connection.get(), "select 5;");
+    helper("GET_DB_SQLITE_SQL_STR_N").call(connection.get(), "select 5;");
     EXPECT_EQ(sqlite3_exec(connection.get(), "insert into user_urlinfo(name) values('a');", nullptr, nullptr, nullptr),
               SQLITE_OK);
 }

@@ -8,68 +8,44 @@
 
 namespace {
 
-/// Outcomes for queries that any of them may meet.
-struct CommonCase : Helper {
-    Outcome no_row;
-    Outcome null_column;
-    Outcome rows_5_and_7;
-    Outcome rows_of_two;
-    Outcome rows_of_three;
-    Outcome null_in_last_row;
-};
-
-const CommonCase common_cases[] = {
-    {helpers::db_sql_exec, {0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}},
-    {helpers::exec_char, {0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}},
-    {helpers::exec_char_int, {0, "1000"}, {0, "1001"}, {0, "1002"}, {0, "1002"}, {0, "1003"}, {0, "1002"}},
-    {helpers::exec_char_long, {0, "1000"}, {0, "0"}, {0, "0"}, {0, "4"}, {0, "33"}, {0, "0"}},
-    {helpers::exec_char_char, {0, "before"}, {0, "before"}, {0, "7"}, {0, "3"}, {0, "31"}, {0, "8"}},
-    {helpers::int_count, {0, ""}, {0, ""}, {5, ""}, {5, ""}, {66, ""}, {8, ""}},
-    {helpers::int_rows, {0, ""}, {1, ""}, {2, ""}, {2, ""}, {3, ""}, {2, ""}},
-    {helpers::int_count_route, {0, ""}, {0, ""}, {5, ""}, {1, ""}, {11, ""}, {8, ""}},
-    {helpers::int_count_dpi, {0, ""}, {0, ""}, {5, ""}, {1, ""}, {11, ""}, {8, ""}},
-    {helpers::sqlite_int, {0, ""}, {0, ""}, {5, ""}, {1, ""}, {11, ""}, {8, ""}},
-    {helpers::sqlite_str_n, {0, "before"}, {0, "0"}, {0, "5"}, {0, "1"}, {0, "11"}, {0, "8"}},
-};
-
-using RowsOf = HelperTest<CommonCase>;
+using RowsOf = HelperTest;
 
 TEST_P(RowsOf, a_query_without_rows) {
-    EXPECT_EQ(call("select 5 where 0;"), GetParam().no_row);
+    EXPECT_EQ(call("select 5 where 0;"), GetParam().outcomes.no_row);
 }
 
 TEST_P(RowsOf, a_null_column) {
-    EXPECT_EQ(call("select null;"), GetParam().null_column);
+    EXPECT_EQ(call("select null;"), GetParam().outcomes.null_column);
 }
 
 TEST_P(RowsOf, a_second_row_without_a_second_column) {
-    EXPECT_EQ(call("values(5),(7);"), GetParam().rows_5_and_7);
+    EXPECT_EQ(call("values(5),(7);"), GetParam().outcomes.rows_5_and_7);
 }
 
 TEST_P(RowsOf, two_rows_of_two_columns) {
-    EXPECT_EQ(call("values(1,2),(3,4);"), GetParam().rows_of_two);
+    EXPECT_EQ(call("values(1,2),(3,4);"), GetParam().outcomes.rows_of_two);
 }
 
 TEST_P(RowsOf, three_rows_of_three_columns) {
-    EXPECT_EQ(call("values(11,12,13),(21,22,23),(31,32,33);"), GetParam().rows_of_three);
+    EXPECT_EQ(call("values(11,12,13),(21,22,23),(31,32,33);"), GetParam().outcomes.rows_of_three);
 }
 
 TEST_P(RowsOf, a_null_column_in_the_last_row) {
-    EXPECT_EQ(call("values(8,9),(null,null);"), GetParam().null_in_last_row);
+    EXPECT_EQ(call("values(8,9),(null,null);"), GetParam().outcomes.null_in_last_row);
 }
 
 TEST_P(RowsOf, a_text_without_a_statement_has_no_rows) {
     for (const char *const sql : {"", ";", " -- nothing", static_cast<const char *>(nullptr)}) {
         Outcome outcome{};
         const support::Streams::Text text = support::streams_of([&] { outcome = call(sql); });
-        EXPECT_EQ(outcome, GetParam().no_row);
+        EXPECT_EQ(outcome, GetParam().outcomes.no_row);
         EXPECT_EQ(text.output + text.error, "");
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, RowsOf, ::testing::ValuesIn(common_cases), helper_name<CommonCase>);
+INSTANTIATE_TEST_SUITE_P(, RowsOf, ::testing::ValuesIn(helpers()), helper_name);
 
-using NumberOf = HelperTest<Helper>;
+using NumberOf = HelperTest;
 
 TEST_P(NumberOf, a_column_is_what_atoi_reads_in_its_text) {
     constexpr struct {
@@ -101,12 +77,12 @@ TEST_P(NumberOf, a_column_is_what_atoi_reads_in_its_text) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, NumberOf,
-                         ::testing::Values(helpers::int_count, helpers::int_count_route, helpers::int_count_dpi,
-                                           helpers::sqlite_int),
-                         helper_name<Helper>);
+INSTANTIATE_TEST_SUITE_P(, NumberOf, ::testing::ValuesIn(helpers_that([](const Helper &helper) {
+                             return helper.delivers == Delivers::number;
+                         })),
+                         helper_name);
 
-using TextOf = HelperTest<Helper>;
+using TextOf = HelperTest;
 
 TEST_P(TextOf, a_column_arrives_whole) {
     EXPECT_EQ(call("select printf('%.*c', 3000, 'x');"), (Outcome{0, std::string(3000, 'x')}));
@@ -116,20 +92,23 @@ TEST_P(TextOf, an_empty_column_is_an_empty_text) {
     EXPECT_EQ(call("select '';"), (Outcome{0, ""}));
 }
 
-INSTANTIATE_TEST_SUITE_P(, TextOf, ::testing::Values(helpers::exec_char_char, helpers::sqlite_str_n),
-                         helper_name<Helper>);
+INSTANTIATE_TEST_SUITE_P(, TextOf, ::testing::ValuesIn(helpers_that([](const Helper &helper) {
+                             return helper.delivers == Delivers::text;
+                         })),
+                         helper_name);
 
 TEST(DB_EXEC_SQL_CHAR_LONG, reads_as_strtoul_does) {
     for (const char *const text : {"42", "12abc", "-1", "  9", "99999999999999999999", "3.7", "0x10", ""}) {
         const std::string query = "select '" + std::string(text) + "';";
-        EXPECT_EQ(helpers::exec_char_long.call(nullptr, query.c_str()),
+        EXPECT_EQ(helper("DB_EXEC_SQL_CHAR_LONG").call(nullptr, query.c_str()),
                   (Outcome{0, std::to_string(std::strtoul(text, nullptr, 10))}))
             << query;
     }
 }
 
 TEST(GET_DB_SQL_INT_COUNT, a_sum_beyond_the_range_of_an_int_wraps) {
-    EXPECT_EQ(helpers::int_count.call(nullptr, "values(2147483647,0),(0,1);"), (Outcome{-2147483648LL, ""}));
+    EXPECT_EQ(helper("GET_DB_SQL_INT_COUNT").call(nullptr, "values(2147483647,0),(0,1);"),
+              (Outcome{-2147483648LL, ""}));
 }
 
 }  // namespace

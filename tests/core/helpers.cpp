@@ -5,35 +5,6 @@
 
 #include <stdexcept>
 
-#include "routerdb.h"
-#include "support/database.h"
-
-namespace {
-
-/// For the helpers whose only outcome is their result.
-template <int (*function)(const char *)>
-Outcome result_of(sqlite3 * /*db*/, const char *sql) {
-    return {function(sql), ""};
-}
-
-/// For the helpers that fill a number.
-template <typename Number, int (*function)(const char *, Number *)>
-Outcome result_and_number(sqlite3 * /*db*/, const char *sql) {
-    Number number = 1000;
-    const int result = function(sql, &number);
-    return {result, std::to_string(number)};
-}
-
-/// For the helpers that fill a text.
-template <typename Function>
-Outcome result_and_text(Function function) {
-    char text[4096] = "before";
-    const long long result = function(text);
-    return {result, text};
-}
-
-}  // namespace
-
 bool operator==(const Outcome &left, const Outcome &right) {
     return left.result == right.result && left.destination == right.destination;
 }
@@ -42,33 +13,31 @@ std::ostream &operator<<(std::ostream &out, const Outcome &outcome) {
     return out << outcome.result << " and \"" << outcome.destination << '"';
 }
 
-std::ostream &operator<<(std::ostream &out, const Helper &helper) {
-    return out << helper.name;
+bool operator==(const Traces &left, const Traces &right) {
+    return left.outcome == right.outcome && left.output == right.output && left.error == right.error &&
+           left.log == right.log;
 }
 
-namespace helpers {
+std::ostream &operator<<(std::ostream &out, const Traces &traces) {
+    out << traces.outcome << "\noutput: " << traces.output << "\nerror: " << traces.error;
+    for (const std::string &line : traces.log) {
+        out << "\n" << line;
+    }
+    return out;
+}
 
-constexpr Helper db_sql_exec{"DbSqlExec", [](sqlite3 * /*db*/, const char *sql) {
-                                 return Outcome{DbSqlExec(const_cast<char *>(sql)), ""};  // only read
-                             }};
-constexpr Helper exec_char{"DB_EXEC_SQL_CHAR", result_of<DB_EXEC_SQL_CHAR>};
-constexpr Helper exec_char_int{"DB_EXEC_SQL_CHAR_INT", result_and_number<unsigned, DB_EXEC_SQL_CHAR_INT>};
-constexpr Helper exec_char_long{"DB_EXEC_SQL_CHAR_LONG", result_and_number<unsigned long, DB_EXEC_SQL_CHAR_LONG>};
-constexpr Helper exec_char_char{
-    "DB_EXEC_SQL_CHAR_CHAR", [](sqlite3 *, const char *sql) {
-        return result_and_text([&](char *text) { return DB_EXEC_SQL_CHAR_CHAR(sql, text); });
-    }};
-constexpr Helper int_count{"GET_DB_SQL_INT_COUNT", result_of<GET_DB_SQL_INT_COUNT>};
-constexpr Helper int_rows{"GET_DB_SQL_INT", result_of<GET_DB_SQL_INT>};
-constexpr Helper int_count_route{"GET_DB_SQL_INT_COUNT_ROUTE", result_of<GET_DB_SQL_INT_COUNT_ROUTE>};
-constexpr Helper int_count_dpi{"GET_DB_SQL_INT_COUNT_DPI", result_of<GET_DB_SQL_INT_COUNT_DPI>};
-constexpr Helper sqlite_int{"GET_DB_SQLITE_SQL_INT", result_of<GET_DB_SQLITE_SQL_INT>};
-constexpr Helper sqlite_str_n{
-    "GET_DB_SQLITE_SQL_STR_N", [](sqlite3 *db, const char *sql) {
-        return result_and_text([&](char *text) { return GET_DB_SQLITE_SQL_STR_N(sql, text, db); });
-    }};
+std::ostream &operator<<(std::ostream &out, const Callable &callable) {
+    return out << callable.name;
+}
 
-}  // namespace helpers
+const Helper &helper(const std::string &name) {
+    for (const Helper &helper : helpers()) {
+        if (helper.name == name) {
+            return helper;
+        }
+    }
+    throw std::out_of_range("no helper " + name);
+}
 
 CallersConnection open_callers_connection() {
     sqlite3 *db = nullptr;

@@ -11,37 +11,20 @@
 
 namespace {
 
-struct Reading {
-    Helper helper;
-    const char *database;
-};
-
-std::ostream &operator<<(std::ostream &out, const Reading &reading) {
-    return out << reading.helper;
-}
-
-class MissingDatabase : public testing::TestWithParam<Reading> {};
+class MissingDatabase : public testing::TestWithParam<Helper> {};
 
 TEST_P(MissingDatabase, is_left_behind_empty_by_a_mere_query) {
     open_standard_input();
     ASSERT_EQ(unlink(GetParam().database), 0);
-    support::streams_of([] { GetParam().helper.call(nullptr, "select 1;"); });
+    support::streams_of([] { GetParam().call(nullptr, "select 1;"); });
     ASSERT_TRUE(support::file_exists(GetParam().database));
     EXPECT_EQ(std::filesystem::file_size(GetParam().database), 0U);
 }
 
-constexpr const char *main_file = support::main_database;
-constexpr const char *catalogue_file = support::catalogue_database;
-
-const Reading readings[] = {
-    {helpers::exec_char_int, main_file},      {helpers::exec_char_long, main_file},
-    {helpers::exec_char_char, main_file},     {helpers::int_count, main_file},
-    {helpers::int_rows, main_file},           {helpers::int_count_route, main_file},
-    {helpers::int_count_dpi, catalogue_file}, {helpers::sqlite_int, catalogue_file},
-};
-
-INSTANTIATE_TEST_SUITE_P(, MissingDatabase, testing::ValuesIn(readings),
-                         [](const auto &test) { return test.param.helper.name; });
+INSTANTIATE_TEST_SUITE_P(, MissingDatabase, testing::ValuesIn(helpers_that([](const Helper &helper) {
+                             return helper.opens && reads_rows(helper);
+                         })),
+                         helper_name);
 
 TEST(MissingMainDatabase, once_read_is_not_missing_any_more_for_a_script_that_copies_the_factory_file) {
     const std::string script = "test -e " + std::string(support::main_database) + " || cp " +

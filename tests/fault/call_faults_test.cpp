@@ -2,6 +2,7 @@
 #include <sqlite3.h>
 
 #include <cerrno>
+#include <set>
 
 #include "fault/direct_calls.h"
 #include "support/database.h"
@@ -113,5 +114,15 @@ TEST_P(CallFaults, a_database_that_is_busy_once) {
 }
 
 INSTANTIATE_TEST_SUITE_P(, CallFaults, ::testing::ValuesIn(direct_calls()), call_name);
+
+TEST(DirectCalls, are_those_of_every_statement_helper) {
+    std::set<std::string> met;
+    for (const DirectCall &call : direct_calls()) {
+        met.insert(call.name);
+    }
+    for (const Helper &helper : helpers()) {
+        EXPECT_EQ(met.count(helper.name), 1U) << helper;
+    }
+}
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include "core/helpers.h"
 
 /// One call, and its outcome when the n-th call that it makes fails for good: one outcome for each that can.
-struct DirectCall : Helper {
+struct DirectCall : Callable {
     const char *sql;
     Outcome success;
     std::vector<Outcome> lock_file;  // open
