@@ -28,7 +28,7 @@ int read_device_by_sn(DevInfo &device, unsigned long sn, Ssids ssids) {
     sql.append("select * from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
     Reading reading(one_device);
     int count = 0;
-    if (reading.open() && reading.prepare(sql.c_str())) {
+    if (reading.start(sql) == Start::ready) {
         for (bool more = reading.first_row(); more; more = reading.next_row()) {
             read_record(reading.row(), Table::devices, ssids, device);
             ++count;
@@ -44,7 +44,7 @@ bool read_all_devices(ApDevList &list, Ssids ssids) {
     }
     list = {};
     Reading reading(all_devices, &connection);
-    if (!reading.open() || !reading.prepare("select * from DevInfo  order by Dev_IPSUM ;")) {
+    if (reading.start("select * from DevInfo  order by Dev_IPSUM ;") != Start::ready) {
         return false;
     }
     for (bool more = reading.first_row(); more && list.count < ROUTERDB_DEVICE_LIST_CAPACITY;

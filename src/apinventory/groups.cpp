@@ -16,12 +16,14 @@ constexpr ReadProfile group{free_printing, prepare_on_output};
 constexpr ReadProfile group_with_random_delay{free_printing_random, prepare_on_output};
 
 /// Reads all rows, so that the values of the last one stay.
-void read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, DevInfo &record) {
-    if (reading.prepare(sql.c_str())) {
+Start read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, DevInfo &record) {
+    const Start start = reading.start(sql);
+    if (start == Start::ready) {
         for (bool more = reading.first_row(); more; more = reading.next_row()) {
             read_record(reading.row(), table, ssids, record);
         }
     }
+    return start;
 }
 
 }  // namespace
@@ -31,11 +33,8 @@ int read_wlan_group(DevInfo &record, int id) {
     StackText<80> sql;
     sql.append("select * from WlanGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
     Reading reading(group);
-    if (!reading.open()) {
-        return reading.printed();
-    }
-    read_rows(reading, sql, Table::wlan_groups, Ssids::in_gb2312, record);
-    return reading.close().connection;
+    const Start start = read_rows(reading, sql, Table::wlan_groups, Ssids::in_gb2312, record);
+    return start == Start::not_opened ? reading.printed() : reading.close().connection;
 }
 
 int read_default_zero_config(DevInfo &record) {
@@ -47,11 +46,8 @@ int read_default_zero_config(DevInfo &record) {
     StackText<80> sql;
     sql.append("select * from WlanZerocfgGroupInfo where WlanGroup_Id='1';");  // spelled so here; SQLite does not mind
     Reading reading(group, &connection);
-    if (!reading.open()) {
-        return reading.printed();
-    }
-    read_rows(reading, sql, Table::zero_config_groups, Ssids::in_gb2312, record);
-    return reading.lost() ? reading.printed() : 1;
+    const Start start = read_rows(reading, sql, Table::zero_config_groups, Ssids::in_gb2312, record);
+    return start == Start::not_opened ? reading.printed() : 1;
 }
 
 int read_zero_config(DevInfo &record, int id) {
@@ -59,12 +55,9 @@ int read_zero_config(DevInfo &record, int id) {
     StackText<80> sql;
     sql.append("select * from WlanZeroCfgGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
     Reading reading(group_with_random_delay);
-    if (!reading.open()) {
-        return -1;
-    }
     // Deliberate: here the SSIDs stay as they are stored, in the default group they do not.
-    read_rows(reading, sql, Table::zero_config_groups, Ssids::as_stored, record);
-    return 0;
+    const Start start = read_rows(reading, sql, Table::zero_config_groups, Ssids::as_stored, record);
+    return start == Start::not_opened ? -1 : 0;
 }
 
 }  // namespace routerdb

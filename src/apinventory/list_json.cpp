@@ -134,7 +134,7 @@ void print_page(const PageRequest &request) {
     sql.clear();
     append_page(sql, request);
     Reading reading(page, &connection);
-    if (sql.complete() && reading.open() && reading.prepare(sql.c_str())) {
+    if (reading.start(sql) == Start::ready) {
         print_rows(reading, request, matches, totals);
     }
 }

@@ -35,9 +35,8 @@ void read_each(Totals &totals, SharedConnection *shared) {
 /// @return whether they are what the statements one by one would give
 bool read_at_once(Totals &totals, SharedConnection *shared) {
     Reading reading(silent_totals, shared);
-    if (!reading.open() ||
-        !reading.prepare("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
-                         "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") ||
+    if (reading.start("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
+                      "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") != Start::ready ||
         !reading.first_row()) {
         return false;
     }

@@ -9,6 +9,7 @@
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
+#include "core/reading.h"
 
 namespace routerdb {
 
@@ -42,26 +43,6 @@ void start_network(unsigned number, DevWlanEntry &network) {
 /// The first column of the first row, read under the lock file.
 int first_number(SharedConnection &connection, const char *sql) {
     return query(profiles::sql_int_first_number, sql, {nullptr}, &connection);
-}
-
-constexpr char all_columns[] = "select * from WlanZeroCfgGroupInfo;";
-
-/// Names the one column that is read; where that fails, all columns under the same lock.
-int read_first_group_number(SharedConnection &connection) {
-    const QueryProfile &profile = profiles::sql_int_first_number;
-    Access access(profile.access, &connection);
-    if (!access.open()) {
-        return -1;
-    }
-    Statement statement;
-    if (access.prepare(statement, "select WlanGroup_Id from WlanZeroCfgGroupInfo;") == SQLITE_OK) {
-        const int number = statement.first_row(access.backoff()) ? statement.row().number(0) : 0;
-        if (statement.ended_well()) {
-            return number;
-        }
-        statement.finalize();
-    }
-    return access.lost() ? -1 : query(profile, access.db(), access.backoff(), all_columns, {nullptr});
 }
 
 int next_group(SharedConnection &connection, int first) {
@@ -101,8 +82,12 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 }  // namespace
 
 int first_group_number(SharedConnection &connection) {
-    return build_profile.names_needed_columns ? read_first_group_number(connection)
-                                              : first_number(connection, all_columns);
+    Reading reading(profiles::sql_int_first_number.reading, &connection);
+    if (reading.start("select * from WlanZeroCfgGroupInfo;", "select WlanGroup_Id from WlanZeroCfgGroupInfo;") !=
+        Start::ready) {
+        return -1;
+    }
+    return reading.first_row() ? reading.row().number(0) : 0;
 }
 
 void fill_with_defaults(DevInfo &group) {

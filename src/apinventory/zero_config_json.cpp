@@ -75,13 +75,14 @@ int print_zero_config_groups() {
     }
     json::print(json::opening);
     Reading reading(groups, &connection);
-    if (!reading.open()) {
+    const Start start = reading.start(query_text);
+    if (start == Start::not_opened) {
         return reading.printed();
     }
-    if (reading.prepare(query_text)) {
+    if (start == Start::ready) {
         print_rows(reading);
     }
-    return reading.lost() ? reading.printed() : reading.close().connection;
+    return reading.close().connection;
 }
 
 }  // namespace routerdb

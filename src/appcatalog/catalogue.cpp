@@ -76,7 +76,7 @@ bool Catalogue::read_applications(Class &owner) {
     StackText<96> sql;
     sql.append("select Features,Name,Name_En from App_Info where Class_Id=").append_quoted(long{owner.id}).append(";");
     Reading reading(applications_of_class, &connection_);
-    if (!reading.open() || !reading.prepare(sql.c_str())) {
+    if (reading.start(sql) != Start::ready) {
         return false;
     }
     for (bool more = reading.first_row(); more; more = reading.next_row()) {
@@ -119,7 +119,7 @@ void Catalogue::Entry::take(const char *const *names) {
 
 /// @return whether the lookup went well, with or without an entry
 bool Catalogue::Entry::look_up(const Text &sql) {
-    if (!sql.complete() || !reading_.open() || !reading_.prepare(sql.c_str())) {
+    if (reading_.start(sql) != Start::ready) {
         return false;
     }
     if (reading_.first_row()) {

@@ -29,7 +29,7 @@ void read_features(AppFeatureList &list, int class_id) {
     StackText<80> sql;
     sql.append("select Features from App_Info where Class_Id=").append_quoted(long{class_id}).append(" ;");
     Reading reading(features);
-    if (!reading.open() || !reading.prepare(sql.c_str())) {
+    if (reading.start(sql) != Start::ready) {
         return;
     }
     char *slot = list.features[0];

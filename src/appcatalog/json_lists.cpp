@@ -59,11 +59,11 @@ void read_rows(const ListSpec &spec, json::Keys keys, const char *argument, int 
     SqlText sql;
     sql.append(spec.row_query).append(argument).append(spec.query_tail);
     Reading reading(catalogue, &connection);
-    const bool opened = reading.open();
-    if (opened && sql.complete() && reading.prepare(sql.c_str())) {
+    const Start start = reading.start(sql);
+    if (start == Start::ready) {
         print_rows(spec, keys, reading, argument, table_count);
     }
-    if (!opened || reading.lost()) {
+    if (start == Start::not_opened) {
         close(reading.code());  // Deliberate: callers have come to expect it, as they do the close below.
         return;
     }

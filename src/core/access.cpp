@@ -16,10 +16,6 @@ void MutexHold::take() {
     taken_ = true;
 }
 
-bool Access::open() {
-    return take_guard() && open_database();
-}
-
 bool Access::take_guard() {
     const auto draw = [this] { backoff_ = Backoff(profile_.first_delay, profile_.scale, profile_.busy); };
     if (profile_.guard == Guard::mutex_and_lock_file) {
@@ -43,30 +39,11 @@ bool Access::take_guard() {
     return true;
 }
 
-int Access::prepare(Statement &statement, const char *sql) {
-    const int code = statement.prepare(db(), sql, backoff_);
-    if (!loan_.taken()) {
-        return code;
-    }
-    // The connection of earlier readings remembers tables: that they are still there shows at the first step only.
-    statement.first_row(backoff_);
-    if (statement.ended_well()) {
-        return code;
-    }
-    statement.finalize();  // what failed there is tried on a connection of its own
-    connection_.close();
-    return open_database() ? statement.prepare(db(), sql, backoff_) : code_;
-}
-
 bool Access::open_database() {
-    if (loan_.take(connection_)) {
-        return true;
-    }
     code_ = connection_.open(profile_.database, backoff_);
     if (code_ == SQLITE_OK) {
         return true;
     }
-    loan_.keep();  // what could not be opened is nothing to share
     printed_ = report(profile_.open_failure, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.

@@ -8,8 +8,6 @@
 #include "core/connection.h"
 #include "core/lock_file.h"
 #include "core/report.h"
-#include "core/shared_connection.h"
-#include "core/statement.h"
 
 namespace routerdb {
 
@@ -49,44 +47,38 @@ private:
 
 class Access {
 public:
-    /// @param shared  the connection of the call that this access is part of; null for one of its own
-    explicit Access(const AccessProfile &profile, SharedConnection *shared = nullptr)
-        : profile_(profile), loan_(shared) {}
+    explicit Access(const AccessProfile &profile) : profile_(profile) {}
     Access(const Access &) = delete;
     Access &operator=(const Access &) = delete;
-    ~Access() { close_connection(); }
 
     /// Takes what the profile names and opens the database.
     /// @return false after the profile's message; the destructor releases what was taken
-    [[nodiscard]] bool open();
+    [[nodiscard]] bool open() { return take_guard() && open_database(); }
 
-    /// Prepares a statement on the connection.
-    /// @return the result code of SQLite; that of open() when the database is lost()
-    [[nodiscard]] int prepare(Statement &statement, const char *sql);
+    /// The two halves of it.
+    [[nodiscard]] bool take_guard();
+    [[nodiscard]] bool open_database();
+
+    /// Whether a database is open.
+    bool is_open() const { return code_ == SQLITE_OK && db() != nullptr; }
 
     /// Close and release now instead of at the end of the scope, in this order.
     /// @return the result code of SQLite; what closing the lock file returned, 0 when it was not open
-    int close_connection() { return loan_.give_back(connection_); }
+    int close_connection() { return connection_.close(); }
     int release_lock() { return lock_file_.release(); }
 
     /// What printing the message of a failed open() returned.
     int printed() const { return printed_; }
 
-    /// Whether prepare() had to open the database again, and could not. It has been reported as by open().
-    bool lost() const { return loan_.lost(); }
-
     /// The result code of SQLite for the last open().
     int code() const { return code_; }
 
+    Connection &connection() { return connection_; }
     sqlite3 *db() const { return connection_.handle(); }
     Backoff &backoff() { return backoff_; }
 
 private:
-    bool take_guard();
-    bool open_database();
-
     const AccessProfile &profile_;
-    SharedConnection::Loan loan_;
     int printed_ = 0;
     int code_ = SQLITE_OK;
     Backoff backoff_;

@@ -95,10 +95,7 @@ int GET_DB_SQLITE_SQL_INT(const char *sql) {
 }
 
 unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db) {
-    Destination destination;
-    destination.text = out;
-    Backoff backoff(profiles::sqlite_sql_str_n.access.first_delay);
-    return static_cast<unsigned int>(query(profiles::sqlite_sql_str_n, db, backoff, or_empty(sql), destination));
+    return static_cast<unsigned int>(read_first_text(db, or_empty(sql), out));
 }
 
 int muti_id_convert_int_array(char *text, int *ids) {

@@ -61,31 +61,30 @@ inline constexpr ExecuteProfile collection{guarded, Pragmas::none};
 inline constexpr ExecuteProfile guarded_execution{guarded_leaving_failed_handle, Pragmas::none};
 
 // clang-format off
-/// The ten statement helpers: access, rows, told when the text cannot be prepared, result then, standard input.
+/// The statement helpers that open a database: access, told when the text cannot be prepared; rows, result then, standard
+/// input.
 /// DB_EXEC_SQL_CHAR
 inline constexpr ExecuteProfile exec_char         {guarded_among_threads, Pragmas::write_tuning};
 /// DB_EXEC_SQL_CHAR_INT
-inline constexpr QueryProfile exec_char_int       {free_logging_waits,    Rows::counted_up,      prepare_in_log,       0, StandardInput::kept};
+inline constexpr QueryProfile exec_char_int       {{free_logging_waits, prepare_in_log}, Rows::counted_up, 0, StandardInput::kept};
 /// DB_EXEC_SQL_CHAR_LONG
-inline constexpr QueryProfile exec_char_long      {free_logging,          Rows::last_diagonal,   prepare_in_log,       0, StandardInput::kept};
+inline constexpr QueryProfile exec_char_long      {{free_logging, prepare_in_log}, Rows::last_diagonal, 0, StandardInput::kept};
 /// DB_EXEC_SQL_CHAR_CHAR
-inline constexpr QueryProfile exec_char_char      {free_printing,         Rows::last_text,       prepare_on_output,    0, StandardInput::kept};
+inline constexpr QueryProfile exec_char_char      {{free_printing, prepare_on_output}, Rows::last_text, 0, StandardInput::kept};
 /// GET_DB_SQL_INT_COUNT
-inline constexpr QueryProfile sql_int_count       {guarded,               Rows::summed_diagonal, exec_on_output,      -1, StandardInput::kept};
+inline constexpr QueryProfile sql_int_count       {{guarded, exec_on_output}, Rows::summed_diagonal, -1, StandardInput::kept};
 /// GET_DB_SQL_INT
-inline constexpr QueryProfile sql_int             {guarded,               Rows::counted,         exec_on_output,      -1, StandardInput::kept};
+inline constexpr QueryProfile sql_int             {{guarded, exec_on_output}, Rows::counted, -1, StandardInput::kept};
 /// the same statement for nothing but that it can be prepared, which the list of access points goes by
-inline constexpr QueryProfile sql_int_unseen      {guarded,               Rows::unseen,          exec_on_output,      -1, StandardInput::kept};
+inline constexpr QueryProfile sql_int_unseen      {{guarded, exec_on_output}, Rows::unseen, -1, StandardInput::kept};
 /// the same statement for its first number instead of its rows, which the zero-configuration groups go by
-inline constexpr QueryProfile sql_int_first_number{guarded,               Rows::first_number,    exec_on_output,      -1, StandardInput::kept};
+inline constexpr QueryProfile sql_int_first_number{{guarded, exec_on_output}, Rows::first_number, -1, StandardInput::kept};
 /// GET_DB_SQL_INT_COUNT_ROUTE
-inline constexpr QueryProfile sql_int_count_route {free_silent,           Rows::first_number,    error_on_output,     -1, StandardInput::kept};
+inline constexpr QueryProfile sql_int_count_route {{free_silent, error_on_output}, Rows::first_number, -1, StandardInput::kept};
 /// GET_DB_SQL_INT_COUNT_DPI
-inline constexpr QueryProfile sql_int_count_dpi   {free_silent_catalogue, Rows::first_number,    error_on_output,     -1, StandardInput::kept};
+inline constexpr QueryProfile sql_int_count_dpi   {{free_silent_catalogue, error_on_output}, Rows::first_number, -1, StandardInput::kept};
 /// GET_DB_SQLITE_SQL_INT
-inline constexpr QueryProfile sqlite_sql_int      {free_silent_catalogue, Rows::first_number,    error_on_output,     -1, StandardInput::closed};
-/// GET_DB_SQLITE_SQL_STR_N: the connection is the caller's, of the access only the first delay counts
-inline constexpr QueryProfile sqlite_sql_str_n    {free_silent,           Rows::first_text,      webserver_on_output, -1, StandardInput::kept};
+inline constexpr QueryProfile sqlite_sql_int      {{free_silent_catalogue, error_on_output}, Rows::first_number, -1, StandardInput::closed};
 // clang-format on
 
 }  // namespace routerdb::profiles

@@ -4,8 +4,6 @@
 
 #include <cstring>
 
-#include "core/statement.h"
-
 namespace routerdb {
 
 namespace {
@@ -57,9 +55,6 @@ bool Collector::take(const Row &row) {
         case Rows::first_number:
             outcome = row.number(0);
             return false;
-        case Rows::first_text:
-            std::strcpy(destination.text, row.text(0, "0"));  // the caller vouches for the room
-            return false;
         case Rows::unseen:
             return true;
         case Rows::last_text:
@@ -76,20 +71,15 @@ void Collector::take_last_text(const Row &row) const {
     }
 }
 
-/// Walks the rows of a statement that has been prepared with `code`.
-int deliver(const QueryProfile &profile, int code, Statement &statement, sqlite3 *db, Backoff &backoff,
-            Destination destination) {
-    if (code != SQLITE_OK) {
-        report(profile.prepare_failure, {nullptr, code, sqlite3_errmsg(db)});
-        return profile.failed_prepare_result;
-    }
+/// Walks the rows.
+int deliver(const QueryProfile &profile, Reading &reading, Destination destination) {
     if (build_profile.skips_unseen_rows && profile.rows == Rows::unseen) {
         return 0;
     }
     Collector collector{profile.rows, destination, 0, 0};
-    bool more = statement.first_row(backoff);
+    bool more = reading.first_row();
     while (more) {
-        more = collector.take(statement.row()) && statement.next_row();
+        more = collector.take(reading.row()) && reading.next_row();
         ++collector.index;
     }
     return collector.outcome;
@@ -99,23 +89,34 @@ int deliver(const QueryProfile &profile, int code, Statement &statement, sqlite3
 
 int query(const QueryProfile &profile, const char *sql, Destination destination, SharedConnection *shared) {
     const InputCloser input_closer(profile.standard_input);
-    Access access(profile.access, shared);
-    if (!access.open()) {
-        return -1;
+    Reading reading(profile.reading, shared);
+    switch (reading.start(sql)) {
+        case Start::not_opened:
+            return -1;
+        case Start::not_prepared:
+            return profile.failed_prepare_result;
+        case Start::ready:
+            break;
     }
-    Statement statement;
-    const int code = access.prepare(statement, sql);
-    return access.lost() ? -1 : deliver(profile, code, statement, access.db(), access.backoff(), destination);
+    return deliver(profile, reading, destination);
 }
 
 int query(const QueryProfile &profile, const Text &sql, Destination destination, SharedConnection *shared) {
     return sql.complete() ? query(profile, sql.c_str(), destination, shared) : -1;
 }
 
-int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql, Destination destination) {
+int read_first_text(sqlite3 *db, const char *sql, char *text) {
+    Backoff backoff(FirstDelay::random);
     Statement statement;
     const int code = statement.prepare(db, sql, backoff);
-    return deliver(profile, code, statement, db, backoff, destination);
+    if (code != SQLITE_OK) {
+        report({Stream::standard_output, Wording::webserver_error}, {nullptr, code, sqlite3_errmsg(db)});
+        return -1;
+    }
+    if (statement.first_row(backoff)) {
+        std::strcpy(text, statement.row().text(0, "0"));  // the caller vouches for the room
+    }
+    return 0;
 }
 
 }  // namespace routerdb

@@ -1,8 +1,7 @@
 // The engine of the statement helpers that read.
 #pragma once
 
-#include "core/access.h"
-#include "core/text.h"
+#include "core/reading.h"
 
 namespace routerdb {
 
@@ -13,7 +12,6 @@ enum class Rows : std::uint8_t {
     summed_diagonal,  // the result is the sum of column k of row k
     last_diagonal,    // column k of the last row k
     first_number,     // the result is the first column of the first row
-    first_text,       // that column as text, "0" for NULL
     unseen,           // the result is 0: all that counts is that the text can be prepared
     last_text,        // the first column of every row, so that the last one stays; NULL leaves what was there
 };
@@ -22,9 +20,8 @@ enum class StandardInput : std::uint8_t { kept, closed };
 
 /// One statement helper.
 struct QueryProfile {
-    AccessProfile access;
+    ReadProfile reading;
     Rows rows;
-    Message prepare_failure;
     std::int8_t failed_prepare_result;
     StandardInput standard_input;
 };
@@ -48,9 +45,8 @@ union Destination {
 [[nodiscard]] int query(const QueryProfile &profile, const Text &sql, Destination destination,
                         SharedConnection *shared = nullptr);
 
-/// Runs a query on an open connection.
-/// @return as above
-[[nodiscard]] int query(const QueryProfile &profile, sqlite3 *db, Backoff &backoff, const char *sql,
-                        Destination destination);
+/// Runs a query on the connection of a caller. The first column of the first row becomes the text, "0" for NULL.
+/// @return 0; -1 when the text cannot be prepared
+[[nodiscard]] int read_first_text(sqlite3 *db, const char *sql, char *text);
 
 }  // namespace routerdb

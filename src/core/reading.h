@@ -2,7 +2,10 @@
 #pragma once
 
 #include "core/access.h"
+#include "core/build_profile.h"
+#include "core/shared_connection.h"
 #include "core/statement.h"
+#include "core/text.h"
 
 namespace routerdb {
 
@@ -12,28 +15,25 @@ struct ReadProfile {
     Message prepare_failure;
 };
 
+/// What came of starting a reading. What the profile says to a failure has been said.
+enum class Start : std::uint8_t { not_opened, not_prepared, ready };
+
 /// Opens a database, walks the rows of one query, and closes in the order statement, connection, lock file.
 class Reading {
 public:
     /// @param shared  the connection of the call that the reading is part of; null for one of its own
     explicit Reading(const ReadProfile &profile, SharedConnection *shared = nullptr)
-        : profile_(profile), access_(profile.access, shared) {}
+        : profile_(profile), shared_(shared), access_(profile.access) {}
+    Reading(const Reading &) = delete;
+    Reading &operator=(const Reading &) = delete;
+    ~Reading() { close(); }
 
-    /// Takes what the profile names and opens the database.
-    /// @return false after the profile's message
-    [[nodiscard]] bool open() { return access_.open(); }
+    /// Takes what the profile names, opens the database and prepares a query.
+    /// @param narrow  the query with the columns alone that are read, for build profiles that name them; null for none
+    [[nodiscard]] Start start(const char *sql, const char *narrow = nullptr);
 
-    /// What printing the message of a failed open() returned.
-    int printed() const { return access_.printed(); }
-
-    /// The result code of SQLite for open().
-    int code() const { return access_.code(); }
-
-    /// @return false after the profile's message, or when the database is lost()
-    [[nodiscard]] bool prepare(const char *sql);
-
-    /// Whether prepare() had to open the database again, and could not: that counts as a failed open().
-    bool lost() const { return access_.lost(); }
+    /// The same with a text that was built. For one that memory ran out for nothing is opened.
+    [[nodiscard]] Start start(const Text &sql) { return sql.complete() ? start(sql.c_str()) : Start::not_opened; }
 
     /// @return whether there is a row; waits for a busy database
     [[nodiscard]] bool first_row() { return statement_.first_row(access_.backoff()); }
@@ -48,6 +48,10 @@ public:
     sqlite3_stmt *statement() const { return statement_.handle(); }
     sqlite3 *db() const { return access_.db(); }
 
+    /// Of a database that could not be opened: what printing the message returned, and the result code of SQLite.
+    int printed() const { return access_.printed(); }
+    int code() const { return access_.code(); }
+
     /// Ends the reading now instead of at the end of the scope.
     /// @return what closing the connection and what closing the lock file returned
     struct Closed {
@@ -57,7 +61,14 @@ public:
     Closed close();
 
 private:
+    /// Null where each reading has a connection of its own.
+    SharedConnection *shared() const { return build_profile.shares_connection ? shared_ : nullptr; }
+
+    bool start_on_shared(const char *sql);
+    bool start_silently(const char *sql);
+
     const ReadProfile &profile_;
+    SharedConnection *shared_;
     Access access_;
     Statement statement_;
 };

@@ -36,10 +36,7 @@ void *next_record(const RuleTable &table, void *list, std::size_t index) {
 }
 
 /// @return the number of rows
-std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, const char *sql, Derive derive) {
-    if (!reading.prepare(sql)) {
-        return 0;
-    }
+std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Derive derive) {
     const Columns columns(table, reading.statement());
     References references(reading.db());
     std::size_t count = 0;
@@ -59,8 +56,8 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, cons
 int build_item_list(const RuleTable &table, void *list, const char *sql, Derive derive) {
     std::memset(list, 0, table.list_size());
     Reading reading(profiles[static_cast<unsigned>(table.messages)]);
-    if (reading.open()) {
-        put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, sql, derive)));
+    if (reading.start(sql) == Start::ready) {
+        put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, derive)));
     }
     return reading.close().lock_file;
 }
