@@ -88,12 +88,17 @@ Helper exec_char() {
 }
 
 /// Three that read all rows without a lock.
-const Lines read_all_rows{open_main, prepare, "sqlite3_step", "sqlite3_step", "sqlite3_finalize", "sqlite3_close"};
+void read_freely(Helper &helper) {
+    helper.calls = {open_main, prepare, "sqlite3_step", "sqlite3_step", "sqlite3_finalize", "sqlite3_close"};
+    helper.sleeps = {55, 60, 65, 70, 75, 80};
+    helper.longest_first = 55;
+}
 
 Helper exec_char_int() {
     Helper helper{{"DB_EXEC_SQL_CHAR_INT", result_and_number<unsigned, DB_EXEC_SQL_CHAR_INT>}, Delivers::other};
-    helper.calls = read_all_rows;
+    read_freely(helper);
     helper.sleeps = {155, 160, 165, 170, 175, 180};
+    helper.longest_first = 155;
     helper.outcomes = {{0, "1001"}, {0, "1000"}, {0, "1001"}, {0, "1002"}, {0, "1002"}, {0, "1003"}, {0, "1002"}};
     helper.open_failure = {{-1, "1000"}, "", "", {open_log}};
     helper.abandons = true;
@@ -101,13 +106,9 @@ Helper exec_char_int() {
     return helper;
 }
 
-const Sleeps from_50{55, 60, 65, 70, 75, 80};
-
 Helper exec_char_long() {
     Helper helper{{"DB_EXEC_SQL_CHAR_LONG", result_and_number<unsigned long, DB_EXEC_SQL_CHAR_LONG>}, Delivers::other};
-    helper.calls = read_all_rows;
-    helper.sleeps = from_50;
-    helper.longest_first = 55;
+    read_freely(helper);
     helper.outcomes = {{0, "5"}, {0, "1000"}, {0, "0"}, {0, "0"}, {0, "4"}, {0, "33"}, {0, "0"}};
     helper.open_failure = {{-1, "1000"}, "", "", {open_log}};
     helper.statement_failure = {{0, "1000"}, "", "", {prepare_log}};
@@ -120,9 +121,7 @@ Helper exec_char_char() {
                        return result_and_text([&](char *text) { return DB_EXEC_SQL_CHAR_CHAR(sql, text); });
                    }},
                   Delivers::text};
-    helper.calls = read_all_rows;
-    helper.sleeps = from_50;
-    helper.longest_first = 55;
+    read_freely(helper);
     helper.outcomes = {{0, "5"}, {0, "before"}, {0, "before"}, {0, "7"}, {0, "3"}, {0, "31"}, {0, "8"}};
     helper.open_failure = {{-1, "before"}, "", open_message, {}};
     helper.statement_failure = {{0, "before"}, prepare_message, "", {}};
