@@ -22,13 +22,13 @@ enum Given : std::uint8_t { serial_number, stations, no_group_name };
 /// The column of a member, cut as the record would cut it. Only the columns that are printed are read.
 constexpr json::Value shown(std::string_view name, const Part &part = device_part) {
     const DeviceColumn column = device_column(name, part);
-    return json::column_text(column.number, column.width - 1);
+    return json::column_text(column.number, static_cast<std::uint8_t>(column.width - 1));
 }
 
 // Deliberate: the closing element has fewer keys.
 // clang-format off
 constexpr json::Key keys[] = {
-    {"m_sn", json::given(serial_number, 20)},
+    {"m_sn", json::given(serial_number)},
     {"m_group_name", shown("Dev_Group")},
     {"m_dev_name", shown("Dev_Name")},
     {"m_dev_ip", shown("Dev_Ipaddress")},
@@ -38,10 +38,10 @@ constexpr json::Key keys[] = {
     {"m_sw_name", shown("Dev_SwName")},
     {"m_channel", shown("Channel", first_radio)},
     {"m_current_channel", shown("Current_Channel", first_radio), json::not_in_closing},
-    {"m_stanum", json::given(stations, 20)},
+    {"m_stanum", json::given(stations)},
     {"m_dev_status", shown("Dev_Status")},
     {"m_dev_upgrade_status", shown("Dev_Upgrade_Status")},
-    {"m_wlan_group_name", json::given(no_group_name, 3)},
+    {"m_wlan_group_name", json::given(no_group_name)},
     {"m_wlan_radio_num", shown("Dev_Wlan_Radio_Num")},
     {"m_channel_sec", shown("Channel", second_radio)},
     {"m_current_channel_sec", shown("Current_Channel", second_radio), json::not_in_closing},

@@ -63,15 +63,15 @@ bool parse(char *line, Station &station) {
 }
 
 constexpr json::Key keys[] = {
-    {"mac", json::given(0, field_size - 1)},
-    {"time", json::given(1, field_size - 1)},
-    {"signal", json::given(2, 11)},
+    {"mac", json::given(0)},
+    {"time", json::given(1)},
+    {"signal", json::given(2)},
 };
 
 void print_lines(FILE *file) {
     char line[128];
     Station station;
-    StackText<json::Keys(keys).room()> text;
+    StackText<json::Keys(keys).room() + sizeof(Station)> text;
     json::List list(keys, text);
     json::print("{\"sta\":[");
     while (std::fgets(line, sizeof(line), file) != nullptr) {

@@ -22,7 +22,7 @@ constexpr char query_text[] =
     "WlanGroup_Dev_RebootTime,WlanGroup_Wlan_Txpower,WlanGroup_Wlan_Txpower_sec from WlanZeroCfgGroupInfo;";
 
 constexpr json::Value shown_column(std::uint8_t column) {
-    constexpr std::uint16_t longest = 99;
+    constexpr std::uint8_t longest = 99;
     return json::column_text(column, longest);
 }
 

@@ -41,7 +41,8 @@ void join(json::Keys keys, int class_id, NameJoiner &joiner, JoinedNames &joined
 
 /// Prints the elements and closes the list.
 void print_rows(const ListSpec &spec, json::Keys keys, Reading &reading, const char *argument, int table_count) {
-    StackText<json::Keys(all_classes.keys).room()> text;  // the longest elements are those of the classes
+    constexpr json::Keys longest = all_classes.keys;  // make the longest elements
+    StackText<longest.room() + sizeof(JoinedNames)> text;
     json::List list(keys, text);
     JoinedNames joined;
     NameJoiner joiner(reading.db());

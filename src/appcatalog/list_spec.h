@@ -5,7 +5,6 @@
 
 #include "appcatalog/catalogue_text.h"
 #include "core/json_list.h"
-#include "routerdb.h"
 
 namespace routerdb {
 
@@ -41,12 +40,6 @@ constexpr json::Value catalogue_column(std::uint8_t column) {
     return json::column_text(column, longest_catalogue_text);
 }
 
-inline constexpr json::Value zero = json::given(given_zero, 1);
-
-constexpr json::Value joined(Given names) {
-    return json::given(names, ROUTERDB_JOINED_NAMES - 1);
-}
-
 // clang-format off
 inline constexpr KeyedList<9> all_classes{
     {"select  count(*) from App_Class;", "select * from App_Class order by Id ;", "", false,
@@ -55,11 +48,11 @@ inline constexpr KeyedList<9> all_classes{
         {"name", catalogue_column(1)},
         {"name_en", catalogue_column(2)},
         {"mark", catalogue_column(4)},
-        {"priority", zero},
-        {"bw", zero},
-        {"appnames", joined(given_names)},
-        {"appnames_en", joined(given_names_en)},
-        {"appfeature", joined(given_features)},
+        {"priority", json::given(given_zero)},
+        {"bw", json::given(given_zero)},
+        {"appnames", json::given(given_names)},
+        {"appnames_en", json::given(given_names_en)},
+        {"appfeature", json::given(given_features)},
     }};
 
 // Deliberate: the whole table is counted, and its count printed.
@@ -68,7 +61,7 @@ inline constexpr KeyedList<3> one_class{
      Count::of_table, ""}, {
         {"name", catalogue_column(0)},
         {"mark", catalogue_column(1)},
-        {"priority", zero},
+        {"priority", json::given(given_zero)},
     }};
 
 inline constexpr KeyedList<5> one_application{
@@ -85,7 +78,7 @@ inline constexpr KeyedList<6> applications_of_class{
     {"select  count(*) from App_Info where Class_Id='", "select * from App_Info where Class_Id='", "';", true,
      Count::of_elements, " "}, {
         {"id", json::column_number(0)},
-        {"class_id", json::given(given_argument, 20)},
+        {"class_id", json::given(given_argument)},
         {"appname", catalogue_column(2)},
         {"appname_en", catalogue_column(3)},
         {"features", catalogue_column(4)},

@@ -21,20 +21,20 @@ enum class Source : std::uint8_t {
 
 struct Value {
     Source source;
-    std::uint8_t index;     // of the column, or among what is given
-    std::uint16_t longest;  // in bytes: where the text of a column is cut, and the room for any other
+    std::uint8_t index;    // of the column, or among what is given
+    std::uint8_t longest;  // bytes behind which the text of a column is cut
 };
 
-constexpr Value column_text(std::uint8_t column, std::uint16_t longest) {
+constexpr Value column_text(std::uint8_t column, std::uint8_t longest) {
     return {Source::text, column, longest};
 }
 
 constexpr Value column_number(std::uint8_t column) {
-    return {Source::number, column, 11};
+    return {Source::number, column, 0};
 }
 
-constexpr Value given(std::uint8_t index, std::uint16_t longest) {
-    return {Source::given, index, longest};
+constexpr Value given(std::uint8_t index) {
+    return {Source::given, index, 0};
 }
 
 /// What is special about a key.
@@ -59,11 +59,13 @@ public:
     constexpr const Key *begin() const { return begin_; }
     constexpr const Key *end() const { return end_; }
 
-    /// Bytes of a text that holds any element whose values keep to their keys.
+    /// Bytes of a text that holds any element of these keys, what is given for it being numbers at most.
     constexpr std::size_t room() const {
+        constexpr std::size_t longest_number = 20;
         std::size_t room = 64;  // for what stands around the members
         for (const Key *key = begin_; key != end_; ++key) {
-            room += std::string_view(key->name).size() + std::string_view(R"("":"",)").size() + key->value.longest;
+            room += std::string_view(key->name).size() + std::string_view(R"("":"",)").size();
+            room += key->value.source == Source::text ? key->value.longest : longest_number;
         }
         return room;
     }

@@ -47,7 +47,7 @@ TEST(LongElements, leave_the_list_unfinished_without_memory) {
     EXPECT_EQ(applications(3), R"({"ItemList":{"data":[)");       // for the first element
 }
 
-constexpr json::Key keys[] = {{"first", json::given(0, 5)}, {"second", json::given(1, 5)}};
+constexpr json::Key keys[] = {{"first", json::given(0)}, {"second", json::given(1)}};
 
 /// Prints three elements, the one in the middle longer than the text's buffer.
 std::string elements(int failing_malloc) {
