@@ -83,11 +83,12 @@ target_include_directories(
     PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
 target_compile_definitions(routerdb_objects PUBLIC ROUTERDB_PROFILE=${ROUTERDB_PROFILE})
 target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
-# Fortified calls have other names, and programs put their own functions in front of the plain ones.
+# Fortified calls have other names, and programs put their own functions in front of the plain ones. A compiler that
+# knows malloc makes calloc of it where the block is cleared.
 target_compile_options(
     routerdb_objects
     PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
-            -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0)
+            -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0 -fno-builtin-malloc)
 
 include(SmallBuild)
 
