@@ -111,6 +111,15 @@ TEST_P(Applying, texts_that_fill_their_members_are_given_whole) {
     expect(device(), full);
 }
 
+TEST_P(Applying, texts_that_leave_room_for_a_terminator_bring_it) {
+    DevInfo group{};
+    for (const Place &place : places::all()) {
+        put(group, place, std::string(place.width - 1, '1'));
+    }
+    put(group, "Dev_Wlan_Channel", "0011");
+    expect(places::odd_record(), group);
+}
+
 TEST_P(Applying, reads_no_further_than_a_group_without_a_terminator) {
     support::AtPageEnd<DevInfo> full(places::record_of(std::string(places::record_size, '7')));
     DevInfo device{};

@@ -49,6 +49,20 @@ TEST_P(GroupReader, transmit_powers_and_reboot_times_belong_to_zero_configuratio
     EXPECT_EQ(places::text(record, "Dev_Wlan_Txpower_sec"), zero_config ? "c125" : "");
 }
 
+TEST(WlanGroup, has_no_transmit_powers_and_reboot_times_where_its_table_has_columns_for_them) {
+    insert(tables::wlan_groups, numbered_row(tables::wlan_groups, "7"));
+    for (const char *column : {"Dev_RebootTime_Enable", "Dev_RebootTime", "Wlan_Txpower", "Wlan_Txpower_sec"}) {
+        support::execute(std::string("alter table WlanGroupInfo add column WlanGroup_") + column +
+                         " TEXT default '9';");
+    }
+    DevInfo group;
+    EXPECT_EQ(DB_getwlangroupinfoByindex(&group, 7), 0);
+    EXPECT_EQ(places::text(group, "Dev_Wlan_MaxStaNum_sec"), "c121");
+    for (const char *name : {"Dev_RebootTime_Enable", "Dev_RebootTime", "Dev_Wlan_Txpower", "Dev_Wlan_Txpower_sec"}) {
+        EXPECT_EQ(places::text(group, name), "") << name;
+    }
+}
+
 std::vector<Reader> group_readers() {
     std::vector<Reader> readers = readers::all();
     readers.erase(readers.begin(), readers.begin() + 4);  // those of access points
