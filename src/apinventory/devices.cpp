@@ -11,10 +11,13 @@ namespace routerdb {
 
 namespace {
 
-using namespace profiles::parts;
+using namespace profiles;
 
-constexpr ReadProfile one_device{free_logging, prepare_in_log};
-constexpr ReadProfile all_devices{free_printing, prepare_in_log};
+constexpr ReadProfile one_device =
+    unguarded.sleeping_from(FirstDelay::microseconds_50).when_not_opened(code_in_log).when_not_prepared(prepare_in_log);
+constexpr ReadProfile all_devices = unguarded.sleeping_from(FirstDelay::microseconds_50)
+                                        .when_not_opened(code_on_error)
+                                        .when_not_prepared(prepare_in_log);
 
 // Callers see that the table can be counted, not the count: that takes none of the 160 columns.
 constexpr const char *count_text =

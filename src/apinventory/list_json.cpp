@@ -12,9 +12,9 @@ namespace routerdb {
 
 namespace {
 
-using profiles::parts::free_printing_random;
+using namespace profiles;
 
-constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
+constexpr ReadProfile page = unguarded.when_not_opened(code_on_error).when_not_prepared(prepare_on_error);
 
 /// What is given for an element beside its row.
 enum Given : std::uint8_t { serial_number, stations, no_group_name };

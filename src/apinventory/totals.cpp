@@ -10,12 +10,7 @@ namespace routerdb {
 namespace {
 
 // Nothing is said or left behind here: totals that are not had at once are read one by one, which is said.
-// clang-format off
-constexpr ReadProfile silent_totals{
-    {Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    no_message};
-// clang-format on
+constexpr ReadProfile silent_totals = profiles::unguarded.when_not_prepared(no_message);
 
 int read_number(const char *sql, SharedConnection *shared) {
     return query(profiles::sql_int_count_route, sql, {nullptr}, shared);

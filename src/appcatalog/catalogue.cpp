@@ -6,20 +6,13 @@ namespace routerdb {
 
 namespace {
 
-constexpr Message error_on_output{Stream::standard_output, Wording::error};
+using namespace profiles;
 
-// clang-format off
-constexpr ReadProfile entries{
-    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, error_on_output, FailedHandle::closed},
-    error_on_output};
+constexpr ReadProfile entries =
+    unguarded.on(Database::catalogue).when_not_opened(error_on_output).when_not_prepared(error_on_output);
 
 // Nothing is said here: an application that is not known afterwards is looked up by itself, and that lookup says it.
-constexpr ReadProfile applications_of_class{
-    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    no_message};
-// clang-format on
+constexpr ReadProfile applications_of_class = unguarded.on(Database::catalogue).when_not_prepared(no_message);
 
 /// The names of what is known not to be there.
 constexpr const char *no_names[2] = {nullptr, nullptr};

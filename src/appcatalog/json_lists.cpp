@@ -14,14 +14,7 @@ namespace routerdb {
 
 namespace {
 
-using profiles::parts::webserver_on_output;
-
-// clang-format off
-constexpr ReadProfile catalogue{
-    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    webserver_on_output};
-// clang-format on
+constexpr ReadProfile catalogue = profiles::unguarded.on(Database::catalogue).when_not_prepared(webserver_on_output);
 
 /// The joined names of one class.
 using JoinedNames = char[joined_columns][ROUTERDB_JOINED_NAMES];

@@ -18,7 +18,7 @@ Start Reading::start(const char *sql, const char *narrow) {
     }
     const int code = statement_.prepare(access_.db(), sql, access_.backoff());
     if (code != SQLITE_OK) {
-        report(profile_.prepare_failure, {nullptr, code, sqlite3_errmsg(access_.db())});
+        report(profile_.not_prepared, {nullptr, code, sqlite3_errmsg(access_.db())});
         return Start::not_prepared;
     }
     return Start::ready;

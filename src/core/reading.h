@@ -9,12 +9,6 @@
 
 namespace routerdb {
 
-/// How a function reads rows, and what it says when it cannot.
-struct ReadProfile {
-    AccessProfile access;
-    Message prepare_failure;
-};
-
 /// What came of starting a reading. What the profile says to a failure has been said.
 enum class Start : std::uint8_t { not_opened, not_prepared, ready };
 
