@@ -21,7 +21,7 @@ constexpr ReadProfile group = unguarded.sleeping_from(FirstDelay::microseconds_5
 Start read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, DevInfo &record) {
     const Start start = reading.start(sql);
     if (start == Start::ready) {
-        for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        while (reading.next_row()) {
             read_record(reading.row(), table, ssids, record);
         }
     }

@@ -55,7 +55,7 @@ constexpr json::Key keys[] = {
 void print_rows(Reading &reading) {
     StackText<json::Keys(keys).room()> text;
     json::List list(keys, text);
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         list.print(reading.row());
     }
     list.close(list.count());

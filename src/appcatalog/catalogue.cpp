@@ -72,7 +72,7 @@ bool Catalogue::read_applications(Class &owner) {
     if (reading.start(sql) != Start::ready) {
         return false;
     }
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         const Row row = reading.row();
         if (!row.is_text(0) || owner.applications.add({row.text(0), row.text(1), row.text(2)}) == nullptr) {
             return false;
@@ -115,7 +115,7 @@ bool Catalogue::Entry::look_up(const Text &sql) {
     if (reading_.start(sql) != Start::ready) {
         return false;
     }
-    if (reading_.first_row()) {
+    if (reading_.next_row()) {
         name_ = reading_.row().text(0);
         name_en_ = reading_.row().text(1);
     }

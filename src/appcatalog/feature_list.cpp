@@ -32,7 +32,7 @@ void read_features(AppFeatureList &list, int class_id) {
     char *slot = list.features[0];
     std::uint32_t count = 0;
     // There is no limit to the rows: the caller's buffer is sized for the class.
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         const std::string_view feature = catalogue_text(reading.row(), 0);
         std::memcpy(slot, feature.data(), feature.size());
         slot[feature.size()] = '\0';

@@ -38,7 +38,7 @@ void print_rows(const ListSpec &spec, json::Keys keys, Reading &reading, const c
     json::List list(keys, text);
     JoinedNames joined;
     NameJoiner joiner(reading.db());
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         join(keys, reading.row().number(0), joiner, joined);
         const std::string_view given[] = {"0", argument, joined[0], joined[1], joined[2]};
         static_assert(std::size(given) == given_values);
@@ -71,7 +71,7 @@ void print_list(const ListSpec &spec, json::Keys keys, const char *argument) {
         sql.append(argument).append(spec.query_tail);
     }
     SharedConnection connection;
-    const int count = query(profiles::sqlite_sql_int, sql, {nullptr}, &connection);
+    const int count = first_number_closing_input(profiles::sql_int_count_dpi, sql, &connection);
     json::print("{\"ItemList\":");
     if (count < 1) {
         json::print(json::no_list);

@@ -4,7 +4,6 @@
 
 #include "core/access_profile.h"
 #include "core/execute.h"
-#include "core/query.h"
 
 namespace routerdb::profiles {
 
@@ -19,53 +18,30 @@ inline constexpr ExecuteProfile exec_char{guarded.under(Guard::mutex_and_lock_fi
                                           Pragmas::write_tuning};
 
 /// DB_EXEC_SQL_CHAR_INT
-inline constexpr QueryProfile exec_char_int{unguarded.sleeping_from(FirstDelay::microseconds_150)
-                                                .when_busy(Stream::system_log)
-                                                .when_not_opened(code_in_log)
-                                                .abandoning_failed_handle()
-                                                .when_not_prepared(prepare_in_log),
-                                            Rows::counted_up, 0, StandardInput::kept};
+inline constexpr ReadProfile exec_char_int = unguarded.sleeping_from(FirstDelay::microseconds_150)
+                                                 .when_busy(Stream::system_log)
+                                                 .when_not_opened(code_in_log)
+                                                 .abandoning_failed_handle()
+                                                 .when_not_prepared(prepare_in_log);
 
 /// DB_EXEC_SQL_CHAR_LONG
-inline constexpr QueryProfile exec_char_long{
-    unguarded.sleeping_from(FirstDelay::microseconds_50).when_not_opened(code_in_log).when_not_prepared(prepare_in_log),
-    Rows::last_diagonal, 0, StandardInput::kept};
+inline constexpr ReadProfile exec_char_long =
+    unguarded.sleeping_from(FirstDelay::microseconds_50).when_not_opened(code_in_log).when_not_prepared(prepare_in_log);
 
 /// DB_EXEC_SQL_CHAR_CHAR
-inline constexpr QueryProfile exec_char_char{unguarded.sleeping_from(FirstDelay::microseconds_50)
-                                                 .when_not_opened(code_on_error)
-                                                 .when_not_prepared(prepare_on_output),
-                                             Rows::last_text, 0, StandardInput::kept};
+inline constexpr ReadProfile exec_char_char = unguarded.sleeping_from(FirstDelay::microseconds_50)
+                                                  .when_not_opened(code_on_error)
+                                                  .when_not_prepared(prepare_on_output);
 
-/// GET_DB_SQL_INT
-inline constexpr QueryProfile sql_int{guarded.when_not_prepared(exec_on_output), Rows::counted, -1,
-                                      StandardInput::kept};
-
-/// the same statement for nothing but that it can be prepared, which the list of access points goes by
-inline constexpr QueryProfile sql_int_unseen{guarded.when_not_prepared(exec_on_output), Rows::unseen, -1,
-                                             StandardInput::kept};
-
-/// the same statement for its first number instead of its rows, which the zero-configuration groups go by
-inline constexpr QueryProfile sql_int_first_number{guarded.when_not_prepared(exec_on_output), Rows::first_number, -1,
-                                                   StandardInput::kept};
-
-/// GET_DB_SQL_INT_COUNT
-inline constexpr QueryProfile sql_int_count{guarded.when_not_prepared(exec_on_output), Rows::summed_diagonal, -1,
-                                            StandardInput::kept};
+/// GET_DB_SQL_INT, GET_DB_SQL_INT_COUNT
+inline constexpr ReadProfile sql_int = guarded.when_not_prepared(exec_on_output);
 
 /// GET_DB_SQL_INT_COUNT_ROUTE
-inline constexpr QueryProfile sql_int_count_route{
-    unguarded.abandoning_failed_handle().when_not_prepared(error_on_output), Rows::first_number, -1,
-    StandardInput::kept};
+inline constexpr ReadProfile sql_int_count_route =
+    unguarded.abandoning_failed_handle().when_not_prepared(error_on_output);
 
-/// GET_DB_SQL_INT_COUNT_DPI
-inline constexpr QueryProfile sql_int_count_dpi{
-    unguarded.on(Database::catalogue).abandoning_failed_handle().when_not_prepared(error_on_output), Rows::first_number,
-    -1, StandardInput::kept};
-
-/// GET_DB_SQLITE_SQL_INT
-inline constexpr QueryProfile sqlite_sql_int{
-    unguarded.on(Database::catalogue).abandoning_failed_handle().when_not_prepared(error_on_output), Rows::first_number,
-    -1, StandardInput::closed};
+/// GET_DB_SQL_INT_COUNT_DPI, GET_DB_SQLITE_SQL_INT
+inline constexpr ReadProfile sql_int_count_dpi =
+    unguarded.on(Database::catalogue).abandoning_failed_handle().when_not_prepared(error_on_output);
 
 }  // namespace routerdb::profiles

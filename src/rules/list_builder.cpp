@@ -36,7 +36,7 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Deri
     References references(reading.db());
     std::size_t count = 0;
     // There is no limit to the rows: the caller's buffer is sized for the table.
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         void *record = next_record(table, list, count++);
         read_record(table, columns, reading.row(), record);
         if (derive != nullptr) {
