@@ -32,7 +32,7 @@ int ask(const char *what, const RuleTable &table, const Address &address) {
     SqlText statement;
     statement.append("select ").append(what).append(" from ").append(table.name);
     statement.append(" where ").append(address.column).append("=").append_quoted(address.value).append(";");
-    return number_in(Reply(ROUTERDB_TABLE_SCALAR, ROUTERDB_QUERY, statement));
+    return number_in(send(ROUTERDB_TABLE_SCALAR, ROUTERDB_QUERY, statement));
 }
 
 /// @param clashes  whether an address, which some row or none may have, stands in the way

@@ -117,13 +117,14 @@ int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area)
     return sent == 0 ? receive_reply(socket, reply, area) : sent;
 }
 
-Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area)
-    : area_(area) {
+Reply send(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area) {
+    SqlReply reply{};
     if (statement.complete()) {
         const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
                                  statement.c_str()};
-        exchange(request, reply_, area);
+        exchange(request, reply, area);
     }
+    return {reply, area};
 }
 
 Reply::~Reply() {
