@@ -1,8 +1,10 @@
 #include "appcatalog/names.h"
 
 #include <cstring>
+#include <iterator>
 
 #include "appcatalog/catalogue_text.h"
+#include "core/enum_order.h"
 #include "core/statement.h"
 #include "core/text.h"
 #include "routerdb.h"
@@ -23,13 +25,23 @@ bool append_name(char *out, std::size_t &length, std::string_view name) {
     return true;
 }
 
-constexpr char column_names[][9] = {"Name", "Name_En", "Features"};  // in the order of Joined
+struct Column {
+    Joined joined;
+    char name[9];
+};
+
+constexpr Column columns[] = {
+    {Joined::names, "Name"},
+    {Joined::names_en, "Name_En"},
+    {Joined::features, "Features"},
+};
+static_assert(std::size(columns) == joined_columns && follows_enum(columns, &Column::joined));
 
 }  // namespace
 
 void join_names(Joined column, int class_id, char *out, sqlite3 *db) {
     StackText<80> sql;
-    sql.append("select ").append(column_names[static_cast<unsigned>(column)]);
+    sql.append("select ").append(columns[static_cast<unsigned>(column)].name);
     sql.append(" from App_Info where Class_Id=").append_quoted(long{class_id}).append(";");
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
