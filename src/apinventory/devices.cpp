@@ -11,10 +11,13 @@ namespace routerdb {
 
 namespace {
 
-using namespace profiles::parts;
+using namespace profiles;
 
-constexpr ReadProfile one_device{free_logging, prepare_in_log};
-constexpr ReadProfile all_devices{free_printing, prepare_in_log};
+constexpr ReadProfile one_device =
+    unguarded.sleeping_from(FirstDelay::microseconds_50).when_not_opened(code_in_log).when_not_prepared(prepare_in_log);
+constexpr ReadProfile all_devices = unguarded.sleeping_from(FirstDelay::microseconds_50)
+                                        .when_not_opened(code_on_error)
+                                        .when_not_prepared(prepare_in_log);
 
 // Callers see that the table can be counted, not the count: that takes none of the 160 columns.
 constexpr const char *count_text =
@@ -29,7 +32,7 @@ int read_device_by_sn(DevInfo &device, unsigned long sn, Ssids ssids) {
     Reading reading(one_device);
     int count = 0;
     if (reading.start(sql) == Start::ready) {
-        for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        while (reading.next_row()) {
             read_record(reading.row(), Table::devices, ssids, device);
             ++count;
         }
@@ -39,7 +42,7 @@ int read_device_by_sn(DevInfo &device, unsigned long sn, Ssids ssids) {
 
 bool read_all_devices(ApDevList &list, Ssids ssids) {
     SharedConnection connection;
-    if (query(profiles::sql_int_unseen, count_text, {nullptr}, &connection) < 0) {
+    if (try_out(profiles::sql_int, count_text, &connection) < 0) {
         return false;
     }
     list = {};
@@ -47,8 +50,7 @@ bool read_all_devices(ApDevList &list, Ssids ssids) {
     if (reading.start("select * from DevInfo  order by Dev_IPSUM ;") != Start::ready) {
         return false;
     }
-    for (bool more = reading.first_row(); more && list.count < ROUTERDB_DEVICE_LIST_CAPACITY;
-         more = reading.next_row()) {
+    while (reading.next_row() && list.count < ROUTERDB_DEVICE_LIST_CAPACITY) {
         auto *device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         if (device == nullptr) {
             break;

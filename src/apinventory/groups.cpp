@@ -2,7 +2,6 @@
 
 #include "apinventory/record_reader.h"
 #include "apinventory/status.h"
-#include "core/profiles.h"
 #include "core/reading.h"
 #include "core/text.h"
 
@@ -10,16 +9,19 @@ namespace routerdb {
 
 namespace {
 
-using namespace profiles::parts;
+using namespace profiles;
 
-constexpr ReadProfile group{free_printing, prepare_on_output};
-constexpr ReadProfile group_with_random_delay{free_printing_random, prepare_on_output};
+constexpr ReadProfile group_from_random_delay =
+    unguarded.when_not_opened(code_on_error).when_not_prepared(prepare_on_output);
+constexpr ReadProfile group = unguarded.sleeping_from(FirstDelay::microseconds_50)
+                                  .when_not_opened(code_on_error)
+                                  .when_not_prepared(prepare_on_output);
 
 /// Reads all rows, so that the values of the last one stay.
 Start read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, DevInfo &record) {
     const Start start = reading.start(sql);
     if (start == Start::ready) {
-        for (bool more = reading.first_row(); more; more = reading.next_row()) {
+        while (reading.next_row()) {
             read_record(reading.row(), table, ssids, record);
         }
     }
@@ -54,7 +56,7 @@ int read_zero_config(DevInfo &record, int id) {
     record = {};
     StackText<80> sql;
     sql.append("select * from WlanZeroCfgGroupInfo where WlanGroup_Id=").append_quoted(long{id}).append(";");
-    Reading reading(group_with_random_delay);
+    Reading reading(group_from_random_delay);
     // Deliberate: here the SSIDs stay as they are stored, in the default group they do not.
     const Start start = read_rows(reading, sql, Table::zero_config_groups, Ssids::as_stored, record);
     return start == Start::not_opened ? -1 : 0;

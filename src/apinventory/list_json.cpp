@@ -12,9 +12,9 @@ namespace routerdb {
 
 namespace {
 
-using profiles::parts::free_printing_random;
+using namespace profiles;
 
-constexpr ReadProfile page{free_printing_random, {Stream::standard_error, Wording::cannot_prepare}};
+constexpr ReadProfile page = unguarded.when_not_opened(code_on_error).when_not_prepared(prepare_on_error);
 
 /// What is given for an element beside its row.
 enum Given : std::uint8_t { serial_number, stations, no_group_name };
@@ -109,7 +109,7 @@ void print_no_device(const PageRequest &request) {
 void print_rows(Reading &reading, const PageRequest &request, int matches, const Totals &totals) {
     StackText<json::Keys(keys).room()> text;
     json::List list(keys, text);
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         print_device(list, reading.row());
     }
     EndText end;
@@ -124,7 +124,7 @@ void print_page(const PageRequest &request) {
     const Totals totals = read_totals(connection);
     SqlText sql;
     append_count(sql, request);
-    const int matches = query(profiles::sql_int_count_route, sql, {nullptr}, &connection);
+    const int matches = first_number(sql_int_count_route, sql, &connection);
     json::print("{\"ApDevList\":");
     if (matches < 1) {
         print_no_device(request);

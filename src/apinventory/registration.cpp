@@ -29,9 +29,7 @@ struct RowCount {
 
 RowCount count_rows(const Text &sql, SharedConnection &connection) {
     RowCount found{false, 0};
-    Destination destination;
-    destination.counter = &found.count;
-    found.succeeded = query(profiles::exec_char_int, sql, destination, &connection) == 0;
+    found.succeeded = count(profiles::exec_char_int, sql, found.count, &connection) == 0;
     return found;
 }
 

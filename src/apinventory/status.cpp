@@ -25,9 +25,7 @@ void run(const Text &sql) {
 }
 
 void read_text(const Text &sql, TextRoom out) {
-    Destination destination;
-    destination.text = out;
-    [[maybe_unused]] const int result = query(profiles::exec_char_char, sql, destination);
+    [[maybe_unused]] const int result = read(profiles::exec_char_char, sql, out);
 }
 
 }  // namespace
@@ -62,9 +60,7 @@ void read_sn(LookupKey key, std::string_view value, Quotes quotes, unsigned long
         .append("=")
         .append_quoted(value, quotes)
         .append(";");
-    Destination destination;
-    destination.number = &sn;
-    [[maybe_unused]] const int result = query(profiles::exec_char_long, sql, destination, shared);
+    [[maybe_unused]] const int result = read(profiles::exec_char_long, sql, sn, shared);
 }
 
 void set_upgrade_status(const char *mac, const char *status) {
@@ -80,10 +76,8 @@ void set_upgrade_status(const char *mac, const char *status) {
 int count_rows(const char *table, SharedConnection *shared) {
     Sql sql;
     sql.append("select *  from ").append(table).append(";");
-    unsigned int count = 0;
-    Destination destination;
-    destination.counter = &count;
-    return query(profiles::exec_char_int, sql, destination, shared) == 0 ? static_cast<int>(count) : 0;
+    unsigned rows = 0;
+    return count(profiles::exec_char_int, sql, rows, shared) == 0 ? static_cast<int>(rows) : 0;
 }
 
 }  // namespace routerdb

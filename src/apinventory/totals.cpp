@@ -3,22 +3,16 @@
 #include "apinventory/numbers.h"
 #include "core/profiles.h"
 #include "core/query.h"
-#include "core/reading.h"
 
 namespace routerdb {
 
 namespace {
 
 // Nothing is said or left behind here: totals that are not had at once are read one by one, which is said.
-// clang-format off
-constexpr ReadProfile silent_totals{
-    {Database::main, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    no_message};
-// clang-format on
+constexpr ReadProfile silent_totals = profiles::unguarded.when_not_prepared(no_message);
 
 int read_number(const char *sql, SharedConnection *shared) {
-    return query(profiles::sql_int_count_route, sql, {nullptr}, shared);
+    return first_number(profiles::sql_int_count_route, sql, shared);
 }
 
 void read_each(Totals &totals, SharedConnection *shared) {
@@ -37,7 +31,7 @@ bool read_at_once(Totals &totals, SharedConnection *shared) {
     Reading reading(silent_totals, shared);
     if (reading.start("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
                       "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") != Start::ready ||
-        !reading.first_row()) {
+        !reading.next_row()) {
         return false;
     }
     const Row row = reading.row();

@@ -9,7 +9,6 @@
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
-#include "core/reading.h"
 
 namespace routerdb {
 
@@ -40,14 +39,9 @@ void start_network(unsigned number, DevWlanEntry &network) {
     std::snprintf(network.Ssid, sizeof(network.Ssid), second ? "WLAN_2_%u" : "WLAN%u", number % of_a_radio);
 }
 
-/// The first column of the first row, read under the lock file.
-int first_number(SharedConnection &connection, const char *sql) {
-    return query(profiles::sql_int_first_number, sql, {nullptr}, &connection);
-}
-
 int next_group(SharedConnection &connection, int first) {
-    constexpr char highest[] = "select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;";
-    return first == 0 ? 1 : wrapping_sum(first_number(connection, highest), 1);
+    constexpr SqlView highest("select MAX(WlanGroup_Id) from WlanZeroCfgGroupInfo ;");
+    return first == 0 ? 1 : wrapping_sum(first_number(profiles::sql_int, highest, &connection), 1);
 }
 
 void run(const Text &sql) {
@@ -82,12 +76,8 @@ void append_update(Text &sql, const DevInfo &group, int id) {
 }  // namespace
 
 int first_group_number(SharedConnection &connection) {
-    Reading reading(profiles::sql_int_first_number.reading, &connection);
-    if (reading.start("select * from WlanZeroCfgGroupInfo;", "select WlanGroup_Id from WlanZeroCfgGroupInfo;") !=
-        Start::ready) {
-        return -1;
-    }
-    return reading.first_row() ? reading.row().number(0) : 0;
+    constexpr SqlView numbers("select * from WlanZeroCfgGroupInfo;", "select WlanGroup_Id from WlanZeroCfgGroupInfo;");
+    return first_number(profiles::sql_int, numbers, &connection);
 }
 
 void fill_with_defaults(DevInfo &group) {

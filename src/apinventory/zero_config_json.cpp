@@ -2,7 +2,6 @@
 
 #include "apinventory/zero_config.h"
 #include "core/json_list.h"
-#include "core/profiles.h"
 #include "core/reading.h"
 #include "core/text.h"
 
@@ -10,9 +9,9 @@ namespace routerdb {
 
 namespace {
 
-using namespace profiles::parts;
+using namespace profiles;
 
-constexpr ReadProfile groups{free_printing_random, prepare_on_output};
+constexpr ReadProfile groups = unguarded.when_not_opened(code_on_error).when_not_prepared(prepare_on_output);
 
 constexpr char query_text[] =
     "select WlanGroup_Id,WlanGroup_Name,WlanGroup_Wlan1_Ssid,WlanGroup_Wlan1_Security,WlanGroup_Wlan1_AuthMode,"
@@ -56,7 +55,7 @@ constexpr json::Key keys[] = {
 void print_rows(Reading &reading) {
     StackText<json::Keys(keys).room()> text;
     json::List list(keys, text);
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         list.print(reading.row());
     }
     list.close(list.count());

@@ -6,20 +6,13 @@ namespace routerdb {
 
 namespace {
 
-constexpr Message error_on_output{Stream::standard_output, Wording::error};
+using namespace profiles;
 
-// clang-format off
-constexpr ReadProfile entries{
-    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, error_on_output, FailedHandle::closed},
-    error_on_output};
+constexpr ReadProfile entries =
+    unguarded.on(Database::catalogue).when_not_opened(error_on_output).when_not_prepared(error_on_output);
 
 // Nothing is said here: an application that is not known afterwards is looked up by itself, and that lookup says it.
-constexpr ReadProfile applications_of_class{
-    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    no_message};
-// clang-format on
+constexpr ReadProfile applications_of_class = unguarded.on(Database::catalogue).when_not_prepared(no_message);
 
 /// The names of what is known not to be there.
 constexpr const char *no_names[2] = {nullptr, nullptr};
@@ -79,7 +72,7 @@ bool Catalogue::read_applications(Class &owner) {
     if (reading.start(sql) != Start::ready) {
         return false;
     }
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         const Row row = reading.row();
         if (!row.is_text(0) || owner.applications.add({row.text(0), row.text(1), row.text(2)}) == nullptr) {
             return false;
@@ -122,7 +115,7 @@ bool Catalogue::Entry::look_up(const Text &sql) {
     if (reading_.start(sql) != Start::ready) {
         return false;
     }
-    if (reading_.first_row()) {
+    if (reading_.next_row()) {
         name_ = reading_.row().text(0);
         name_en_ = reading_.row().text(1);
     }

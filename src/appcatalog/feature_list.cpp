@@ -3,22 +3,19 @@
 #include <cstring>
 
 #include "appcatalog/catalogue_text.h"
-#include "core/profiles.h"
 #include "core/reading.h"
 
 namespace routerdb {
 
 namespace {
 
-using profiles::parts::error_on_output;
+using namespace profiles;
 
-// The lock file need not be there.
-// clang-format off
-constexpr ReadProfile features{
-    {Database::main, Guard::lock_file_if_there, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::standard_output, error_on_output, FailedHandle::closed},
-    error_on_output};
-// clang-format on
+constexpr ReadProfile features = unguarded
+                                     .under(Guard::lock_file_if_there)  // the lock file need not be there
+                                     .when_not_locked(Stream::standard_output)
+                                     .when_not_opened(error_on_output)
+                                     .when_not_prepared(error_on_output);
 
 constexpr std::size_t slot_size = sizeof(AppFeatureList::features[0]);
 
@@ -35,7 +32,7 @@ void read_features(AppFeatureList &list, int class_id) {
     char *slot = list.features[0];
     std::uint32_t count = 0;
     // There is no limit to the rows: the caller's buffer is sized for the class.
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         const std::string_view feature = catalogue_text(reading.row(), 0);
         std::memcpy(slot, feature.data(), feature.size());
         slot[feature.size()] = '\0';

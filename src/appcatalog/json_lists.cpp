@@ -14,14 +14,7 @@ namespace routerdb {
 
 namespace {
 
-using profiles::parts::webserver_on_output;
-
-// clang-format off
-constexpr ReadProfile catalogue{
-    {Database::catalogue, Guard::none, FirstDelay::random, Draw::after_opening_lock_file, 1,
-     Stream::nowhere, Stream::nowhere, no_message, FailedHandle::closed},
-    webserver_on_output};
-// clang-format on
+constexpr ReadProfile catalogue = profiles::unguarded.on(Database::catalogue).when_not_prepared(webserver_on_output);
 
 /// The joined names of one class.
 using JoinedNames = char[joined_columns][ROUTERDB_JOINED_NAMES];
@@ -46,7 +39,7 @@ void print_rows(const ListSpec &spec, json::Keys keys, Reading &reading, const c
     json::List list(keys, text);
     JoinedNames joined;
     NameJoiner joiner(reading.db());
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         join(keys, reading.row().number(0), joiner, joined);
         const std::string_view given[] = {"0", argument, joined[0], joined[1], joined[2]};
         static_assert(std::size(given) == given_values);
@@ -79,7 +72,7 @@ void print_list(const ListSpec &spec, json::Keys keys, const char *argument) {
         sql.append(argument).append(spec.query_tail);
     }
     SharedConnection connection;
-    const int count = query(profiles::sqlite_sql_int, sql, {nullptr}, &connection);
+    const int count = first_number_closing_input(profiles::sql_int_count_dpi, sql, &connection);
     json::print("{\"ItemList\":");
     if (count < 1) {
         json::print(json::no_list);

@@ -1,8 +1,10 @@
 #include "appcatalog/names.h"
 
 #include <cstring>
+#include <iterator>
 
 #include "appcatalog/catalogue_text.h"
+#include "core/enum_order.h"
 #include "core/statement.h"
 #include "core/text.h"
 #include "routerdb.h"
@@ -23,26 +25,32 @@ bool append_name(char *out, std::size_t &length, std::string_view name) {
     return true;
 }
 
-constexpr char column_names[][9] = {"Name", "Name_En", "Features"};  // in the order of Joined
+struct Column {
+    Joined joined;
+    char name[9];
+};
+
+constexpr Column columns[] = {
+    {Joined::names, "Name"},
+    {Joined::names_en, "Name_En"},
+    {Joined::features, "Features"},
+};
+static_assert(std::size(columns) == joined_columns && follows_enum(columns, &Column::joined));
 
 }  // namespace
 
 void join_names(Joined column, int class_id, char *out, sqlite3 *db) {
     StackText<80> sql;
-    sql.append("select ").append(column_names[static_cast<unsigned>(column)]);
+    sql.append("select ").append(columns[static_cast<unsigned>(column)].name);
     sql.append(" from App_Info where Class_Id=").append_quoted(long{class_id}).append(";");
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
-    const int code = statement.prepare(db, sql.c_str(), backoff);
-    if (code != SQLITE_OK) {
-        report({Stream::standard_output, Wording::webserver_error}, {nullptr, code, sqlite3_errmsg(db)});
+    if (!statement.prepare(db, sql.c_str(), backoff, webserver_on_output)) {
         return;
     }
-    bool more = statement.first_row(backoff);
     out[0] = '\0';
     std::size_t length = 0;
-    while (more) {
-        more = append_name(out, length, catalogue_text(statement.row(), 0)) && statement.next_row();
+    while (statement.next_row(backoff) && append_name(out, length, catalogue_text(statement.row(), 0))) {
     }
 }
 
@@ -70,11 +78,11 @@ bool NameJoiner::read_applications() {
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
     // The condition leaves out what no class's number would equal as the text that it is in the statement above.
-    if (statement.prepare(db_, "select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;",
-                          backoff) != SQLITE_OK) {
+    if (!statement.prepare(db_, "select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;",
+                           backoff, no_message)) {
         return false;
     }
-    for (bool more = statement.first_row(backoff); more; more = statement.next_row()) {
+    while (statement.next_row(backoff)) {
         if (!remember(statement.row())) {
             return false;
         }

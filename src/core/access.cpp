@@ -25,7 +25,7 @@ bool Access::take_guard() {
         draw();
     }
     if (profile_.guard != Guard::none && !lock_file_.open()) {
-        printed_ = report({profile_.lock_failure, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
+        printed_ = report({profile_.not_locked, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
         if (profile_.guard != Guard::lock_file_if_there) {
             return false;
         }
@@ -44,7 +44,7 @@ bool Access::open_database() {
     if (code_ == SQLITE_OK) {
         return true;
     }
-    printed_ = report(profile_.open_failure, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
+    printed_ = report(profile_.not_opened, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.
     }

@@ -2,34 +2,10 @@
 // every process rely on, and released in reverse.
 #pragma once
 
-#include <cstdint>
-
-#include "core/backoff.h"
-#include "core/connection.h"
+#include "core/access_profile.h"
 #include "core/lock_file.h"
-#include "core/report.h"
 
 namespace routerdb {
-
-enum class Guard : std::uint8_t { none, lock_file_if_there, lock_file, mutex_and_lock_file };
-
-/// When the first delay is drawn: callers that put their own rand() or gettimeofday() in front see the difference.
-enum class Draw : std::uint8_t { before_opening_lock_file, after_opening_lock_file };
-
-enum class FailedHandle : std::uint8_t { closed, abandoned };
-
-/// How a function reaches its database. The functions of the direct road differ in what stands here.
-struct AccessProfile {
-    Database database;
-    Guard guard;
-    FirstDelay first_delay;
-    Draw draw;
-    std::uint8_t scale;          // of the sleeps
-    Stream busy;                 // told after each sleep
-    Stream lock_failure;         // told when the lock file cannot be opened
-    Message open_failure;        // told when the database cannot be opened
-    FailedHandle failed_handle;  // what becomes of a connection that SQLite could not open
-};
 
 /// Owns db_mutex while it holds it.
 class MutexHold {

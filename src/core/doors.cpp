@@ -57,45 +57,39 @@ int DB_EXEC_SQL_CHAR(const char *sql) {
 }
 
 int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count) {
-    Destination destination;
-    destination.counter = count;
-    return query(profiles::exec_char_int, or_empty(sql), destination);
+    return routerdb::count(profiles::exec_char_int, or_empty(sql), *count);
 }
 
 int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value) {
-    Destination destination;
-    destination.number = value;
-    return query(profiles::exec_char_long, or_empty(sql), destination);
+    return read(profiles::exec_char_long, or_empty(sql), *value);
 }
 
 int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out) {
-    Destination destination;
-    destination.text = unlimited_room(out);
-    return query(profiles::exec_char_char, or_empty(sql), destination);
+    return read(profiles::exec_char_char, or_empty(sql), unlimited_room(out));
 }
 
 int GET_DB_SQL_INT_COUNT(const char *sql) {
-    return query(profiles::sql_int_count, or_empty(sql));
+    return sum_diagonal(profiles::sql_int, or_empty(sql));
 }
 
 int GET_DB_SQL_INT(const char *sql) {
-    return query(profiles::sql_int, or_empty(sql));
+    return count(profiles::sql_int, or_empty(sql));
 }
 
 int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql) {
-    return query(profiles::sql_int_count_route, or_empty(sql));
+    return first_number(profiles::sql_int_count_route, or_empty(sql));
 }
 
 int GET_DB_SQL_INT_COUNT_DPI(const char *sql) {
-    return query(profiles::sql_int_count_dpi, or_empty(sql));
+    return first_number(profiles::sql_int_count_dpi, or_empty(sql));
 }
 
 int GET_DB_SQLITE_SQL_INT(const char *sql) {
-    return query(profiles::sqlite_sql_int, or_empty(sql));
+    return first_number_closing_input(profiles::sql_int_count_dpi, or_empty(sql));
 }
 
 unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db) {
-    return static_cast<unsigned int>(read_first_text(db, or_empty(sql), out));
+    return static_cast<unsigned int>(read_first(db, or_empty(sql), out));
 }
 
 int muti_id_convert_int_array(char *text, int *ids) {

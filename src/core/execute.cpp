@@ -52,19 +52,15 @@ int execute(Access &access, const char *sql) {
     return code == SQLITE_OK ? 0 : -1;
 }
 
-int execute(const ExecuteProfile &profile, const char *sql) {
+int execute(const ExecuteProfile &profile, SqlView sql) {
     Access access(profile.access);
-    if (!access.open()) {
+    if (!sql.complete() || !access.open()) {
         return -1;
     }
     if (profile.pragmas == Pragmas::write_tuning) {
         tune_for_writing(access.db());
     }
-    return execute(access, sql);
-}
-
-int execute(const ExecuteProfile &profile, const Text &sql) {
-    return sql.complete() ? execute(profile, sql.c_str()) : -1;
+    return execute(access, sql.text());
 }
 
 int execute_with_copy(const char *sql) {

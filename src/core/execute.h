@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/access.h"
-#include "core/text.h"
+#include "core/sql_view.h"
 
 namespace routerdb {
 
@@ -18,13 +18,9 @@ struct ExecuteProfile {
 /// @return 0 or -1
 [[nodiscard]] int execute(Access &access, const char *sql);
 
-/// Opens as the profile says, executes, closes.
+/// Opens as the profile says, executes, closes. A text that memory ran out for is not executed.
 /// @return 0 or -1
-[[nodiscard]] int execute(const ExecuteProfile &profile, const char *sql);
-
-/// The same with a text that was built. One that memory ran out for is not executed.
-/// @return 0 or -1
-[[nodiscard]] int execute(const ExecuteProfile &profile, const Text &sql);
+[[nodiscard]] int execute(const ExecuteProfile &profile, SqlView sql);
 
 /// Executes SQL under the lock file and leaves the background copy of the database behind.
 /// @return 0 or -1

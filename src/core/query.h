@@ -1,37 +1,44 @@
-// The engine of the statement helpers that read.
+// The engines of the statement helpers that read. Each opens as the profile says, runs a query, closes.
+// `shared` is the connection of the call that the query is part of; null for one of its own.
 #pragma once
 
 #include "core/reading.h"
 
 namespace routerdb {
 
-/// What becomes of the rows.
-enum class Rows : std::uint8_t {
-    counted_up,       // each adds 1 to the caller's counter
-    counted,          // the result is their number
-    summed_diagonal,  // the result is the sum of column k of row k
-    last_diagonal,    // column k of the last row k
-    first_number,     // the result is the first column of the first row
-    unseen,           // the result is 0: all that counts is that the text can be prepared
-    last_text,        // the first column of every row, so that the last one stays; NULL leaves what was there
-};
+// The outcome is the result: -1 when the database cannot be opened or the text cannot be prepared.
 
-enum class StandardInput : std::uint8_t { kept, closed };
+/// @return the number of rows
+[[nodiscard]] int count(const ReadProfile &profile, SqlView sql);
 
-/// One statement helper.
-struct QueryProfile {
-    ReadProfile reading;
-    Rows rows;
-    std::int8_t failed_prepare_result;
-    StandardInput standard_input;
-};
+/// @return the sum of column k of row k, both counted from 0
+[[nodiscard]] int sum_diagonal(const ReadProfile &profile, SqlView sql);
+
+/// @return the first column of the first row; 0 without a row
+[[nodiscard]] int first_number(const ReadProfile &profile, SqlView sql, SharedConnection *shared = nullptr);
+
+/// The same, and closes standard input.
+[[nodiscard]] int first_number_closing_input(const ReadProfile &profile, SqlView sql,
+                                             SharedConnection *shared = nullptr);
+
+/// For queries whose rows nobody sees: all that counts is that the text can be prepared.
+/// @return 0
+[[nodiscard]] int try_out(const ReadProfile &profile, SqlView sql, SharedConnection *shared = nullptr);
+
+// The outcome goes into the caller's variable. The result is 0, also when the text cannot be prepared; -1 when the
+// database cannot be opened.
+
+/// Adds 1 to the counter for each row.
+[[nodiscard]] int count(const ReadProfile &profile, SqlView sql, unsigned &counter, SharedConnection *shared = nullptr);
+
+/// Reads column k of row k, both counted from 0, so that the last one stays.
+[[nodiscard]] int read(const ReadProfile &profile, SqlView sql, unsigned long &number,
+                       SharedConnection *shared = nullptr);
 
 /// Where a text goes. One that is longer is cut so that its terminator fits.
 struct TextRoom {
     char *first;
     std::size_t size;
-
-    void take(const char *text) const { copy_cut(text, first, size); }
 };
 
 /// The room of a caller who vouches for it.
@@ -39,27 +46,11 @@ constexpr TextRoom unlimited_room(char *first) {
     return {first, SIZE_MAX};
 }
 
-/// The caller's variable, where the rows go into one. Which member counts follows from the profile's rows.
-union Destination {
-    unsigned int *counter;
-    unsigned long *number;
-    TextRoom text;
-};
-
-/// Opens as the profile says, runs a query, closes.
-/// @param shared  the connection of the call that the query is part of; null for one of its own
-/// @return the number, for rows that give one; 0 for rows that go to the destination; the profile's result when the
-///         text cannot be prepared; -1 when the database cannot be opened
-[[nodiscard]] int query(const QueryProfile &profile, const char *sql, Destination destination = {nullptr},
-                        SharedConnection *shared = nullptr);
-
-/// The same with a text that was built. One that memory ran out for is not run.
-/// @return as above; -1 for a text that is not run
-[[nodiscard]] int query(const QueryProfile &profile, const Text &sql, Destination destination,
-                        SharedConnection *shared = nullptr);
+/// Reads the first column of every row, so that the last one stays; NULL leaves what was there.
+[[nodiscard]] int read(const ReadProfile &profile, SqlView sql, TextRoom text);
 
 /// Runs a query on the connection of a caller. The first column of the first row becomes the text, "0" for NULL.
 /// @return 0; -1 when the text cannot be prepared
-[[nodiscard]] int read_first_text(sqlite3 *db, const char *sql, char *text);
+[[nodiscard]] int read_first(sqlite3 *db, const char *sql, char *text);
 
 }  // namespace routerdb

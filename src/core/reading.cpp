@@ -2,26 +2,28 @@
 
 namespace routerdb {
 
-Start Reading::start(const char *sql, const char *narrow) {
-    const bool narrows = build_profile.names_needed_columns && narrow != nullptr;
-    if (!access_.take_guard()) {
+Reading::Reading(const ReadProfile &profile, SharedConnection *shared)
+    : profile_(profile), shared_(shared), access_(profile.access) {}
+
+Reading::~Reading() {
+    close();
+}
+
+Start Reading::start(SqlView sql) {
+    if (!sql.complete() || !access_.take_guard()) {
         return Start::not_opened;
     }
-    if (start_on_shared(narrows ? narrow : sql)) {
+    if (start_on_shared(sql.narrow() != nullptr ? sql.narrow() : sql.text())) {
         return Start::ready;
     }
     if (!access_.open_database()) {
         return Start::not_opened;
     }
-    if (narrows && start_silently(narrow)) {
+    if (sql.narrow() != nullptr && start_silently(sql.narrow())) {
         return Start::ready;
     }
-    const int code = statement_.prepare(access_.db(), sql, access_.backoff());
-    if (code != SQLITE_OK) {
-        report(profile_.prepare_failure, {nullptr, code, sqlite3_errmsg(access_.db())});
-        return Start::not_prepared;
-    }
-    return Start::ready;
+    return statement_.prepare(access_.db(), sql.text(), access_.backoff(), profile_.not_prepared) ? Start::ready
+                                                                                                  : Start::not_prepared;
 }
 
 /// Starts on the connection of earlier readings. It remembers tables: that they are still there shows at the first step
@@ -39,14 +41,20 @@ bool Reading::start_on_shared(const char *sql) {
 
 /// Prepares a query that another stands in for when it fails, and takes its first step, which may fail as well.
 bool Reading::start_silently(const char *sql) {
-    if (statement_.prepare(access_.db(), sql, access_.backoff()) == SQLITE_OK) {
-        statement_.first_row(access_.backoff());
-    }
-    if (!statement_.ended_well()) {
+    ahead_ = statement_.prepare(access_.db(), sql, access_.backoff(), no_message) &&
+             (statement_.next_row(access_.backoff()) || statement_.ended_well());
+    if (!ahead_) {
         statement_.finalize();
-        return false;
     }
-    return true;
+    return ahead_;
+}
+
+bool Reading::next_row() {
+    if (ahead_) {
+        ahead_ = false;
+        return statement_.has_row();
+    }
+    return statement_.next_row(access_.backoff());
 }
 
 Reading::Closed Reading::close() {

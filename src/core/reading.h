@@ -2,18 +2,11 @@
 #pragma once
 
 #include "core/access.h"
-#include "core/build_profile.h"
 #include "core/shared_connection.h"
+#include "core/sql_view.h"
 #include "core/statement.h"
-#include "core/text.h"
 
 namespace routerdb {
-
-/// How a function reads rows, and what it says when it cannot.
-struct ReadProfile {
-    AccessProfile access;
-    Message prepare_failure;
-};
 
 /// What came of starting a reading. What the profile says to a failure has been said.
 enum class Start : std::uint8_t { not_opened, not_prepared, ready };
@@ -22,24 +15,18 @@ enum class Start : std::uint8_t { not_opened, not_prepared, ready };
 class Reading {
 public:
     /// @param shared  the connection of the call that the reading is part of; null for one of its own
-    explicit Reading(const ReadProfile &profile, SharedConnection *shared = nullptr)
-        : profile_(profile), shared_(shared), access_(profile.access) {}
+    explicit Reading(const ReadProfile &profile, SharedConnection *shared = nullptr);
     Reading(const Reading &) = delete;
     Reading &operator=(const Reading &) = delete;
-    ~Reading() { close(); }
+    ~Reading();
 
-    /// Takes what the profile names, opens the database and prepares a query.
-    /// @param narrow  the query with the columns alone that are read, for build profiles that name them; null for none
-    [[nodiscard]] Start start(const char *sql, const char *narrow = nullptr);
+    /// Takes what the profile names, opens the database and prepares a query. For a text that memory ran out for
+    /// nothing is opened.
+    [[nodiscard]] Start start(SqlView sql);
 
-    /// The same with a text that was built. For one that memory ran out for nothing is opened.
-    [[nodiscard]] Start start(const Text &sql) { return sql.complete() ? start(sql.c_str()) : Start::not_opened; }
-
-    /// @return whether there is a row; waits for a busy database
-    [[nodiscard]] bool first_row() { return statement_.first_row(access_.backoff()); }
-
-    /// @return whether there is another row
-    [[nodiscard]] bool next_row() { return statement_.next_row(); }
+    /// Steps to the next row, which for a query that has just been started is the first.
+    /// @return whether there is one
+    [[nodiscard]] bool next_row();
 
     /// Whether the rows so far are all that there are.
     bool ended_well() const { return statement_.ended_well(); }
@@ -71,6 +58,7 @@ private:
     SharedConnection *shared_;
     Access access_;
     Statement statement_;
+    bool ahead_ = false;  // the first step has been taken
 };
 
 }  // namespace routerdb

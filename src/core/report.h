@@ -25,6 +25,14 @@ struct Message {
 };
 
 inline constexpr Message no_message{Stream::nowhere, Wording::error};
+inline constexpr Message code_on_error{Stream::standard_error, Wording::cannot_open_code};
+inline constexpr Message code_in_log{Stream::system_log, Wording::cannot_open_code};
+inline constexpr Message prepare_on_output{Stream::standard_output, Wording::cannot_prepare};
+inline constexpr Message prepare_on_error{Stream::standard_error, Wording::cannot_prepare};
+inline constexpr Message prepare_in_log{Stream::system_log, Wording::cannot_prepare};
+inline constexpr Message exec_on_output{Stream::standard_output, Wording::cannot_exec_no_message};
+inline constexpr Message error_on_output{Stream::standard_output, Wording::error};
+inline constexpr Message webserver_on_output{Stream::standard_output, Wording::webserver_error};
 
 /// What happened. A wording takes from it what it prints.
 struct Failure {

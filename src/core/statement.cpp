@@ -11,25 +11,26 @@ void Statement::finalize() {
     }
 }
 
-int Statement::prepare(sqlite3 *db, const char *sql, Backoff &backoff) {
+bool Statement::prepare(sqlite3 *db, const char *sql, Backoff &backoff, Message failure) {
     db_ = db;
     code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_prepare_v2(db_, sql, -1, &statement_, nullptr); });
-    return code_;
+    if (code_ != SQLITE_OK) {
+        report(failure, {nullptr, code_, sqlite3_errmsg(db_)});
+    }
+    return code_ == SQLITE_OK;
 }
 
-bool Statement::first_row(Backoff &backoff) {
+bool Statement::next_row(Backoff &backoff) {
+    const auto step = [this] { return sqlite3_step(statement_); };
     if (statement_ == nullptr) {
         return false;
     }
     if (code_ == SQLITE_OK) {
-        code_ = retry_while_busy(backoff, db_, [&] { return sqlite3_step(statement_); });
+        code_ = retry_while_busy(backoff, db_, step);
+    } else if (code_ == SQLITE_ROW) {
+        code_ = step();
     }
-    return code_ == SQLITE_ROW;
-}
-
-bool Statement::next_row() {
-    code_ = sqlite3_step(statement_);
-    return code_ == SQLITE_ROW;
+    return has_row();
 }
 
 }  // namespace routerdb

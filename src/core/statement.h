@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include "core/backoff.h"
+#include "core/report.h"
 #include "core/row.h"
 
 namespace routerdb {
@@ -18,8 +19,8 @@ public:
 
     /// Prepares the first statement of a text, retrying while the database is busy. A text that holds no statement
     /// prepares to nothing and has no rows.
-    /// @return the result code of SQLite
-    [[nodiscard]] int prepare(sqlite3 *db, const char *sql, Backoff &backoff);
+    /// @return false after the message
+    [[nodiscard]] bool prepare(sqlite3 *db, const char *sql, Backoff &backoff, Message failure);
 
     /// Binds a text, which stays the caller's, to the one parameter.
     [[nodiscard]] bool bind(const char *text) {
@@ -32,14 +33,13 @@ public:
         code_ = SQLITE_OK;
     }
 
-    /// Steps to the first row, retrying while the database is busy: nothing has been delivered yet, and a reader
-    /// beside a writer would come back empty otherwise. The step is taken once, also when it is asked for ahead.
-    /// @return whether there is one
-    bool first_row(Backoff &backoff);
+    /// Steps on. The step to the first row is tried again while the database is busy: nothing has been delivered yet,
+    /// and a reader beside a writer would come back empty otherwise. Afterwards any result other than a row ends the
+    /// rows.
+    /// @return whether there is a row
+    bool next_row(Backoff &backoff);
 
-    /// Steps on. Any result other than a row ends the rows.
-    /// @return whether there is another one
-    [[nodiscard]] bool next_row();
+    bool has_row() const { return code_ == SQLITE_ROW; }
 
     /// Whether the statement so far gave all that there is: a row, or the end of the rows.
     bool ended_well() const { return code_ == SQLITE_OK || code_ == SQLITE_ROW || code_ == SQLITE_DONE; }

@@ -12,11 +12,11 @@ namespace routerdb {
 namespace {
 
 Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area = nullptr) {
-    return table_id == no_table ? Reply() : Reply(table_id, operation, statement, area);
+    return table_id == no_table ? Reply() : send(table_id, operation, statement, area);
 }
 
 /// Sends a statement whose reply says nothing.
-void send(std::uint8_t table_id, const Text &statement) {
+void execute(std::uint8_t table_id, const Text &statement) {
     const Reply reply = request(table_id, ROUTERDB_EXECUTE, statement);
 }
 
@@ -56,40 +56,40 @@ void get_item(const RuleTable &table, int id, void *record) {
 void add_item(const RuleTable &table, const void *record) {
     SqlText statement;
     append_insert(statement, table, record);
-    send(table.id, statement);
+    execute(table.id, statement);
 }
 
 void modify_item(const RuleTable &table, const void *record) {
     SqlText statement;
     append_update(statement, table, record);
-    send(table.id, statement);
+    execute(table.id, statement);
 }
 
 void delete_items(const RuleTable &table, const char *condition) {
     SqlText statement;
     append_delete(statement, table);
     statement.append(or_empty(condition)).append(";");
-    send(table.delete_id, statement);
+    execute(table.delete_id, statement);
 }
 
 void delete_item(const RuleTable &table, int id) {
     SqlText statement;
     append_delete(statement, table);
     statement.append("id=").append_quoted(long{id}).append(";");
-    send(table.delete_id, statement);
+    execute(table.delete_id, statement);
 }
 
 void delete_items_of(const RuleTable &table, const char *mac) {
     SqlText statement;
     append_delete(statement, table);
     statement.append("mac=").append_quoted(or_empty(mac)).append(";");
-    send(table.delete_id, statement);
+    execute(table.delete_id, statement);
 }
 
 void delete_all_items(const RuleTable &table) {
     SqlText statement;
     append_delete_all(statement, table);
-    send(table.delete_id, statement);
+    execute(table.delete_id, statement);
 }
 
 }  // namespace routerdb

@@ -11,20 +11,15 @@ namespace routerdb {
 
 namespace {
 
-constexpr Message error_on_output{Stream::standard_output, Wording::error};
+using namespace profiles;
 
-// The rows of BuilderMessages. The first delay is drawn before anything else.
-// clang-format off
-constexpr ReadProfile profiles[] = {
-    {{Database::main, Guard::lock_file, FirstDelay::random, Draw::before_opening_lock_file, 1,
-      Stream::nowhere, Stream::standard_output, error_on_output, FailedHandle::closed},
-     error_on_output},
-    {{Database::main, Guard::lock_file, FirstDelay::random, Draw::before_opening_lock_file, 1,
-      Stream::nowhere, Stream::standard_error, {Stream::standard_error, Wording::cannot_open_code},
-      FailedHandle::closed},
-     {Stream::standard_output, Wording::cannot_prepare}},
-};
-// clang-format on
+// The first delay is drawn before anything else.
+constexpr ReadProfile common = unguarded.under(Guard::lock_file)
+                                   .drawing_first()
+                                   .when_not_locked(Stream::standard_output)
+                                   .when_not_opened(error_on_output)
+                                   .when_not_prepared(error_on_output);
+constexpr ReadProfile detailed = guarded.drawing_first().when_not_prepared(prepare_on_output);
 
 /// The place of record `index` in a list. The list is cleared, what lies behind its capacity is cleared here.
 void *next_record(const RuleTable &table, void *list, std::size_t index) {
@@ -41,7 +36,7 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Deri
     References references(reading.db());
     std::size_t count = 0;
     // There is no limit to the rows: the caller's buffer is sized for the table.
-    for (bool more = reading.first_row(); more; more = reading.next_row()) {
+    while (reading.next_row()) {
         void *record = next_record(table, list, count++);
         read_record(table, columns, reading.row(), record);
         if (derive != nullptr) {
@@ -55,7 +50,7 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Deri
 
 int build_item_list(const RuleTable &table, void *list, const char *sql, Derive derive) {
     std::memset(list, 0, table.list_size());
-    Reading reading(profiles[static_cast<unsigned>(table.messages)]);
+    Reading reading(table.messages == BuilderMessages::detailed ? detailed : common);
     if (reading.start(sql) == Start::ready) {
         put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, derive)));
     }

@@ -30,12 +30,10 @@ void read_ip_group(const Statement &statement, void *group) {
 bool look_up(sqlite3 *db, const Text &sql, Wording failure, ReadGroup read, void *group) {
     Backoff backoff(FirstDelay::random);
     Statement statement;
-    const int code = statement.prepare(db, sql.c_str(), backoff);
-    if (code != SQLITE_OK) {
-        report({Stream::standard_output, failure}, {nullptr, code, sqlite3_errmsg(db)});
+    if (!statement.prepare(db, sql.c_str(), backoff, {Stream::standard_output, failure})) {
         return false;
     }
-    if (statement.first_row(backoff)) {
+    if (statement.next_row(backoff)) {
         read(statement, group);
     }
     return statement.ended_well();
@@ -45,13 +43,13 @@ bool look_up(sqlite3 *db, const Text &sql, Wording failure, ReadGroup read, void
 /// fails.
 bool look_up_bound(sqlite3 *db, Statement &statement, const char *sql, int id, ReadGroup read, void *group) {
     Backoff backoff(FirstDelay::random);
-    if (statement.handle() == nullptr && statement.prepare(db, sql, backoff) != SQLITE_OK) {
+    if (statement.handle() == nullptr && !statement.prepare(db, sql, backoff, no_message)) {
         return false;
     }
     StackText<16> text;  // as the other lookups have it, so that the column converts it in the same way
     text.append(long{id});
     const bool bound = statement.bind(text.c_str());
-    if (bound && statement.first_row(backoff)) {
+    if (bound && statement.next_row(backoff)) {
         read(statement, group);
     }
     const bool went_well = bound && statement.ended_well();

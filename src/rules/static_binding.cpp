@@ -20,7 +20,7 @@ int ask(const char *what, const RuleTable &table, const Address &address) {
     SqlText statement;
     statement.append("select ").append(what).append(" from ").append(table.name);
     statement.append(" where ").append(address.column).append("=").append_quoted(address.value).append(";");
-    const Reply reply(ROUTERDB_TABLE_SCALAR, ROUTERDB_QUERY, statement);
+    const Reply reply = send(ROUTERDB_TABLE_SCALAR, ROUTERDB_QUERY, statement);
     return number_in({reply.data(), reply.size()});
 }
 

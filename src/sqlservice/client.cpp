@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "core/build_profile.h"
+#include "core/enum_order.h"
 #include "sqlservice/sigpipe_hold.h"
 #include "sqlservice/socket.h"
 #include "sqlservice/wire.h"
@@ -17,16 +18,25 @@ namespace {
 
 enum class Step : std::uint8_t { create, connect, send_header, send_text, receive_header, allocate, receive_data };
 
-constexpr char failures[][40] = {
-    "cannot create sql socket client",         "cannot connect sql socket client",
-    "send header to sql socket server fail",   "send data to sql socket server fail",
-    "recv header from sql socket server fail", "sql client malloc data buffer fail",
-    "recv data from sql socket server fail",
+struct Failure {
+    Step step;
+    char text[40];
 };
+
+constexpr Failure failures[] = {
+    {Step::create, "cannot create sql socket client"},
+    {Step::connect, "cannot connect sql socket client"},
+    {Step::send_header, "send header to sql socket server fail"},
+    {Step::send_text, "send data to sql socket server fail"},
+    {Step::receive_header, "recv header from sql socket server fail"},
+    {Step::allocate, "sql client malloc data buffer fail"},
+    {Step::receive_data, "recv data from sql socket server fail"},
+};
+static_assert(follows_enum(failures, &Failure::step));
 
 /// Each failure is reported twice, with the system's reason on standard error.
 int fail(Step step) {
-    const char *failure = failures[static_cast<unsigned>(step)];
+    const char *failure = failures[static_cast<unsigned>(step)].text;
     std::perror(failure);
     syslog(LOG_ERR, "%s!\n", failure);
     return -1;
@@ -117,13 +127,14 @@ int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area)
     return sent == 0 ? receive_reply(socket, reply, area) : sent;
 }
 
-Reply::Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area)
-    : area_(area) {
+Reply send(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area) {
+    SqlReply reply{};
     if (statement.complete()) {
         const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
                                  statement.c_str()};
-        exchange(request, reply_, area);
+        exchange(request, reply, area);
     }
+    return {reply, area};
 }
 
 Reply::~Reply() {

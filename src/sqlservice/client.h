@@ -25,9 +25,8 @@ public:
     /// No reply, because nothing was asked.
     Reply() = default;
 
-    /// Sends a statement; an incomplete text is not sent.
-    /// @param area  outlives the reply
-    Reply(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area = nullptr);
+    /// Takes over what exchange() left.
+    Reply(const SqlReply &reply, const RecordArea *area) : reply_(reply), area_(area) {}
     Reply(const Reply &) = delete;
     Reply &operator=(const Reply &) = delete;
     ~Reply();
@@ -40,5 +39,9 @@ private:
     SqlReply reply_{};
     const RecordArea *area_ = nullptr;
 };
+
+/// Sends a statement and receives the reply; an incomplete text is not sent.
+/// @param area  outlives the reply
+Reply send(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area = nullptr);
 
 }  // namespace routerdb

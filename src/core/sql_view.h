@@ -1,0 +1,29 @@
+// Statements on their way to SQLite.
+#pragma once
+
+#include "core/build_profile.h"
+#include "core/text.h"
+
+namespace routerdb {
+
+/// A statement that stays where it is: a literal, or a text that was built.
+class SqlView {
+public:
+    /// @param narrow  the same query with the columns alone that are read; null for none
+    constexpr SqlView(const char *text, const char *narrow = nullptr) : text_(text), narrow_(narrow) {}
+    SqlView(const Text &text) : text_(text.complete() ? text.c_str() : nullptr) {}
+
+    /// False for a text that memory ran out for. It is not to be run.
+    constexpr bool complete() const { return text_ != nullptr; }
+
+    constexpr const char *text() const { return text_; }
+
+    /// Null for none, and in build profiles that do not name the columns they need.
+    constexpr const char *narrow() const { return build_profile.names_needed_columns ? narrow_ : nullptr; }
+
+private:
+    const char *text_;
+    const char *narrow_ = nullptr;
+};
+
+}  // namespace routerdb
