@@ -77,7 +77,7 @@ int read(const ReadProfile &profile, SqlView sql, TextRoom text) {
     const Start start = reading.start(sql);
     while (reading.next_row()) {
         if (const char *const value = reading.row().text(0, nullptr)) {
-            copy_cut(value, text.first, text.size);
+            text.take(value);
         }
     }
     return start == Start::not_opened ? -1 : 0;

@@ -39,6 +39,8 @@ namespace routerdb {
 struct TextRoom {
     char *first;
     std::size_t size;
+
+    void take(const char *text) const { copy_cut(text, first, size); }
 };
 
 /// The room of a caller who vouches for it.
