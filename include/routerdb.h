@@ -21,6 +21,7 @@
 ///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()). Once a
 ///    row has come nothing is tried again: any other answer ends the rows. A text of several statements is tried
 ///    again from its start: those before the one that was busy may be applied twice.
+///    The lock file is waited for without limit too; the wait goes on after a signal.
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
 ///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay, and
@@ -74,11 +75,12 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 /// @param offset  first byte, relative to `whence`
 /// @param whence  SEEK_SET, SEEK_CUR or SEEK_END
 /// @param len     length in bytes; 0 means up to the end of the file, however long it grows
-/// @return the result of fcntl, with errno as it left it
+/// @return the result of fcntl, with errno as it left it: -1 and EINTR when a signal ended the wait of F_SETLKW
 /// @note Thread-safe; the lock belongs to the process.
 ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int whence, routerdb_off_t len);
 
-/// Opens the database lock file, which must exist, and waits for a write lock on the whole of it.
+/// Opens the database lock file, which must exist, and waits for a write lock on the whole of it, without limit and
+/// whatever signals arrive.
 /// @return the lock handle, a descriptor to be given to free_db_lock(); -1 if the file cannot be opened, after
 ///         "cannot open %s!\n" on standard error
 /// @note Any thread may call it, yet two threads of one process do not exclude each other.
