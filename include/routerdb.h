@@ -96,6 +96,9 @@ ROUTERDB_API int free_db_lock(int fd);
 ///
 /// After a text that does not contain "select" (in lower case, anywhere) a background shell command copies the
 /// database file, whether the statement succeeded or not; an insert whose value contains "select" gets no copy.
+///
+/// A text of several statements that finds the database busy part way may be applied again from its start, with those
+/// that had gone through. A transaction that the busy attempt left open is rolled back first.
 /// @param sql  one or more statements; only read
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
@@ -128,7 +131,8 @@ ROUTERDB_API int reset_sqlite_db(void);
 /// DB_EXEC_SQL_CHAR() excludes other threads; the others are safe in any thread because they share nothing.
 /// @{
 
-/// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows.
+/// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows. What is
+/// busy part way may be applied again as in DbSqlExec().
 /// @param sql  one or more statements
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: as DbSqlExec(). The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds
