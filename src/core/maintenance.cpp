@@ -1,7 +1,8 @@
 #include "core/maintenance.h"
 
-#include <sqlite3.h>
+#include <unistd.h>
 
+#include "core/journal.h"
 #include "core/lock_file.h"
 #include "core/paths.h"
 #include "core/report.h"
@@ -10,16 +11,6 @@
 namespace routerdb {
 
 namespace {
-
-/// Lets SQLite roll back what a killed writer left behind: its journal would destroy the file that is put in place,
-/// or be missing from the copy that is made.
-void settle_journal() {
-    sqlite3 *db = nullptr;
-    if (sqlite3_open_v2(paths::main_database, &db, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK) {
-        sqlite3_exec(db, "select count(*) from sqlite_master;", nullptr, nullptr, nullptr);
-    }
-    sqlite3_close(db);
-}
 
 /// Runs `commands` under the lock file.
 template <typename Commands>
@@ -30,13 +21,17 @@ int maintain(Commands commands) {
         return -1;
     }
     lock_file.lock();
-    settle_journal();
+    settle_main_database();
     commands();
     return 0;
 }
 
 void copy(const char *from, const char *to) {
     run_in_shell(command_size, "cp -f %s %s", from, to);
+}
+
+bool can_be_read(const char *path) {
+    return access(path, R_OK) == 0;
 }
 
 }  // namespace
@@ -49,11 +44,17 @@ int backup_main_database() {
 }
 
 int restore_main_database() {
-    return maintain([] { copy(paths::backup_database, paths::main_database); });
+    return maintain([] {
+        if (can_be_read(paths::backup_database)) {  // or the database stays, and needs its journal
+            remove_main_journals();
+        }
+        copy(paths::backup_database, paths::main_database);
+    });
 }
 
 int reset_main_database() {
     return maintain([] {
+        remove_main_journals();
         run_in_shell(command_size, "rm -f %s; cp -f %s %s", paths::main_database, paths::factory_database,
                      paths::main_database);
         copy(paths::factory_database, paths::main_database);  // Deliberate: the factory copy is made twice.

@@ -17,27 +17,32 @@ using Lines = std::vector<std::string>;
 struct Operation : support::Named {
     int (*run)();
     Lines commands;
+    bool replaces_the_main_database;
 };
 
 const Operation operations[] = {
     {{"backup_sqlite_db"},
      backup_sqlite_db,
      {"system mkdir -p /var/tmpconfig/database",
-      "system cp -f /etc/config/systemconf/database/myrouter.db /var/tmpconfig/database/myrouter.db"}},
+      "system cp -f /etc/config/systemconf/database/myrouter.db /var/tmpconfig/database/myrouter.db"},
+     false},
     {{"restore_sqlite_db"},
      restore_sqlite_db,
-     {"system cp -f /var/tmpconfig/database/myrouter.db /etc/config/systemconf/database/myrouter.db"}},
+     {"system cp -f /var/tmpconfig/database/myrouter.db /etc/config/systemconf/database/myrouter.db"},
+     true},
     {{"reset_sqlite_db"},
      reset_sqlite_db,
      {"system rm -f /etc/config/systemconf/database/myrouter.db; cp -f "
       "/rom/etc/config/systemconf/database/myrouter.db /etc/config/systemconf/database/myrouter.db",
       "system cp -f /rom/etc/config/systemconf/database/myrouter.db "
-      "/etc/config/systemconf/database/myrouter.db"}},
+      "/etc/config/systemconf/database/myrouter.db"},
+     true},
 };
 
 class Maintenance : public ::testing::TestWithParam<Operation> {};
 
 TEST_P(Maintenance, runs_its_commands_under_the_lock_after_settling_the_database) {
+    ASSERT_EQ(backup_sqlite_db(), 0);
     Recorder recorder;
     recorder.keep_commands_from_running();
     Holdings holdings(recorder);
@@ -45,6 +50,10 @@ TEST_P(Maintenance, runs_its_commands_under_the_lock_after_settling_the_database
     Lines expected{"open lock file", "lock",
                    "sqlite3_open_v2 /etc/config/systemconf/database/myrouter.db 2",  // SQLITE_OPEN_READWRITE
                    "sqlite3_exec select count(*) from sqlite_master;", "sqlite3_close"};
+    if (GetParam().replaces_the_main_database) {
+        expected.insert(expected.end(), {"unlink /etc/config/systemconf/database/myrouter.db-journal",
+                                         "unlink /etc/config/systemconf/database/myrouter.db-wal"});
+    }
     expected.insert(expected.end(), GetParam().commands.begin(), GetParam().commands.end());
     expected.insert(expected.end(), {"unlock", "close lock file"});
     EXPECT_EQ(recorder.calls(), expected);
