@@ -20,8 +20,8 @@
 /// 6. Busy databases. While SQLite answers 5 (busy), 6 (locked) or 10 (I/O error) a call sleeps and tries again,
 ///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()). Once a
 ///    row has come nothing is tried again: any other answer ends the rows. A text of several statements is tried
-///    again from its start: those before the one that was busy may be applied twice.
-///    The lock file is waited for without limit too; the wait goes on after a signal.
+///    again from its start: those before the one that was busy may be applied twice. The lock file is waited for
+///    without limit too, and on after a signal.
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
 ///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay, and
@@ -97,8 +97,8 @@ ROUTERDB_API int free_db_lock(int fd);
 /// After a text that does not contain "select" (in lower case, anywhere) a background shell command copies the
 /// database file, whether the statement succeeded or not; an insert whose value contains "select" gets no copy.
 ///
-/// A text of several statements that finds the database busy part way may be applied again from its start, with those
-/// that had gone through. A transaction that the busy attempt left open is rolled back first.
+/// A text of several statements that was busy part way is applied again from its start, with those that had gone
+/// through. A transaction that the busy attempt left open is rolled back first.
 /// @param sql  one or more statements; only read
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
@@ -107,18 +107,33 @@ ROUTERDB_API int free_db_lock(int fd);
 /// @note Does not take db_mutex: threads of one process must take turns.
 ROUTERDB_API int DbSqlExec(char *sql);
 
-/// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first.
+/// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first. The copy is on
+/// disk when the call returns. It replaces the earlier backup whatever the main database is, a damaged one included.
+///
+/// What a killed writer left in the main database is rolled back first. While the database is busy, or gives I/O
+/// errors, this is tried again: for 60 seconds, or 1 second, of sleeping. If it has not succeeded by then, the copy may
+/// be in the middle of a change; the main database keeps its journal.
 /// @return 0, whatever became of the copy; -1 if the lock file cannot be opened ("cannot open %s!\n" on standard
 ///         error)
-/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns.
+/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns. A caller that is killed
+///       alone loses the lock while the "cp" that it started goes on.
 ROUTERDB_API int backup_sqlite_db(void);
 
-/// Copies the backup over the main database. Without a backup the main database stays as it is.
+/// Copies the backup over the main database. Without a backup the main database stays as it is. The restored database
+/// is on disk when the call returns.
+///
+/// Rolls back first as backup_sqlite_db() does; a journal that is still there afterwards is removed, since it would
+/// destroy the restored database. A kill or a power loss during the call may leave a main database that is part the one
+/// and part the other: a call of reset_sqlite_db() mends it.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
 ROUTERDB_API int restore_sqlite_db(void);
 
-/// Replaces the main database with the factory copy on the read-only file system.
+/// Replaces the main database with the factory copy on the read-only file system. The new database is on disk when the
+/// call returns.
+///
+/// Rolls back, and removes a journal, as restore_sqlite_db() does. A kill or a power loss during the call may leave no
+/// main database, or part of one: another call mends it.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
 ROUTERDB_API int reset_sqlite_db(void);

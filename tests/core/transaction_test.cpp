@@ -13,7 +13,6 @@
 namespace {
 
 using support::Recorder;
-using Lines = std::vector<std::string>;
 
 // The word "select" keeps DbSqlExec from leaving its copy command behind.
 constexpr char addition[] =
@@ -111,7 +110,7 @@ TEST_P(Transaction, passes_readers_of_another_process_each_time) {
     EXPECT_EQ(rows(), "100");
 }
 
-INSTANTIATE_TEST_SUITE_P(, Transaction, ::testing::Values(helpers::db_sql_exec, helpers::exec_char),
-                         helper_name<Helper>);
+INSTANTIATE_TEST_SUITE_P(, Transaction, ::testing::Values(helper("DbSqlExec"), helper("DB_EXEC_SQL_CHAR")),
+                         helper_name);
 
 }  // namespace
