@@ -40,6 +40,7 @@ add_library(
     src/core/encoding.cpp
     src/core/execute.cpp
     src/core/id_list.cpp
+    src/core/journal.cpp
     src/core/json_list.cpp
     src/core/lock_file.cpp
     src/core/maintenance.cpp

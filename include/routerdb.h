@@ -20,7 +20,8 @@
 /// 6. Busy databases. While SQLite answers 5 (busy), 6 (locked) or 10 (I/O error) a call sleeps and tries again,
 ///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()). Once a
 ///    row has come nothing is tried again: any other answer ends the rows. A text of several statements is tried
-///    again from its start: those before the one that was busy may be applied twice.
+///    again from its start: those before the one that was busy may be applied twice. The lock file is waited for
+///    without limit too, and on after a signal.
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
 ///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay, and
@@ -74,11 +75,12 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 /// @param offset  first byte, relative to `whence`
 /// @param whence  SEEK_SET, SEEK_CUR or SEEK_END
 /// @param len     length in bytes; 0 means up to the end of the file, however long it grows
-/// @return the result of fcntl, with errno as it left it
+/// @return the result of fcntl, with errno as it left it: -1 and EINTR when a signal ended the wait of F_SETLKW
 /// @note Thread-safe; the lock belongs to the process.
 ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int whence, routerdb_off_t len);
 
-/// Opens the database lock file, which must exist, and waits for a write lock on the whole of it.
+/// Opens the database lock file, which must exist, and waits for a write lock on the whole of it, without limit and
+/// whatever signals arrive.
 /// @return the lock handle, a descriptor to be given to free_db_lock(); -1 if the file cannot be opened, after
 ///         "cannot open %s!\n" on standard error
 /// @note Any thread may call it, yet two threads of one process do not exclude each other.
@@ -94,6 +96,9 @@ ROUTERDB_API int free_db_lock(int fd);
 ///
 /// After a text that does not contain "select" (in lower case, anywhere) a background shell command copies the
 /// database file, whether the statement succeeded or not; an insert whose value contains "select" gets no copy.
+///
+/// A text of several statements that was busy part way is applied again from its start, with those that had gone
+/// through. A transaction that the busy attempt left open is rolled back first.
 /// @param sql  one or more statements; only read
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
@@ -102,18 +107,33 @@ ROUTERDB_API int free_db_lock(int fd);
 /// @note Does not take db_mutex: threads of one process must take turns.
 ROUTERDB_API int DbSqlExec(char *sql);
 
-/// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first.
+/// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first. The copy is on
+/// disk when the call returns. It replaces the earlier backup whatever the main database is, a damaged one included.
+///
+/// What a killed writer left in the main database is rolled back first. While the database is busy, or gives I/O
+/// errors, this is tried again: for 60 seconds, or 1 second, of sleeping. If it has not succeeded by then, the copy may
+/// be in the middle of a change; the main database keeps its journal.
 /// @return 0, whatever became of the copy; -1 if the lock file cannot be opened ("cannot open %s!\n" on standard
 ///         error)
-/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns.
+/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns. A caller that is killed
+///       alone loses the lock while the "cp" that it started goes on.
 ROUTERDB_API int backup_sqlite_db(void);
 
-/// Copies the backup over the main database. Without a backup the main database stays as it is.
+/// Copies the backup over the main database. Without a backup the main database stays as it is. The restored database
+/// is on disk when the call returns.
+///
+/// Rolls back first as backup_sqlite_db() does; a journal that is still there afterwards is removed, since it would
+/// destroy the restored database. A kill or a power loss during the call may leave a main database that is part the one
+/// and part the other: a call of reset_sqlite_db() mends it.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
 ROUTERDB_API int restore_sqlite_db(void);
 
-/// Replaces the main database with the factory copy on the read-only file system.
+/// Replaces the main database with the factory copy on the read-only file system. The new database is on disk when the
+/// call returns.
+///
+/// Rolls back, and removes a journal, as restore_sqlite_db() does. A kill or a power loss during the call may leave no
+/// main database, or part of one: another call mends it.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
 ROUTERDB_API int reset_sqlite_db(void);
@@ -126,7 +146,8 @@ ROUTERDB_API int reset_sqlite_db(void);
 /// DB_EXEC_SQL_CHAR() excludes other threads; the others are safe in any thread because they share nothing.
 /// @{
 
-/// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows.
+/// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows. What is
+/// busy part way may be applied again as in DbSqlExec().
 /// @param sql  one or more statements
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: as DbSqlExec(). The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds

@@ -25,9 +25,13 @@ useconds_t first_delay(FirstDelay first) {
 Backoff::Backoff(FirstDelay first, useconds_t scale, Stream busy_stream)
     : delay_(first_delay(first)), scale_(scale), busy_stream_(busy_stream) {}
 
+useconds_t Backoff::next_sleep() const {
+    return (delay_ + step) * scale_;
+}
+
 void Backoff::sleep(sqlite3 *db) {
+    usleep(next_sleep());
     delay_ += step;
-    usleep(delay_ * scale_);
     if (busy_stream_ != Stream::nowhere) {
         report({busy_stream_, Wording::busy}, {nullptr, 0, sqlite3_errmsg(db)});
     }

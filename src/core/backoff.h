@@ -26,6 +26,9 @@ public:
     /// Draws the first delay.
     explicit Backoff(FirstDelay first, useconds_t scale = 1, Stream busy_stream = Stream::nowhere);
 
+    /// How long the next sleep lasts.
+    useconds_t next_sleep() const;
+
     /// Sleeps for the next delay, then reports that `db` was busy, if this series does.
     void sleep(sqlite3 *db);
 

@@ -32,6 +32,14 @@ void tune_for_writing(sqlite3 *db) {
     }
 }
 
+/// An attempt that was busy part way has left its transaction open: the next one could not begin it again, and whoever
+/// it waits for may be waiting for it.
+void leave_transaction(sqlite3 *db) {
+    if (sqlite3_get_autocommit(db) == 0) {
+        sqlite3_exec(db, "rollback;", nullptr, nullptr, nullptr);
+    }
+}
+
 /// Callers rely on the plain text search: "SELECT" does not count, and the word inside a value does.
 bool looks_like_a_query(const char *sql) {
     return std::strstr(sql, "select") != nullptr;
@@ -44,7 +52,9 @@ int execute(Access &access, const char *sql) {
     const int code = retry_while_busy(access.backoff(), db, [&] {
         ErrorMessage message;
         const int result = sqlite3_exec(db, sql, nullptr, nullptr, &message.text);
-        if (result != SQLITE_OK && !is_busy(result)) {
+        if (is_busy(result)) {
+            leave_transaction(db);
+        } else if (result != SQLITE_OK) {
             report({Stream::standard_output, Wording::cannot_exec}, {nullptr, result, message.text});
         }
         return result;

@@ -13,8 +13,8 @@ struct ExecuteProfile {
     Pragmas pragmas;
 };
 
-/// Executes SQL on an open connection, retrying the whole text while the database is busy. A failure is written to
-/// standard output.
+/// Executes SQL on an open connection, retrying the whole text while the database is busy, without what a transaction
+/// of the busy attempt did. A failure is written to standard output.
 /// @return 0 or -1
 [[nodiscard]] int execute(Access &access, const char *sql);
 

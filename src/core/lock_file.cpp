@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 
 #include "core/paths.h"
@@ -41,7 +42,10 @@ bool LockFile::open() {
 }
 
 void LockFile::lock() {
-    set_record_lock(fd_, F_SETLKW, F_WRLCK, 0, SEEK_SET, 0);
+    int result = -1;
+    do {
+        result = set_record_lock(fd_, F_SETLKW, F_WRLCK, 0, SEEK_SET, 0);
+    } while (result == -1 && errno == EINTR);  // a signal of the program's is no reason to go on without the lock
 }
 
 int LockFile::release() {

@@ -31,7 +31,7 @@ public:
     /// Opens the file, which must exist. Nothing is locked yet: the first delay is drawn between the two.
     [[nodiscard]] bool open();
 
-    /// Waits for the write lock on the whole file.
+    /// Waits for the write lock on the whole file, whatever signals arrive meanwhile.
     void lock();
 
     /// Unlocks and closes now instead of at the end of the scope.

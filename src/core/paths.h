@@ -4,6 +4,9 @@
 namespace routerdb::paths {
 
 inline constexpr char main_database[] = "/etc/config/systemconf/database/myrouter.db";
+inline constexpr char main_journal[] = "/etc/config/systemconf/database/myrouter.db-journal";
+inline constexpr char main_write_ahead_log[] = "/etc/config/systemconf/database/myrouter.db-wal";
+inline constexpr char main_directory[] = "/etc/config/systemconf/database";
 inline constexpr char catalogue_database[] = "/etc/config/systemconf/database/dpilib.db";
 inline constexpr char lock_file[] = "/var/databaselock";
 inline constexpr char backup_directory[] = "/var/tmpconfig/database";

@@ -22,6 +22,15 @@ void make_databases_unusable() {
     }
 }
 
+/// What a call holds while it writes a message on standard output or standard error; "no message" without one.
+template <typename Call>
+std::string held_at_message(Call call) {
+    std::string held = "no message";
+    const support::WatchedStreams streams([&](const std::string & /*text*/) { held = Holdings::held(); });
+    call();
+    return held;
+}
+
 class FailureTest : public HelperTest {
 protected:
     Traces traces_of(const char *sql) const {
@@ -33,6 +42,12 @@ protected:
         traces.error = text.error;
         traces.log = recorder_.calls({"syslog"});
         return traces;
+    }
+
+    /// The message of a failure comes before anything is released.
+    void expect_told_while_held(const char *sql, const Traces &traces) const {
+        const bool prints = !traces.output.empty() || !traces.error.empty();
+        EXPECT_EQ(held_at_message([&] { call(sql); }), prints ? GetParam().held_when_it_prints : "no message");
     }
 
     mutable Recorder recorder_;
@@ -60,6 +75,12 @@ TEST_P(OpenFailure, releases_all_but_an_abandoned_connection) {
     EXPECT_EQ(support::open_descriptors(), descriptors - static_cast<int>(recorder_.calls({"close 0"}).size()));
     EXPECT_TRUE(support::lock_file_is_free());
     EXPECT_TRUE(mutex_is_free());
+}
+
+TEST_P(OpenFailure, is_told_before_anything_is_released) {
+    make_databases_unusable();
+    const support::DeliberateLeak leak(GetParam().abandons);
+    expect_told_while_held("select 5;", GetParam().open_failure);
 }
 
 TEST_P(OpenFailure, any_code_but_busy_locked_and_io_error_is_final) {
@@ -92,6 +113,10 @@ TEST_P(StatementFailure, releases_everything) {
     EXPECT_EQ(sqlite3_memory_used(), memory);
     EXPECT_TRUE(support::lock_file_is_free());
     EXPECT_TRUE(mutex_is_free());
+}
+
+TEST_P(StatementFailure, is_told_before_anything_is_released) {
+    expect_told_while_held("nonsense;", GetParam().statement_failure);
 }
 
 TEST_P(StatementFailure, any_code_but_busy_locked_and_io_error_is_final) {

@@ -45,6 +45,7 @@ void execute_under_the_lock(Helper &helper) {
     helper.outcomes = {{0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}, {0, ""}};
     helper.open_failure = {{-1, ""}, "", open_message, {}};
     helper.statement_failure = {{-1, ""}, execute_message, "", {}};
+    helper.held_when_it_prints = "lock";
 }
 
 Helper db_sql_exec() {
@@ -81,6 +82,7 @@ Helper exec_char() {
     helper.holdings = {"open lock file: mutex",
                        "sqlite3_open /etc/config/systemconf/database/myrouter.db: mutex and lock",
                        "close lock file: mutex", "afterwards: nothing"};
+    helper.held_when_it_prints = "mutex and lock";
     helper.statements_ahead = 3;
     helper.sleeps = {5600, 6100, 6600, 7100, 7600, 8100};
     helper.longest_first = 15500;
@@ -137,6 +139,7 @@ void read_under_the_lock(Helper &helper) {
     helper.holdings = {"sqlite3_open /etc/config/systemconf/database/myrouter.db: lock", "close lock file: nothing"};
     helper.open_failure = {{-1, ""}, "", open_message, {}};
     helper.statement_failure = {{-1, ""}, execute_no_message, "", {}};
+    helper.held_when_it_prints = "lock";
 }
 
 Helper int_count() {

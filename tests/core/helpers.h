@@ -74,6 +74,7 @@ struct Helper : Callable {
     Traces open_failure{};
     bool abandons = false;  // the connection that SQLite could not open
     Traces statement_failure{};
+    std::string held_when_it_prints = "nothing";
 };
 
 /// All of them.

@@ -26,6 +26,13 @@ public:
         recorder.watch([this](const std::string &line) { look(line); });
     }
 
+    /// What is held now.
+    static std::string held() {
+        const bool mutex = !mutex_is_free();
+        const bool lock = !support::lock_file_is_free();
+        return mutex && lock ? "mutex and lock" : mutex ? "mutex" : lock ? "lock" : "nothing";
+    }
+
     /// Each change, as "<the first call that is made so>: <what is held>", up to now.
     std::vector<std::string> changes() {
         look("afterwards");
@@ -33,12 +40,6 @@ public:
     }
 
 private:
-    static std::string held() {
-        const bool mutex = !mutex_is_free();
-        const bool lock = !support::lock_file_is_free();
-        return mutex && lock ? "mutex and lock" : mutex ? "mutex" : lock ? "lock" : "nothing";
-    }
-
     void look(const std::string &line) {
         const std::string now = held();
         if (now != before_) {

@@ -27,11 +27,6 @@ bool byte_is_free(off_t byte) {
            }).wait() == 0;
 }
 
-/// Whether a process in this private root is waiting for a record lock.
-bool somebody_waits_for_a_lock() {
-    return support::file_content("/proc/locks").find("-> POSIX") != std::string::npos;
-}
-
 class LockReg : public ::testing::Test {
 protected:
     LockReg() : fd_(open(support::lock_file, O_RDWR)) {}
@@ -125,7 +120,7 @@ TEST(GetDbLock, waits_for_another_process) {
     });
     locked.wait();
     Process waiter([] { return free_db_lock(get_db_lock()) == 0; });
-    EXPECT_TRUE(support::eventually(somebody_waits_for_a_lock));
+    EXPECT_TRUE(support::eventually(support::somebody_waits_for_a_lock));
     release.open();
     EXPECT_EQ(waiter.wait(), 0);
     EXPECT_EQ(holder.wait(), 0);

@@ -4,12 +4,14 @@
 #include <optional>
 
 #include "fault/direct_calls.h"
-#include "fault/failing_files.h"
 #include "routerdb.h"
 #include "support/database.h"
 #include "support/deliberate_leak.h"
+#include "support/failing_files.h"
 
 namespace {
+
+using support::FailingFiles;
 
 class FileFaults : public DirectRoad {
 protected:

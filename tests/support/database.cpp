@@ -113,4 +113,8 @@ bool lock_file_is_free() {
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+bool somebody_waits_for_a_lock() {
+    return file_content("/proc/locks").find("-> POSIX") != std::string::npos;
+}
+
 }  // namespace support

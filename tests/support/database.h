@@ -52,4 +52,7 @@ int open_descriptors();
 /// Whether another process could take the write lock on the database lock file now.
 bool lock_file_is_free();
 
+/// Whether a process in this private root is waiting for a record lock.
+bool somebody_waits_for_a_lock();
+
 }  // namespace support

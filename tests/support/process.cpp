@@ -37,6 +37,12 @@ Process::~Process() {
     }
 }
 
+bool Process::has_ended() const {
+    siginfo_t ended{};
+    waitid(P_PID, static_cast<id_t>(id_), &ended, WEXITED | WNOHANG | WNOWAIT);
+    return ended.si_pid == id_;
+}
+
 int Process::wait() {
     int status = 0;
     waitpid(id_, &status, 0);

@@ -19,6 +19,8 @@ public:
 
     pid_t id() const { return id_; }
 
+    bool has_ended() const;
+
     /// Waits for its end.
     /// @return its exit status; 128 and the signal's number if a signal has ended it
     int wait();

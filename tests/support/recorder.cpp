@@ -248,6 +248,30 @@ int close(int fd) {
     return REAL(close)(fd);
 }
 
+int unlink(const char *path) noexcept {
+    const Call call;
+    if (std::strstr(path, "myrouter.db-") != nullptr) {
+        call.note(std::string("unlink ") + path);
+    }
+    return REAL(unlink)(path);
+}
+
+int syncfs(int fd) noexcept {
+    const Call call;
+    char path[PATH_MAX] = "";
+    if (call && readlink(("/proc/self/fd/" + std::to_string(fd)).c_str(), path, sizeof(path) - 1) >= 0) {
+        call.note(std::string("syncfs ") + path);
+    }
+    int error = 0;
+    return call.answered("syncfs", error) ? refused(error) : REAL(syncfs)(fd);
+}
+
+void sync() noexcept {
+    const Call call;
+    call.note("sync");
+    REAL(sync)();
+}
+
 int fcntl(int fd, int command, ...) {
     va_list arguments;
     va_start(arguments, command);
@@ -346,6 +370,11 @@ int sqlite3_open(const char *path, sqlite3 **db) {
 int sqlite3_open_v2(const char *path, sqlite3 **db, int flags, const char *vfs) {
     const Call call;
     call.note(std::string("sqlite3_open_v2 ") + path + " " + std::to_string(flags));
+    int result = 0;
+    if (call.answered("sqlite3_open_v2", result)) {
+        *db = nullptr;
+        return result;
+    }
     return REAL(sqlite3_open_v2)(path, db, flags, vfs);
 }
 

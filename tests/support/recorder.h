@@ -22,8 +22,8 @@ public:
 
     /// Answers that the next calls of `function` give without being made, one each; after them the real one answers.
     /// sqlite3_close closes all the same.
-    /// For "sqlite3_..." and "usleep" the number is the result code, for "socket", "connect", "send", "recv", "open"
-    /// and "fcntl" it is the errno that goes with -1.
+    /// For "sqlite3_..." and "usleep" the number is the result code, for "socket", "connect", "send", "recv", "open",
+    /// "fcntl" and "syncfs" it is the errno that goes with -1.
     void answer(std::string_view function, std::initializer_list<int> results);
 
     /// As an answer: that call is made.
@@ -37,7 +37,7 @@ public:
 
     /// All calls, as "usleep 155", "sqlite3_open /etc/...", "system cp -f ...", "syslog 3 cannot open ...".
     /// Of open, fcntl and close only those on the database lock file are noted, as "open lock file", "lock",
-    /// "unlock", "close lock file", and close(0) as "close 0".
+    /// "unlock", "close lock file", and close(0) as "close 0"; of unlink those on a journal of the main database.
     const std::vector<std::string> &calls() const;
 
     /// The calls that start with one of the words, such as {"usleep", "system"}.

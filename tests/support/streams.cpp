@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstdio>
+#include <utility>
 
 namespace support {
 
@@ -46,6 +47,25 @@ std::string Streams::restore(Redirected &stream) {
     text.resize(size > 0 ? static_cast<std::size_t>(size) : 0);
     close(stream.file);
     return text;
+}
+
+WatchedStreams::WatchedStreams(std::function<void(const std::string &)> watcher)
+    : watcher_(std::move(watcher)),
+      watched_(fopencookie(this, "w", {nullptr, show, nullptr, nullptr})),
+      output_(std::exchange(stdout, watched_)),
+      error_(std::exchange(stderr, watched_)) {
+    std::setvbuf(watched_, nullptr, _IONBF, 0);
+}
+
+WatchedStreams::~WatchedStreams() {
+    stdout = output_;
+    stderr = error_;
+    std::fclose(watched_);
+}
+
+ssize_t WatchedStreams::show(void *self, const char *text, size_t size) {
+    static_cast<WatchedStreams *>(self)->watcher_(std::string(text, size));
+    return static_cast<ssize_t>(size);
 }
 
 }  // namespace support

@@ -1,6 +1,10 @@
 // What a piece of code writes to standard output and standard error.
 #pragma once
 
+#include <sys/types.h>
+
+#include <cstdio>
+#include <functional>
 #include <string>
 
 namespace support {
@@ -33,6 +37,23 @@ private:
 
     Redirected output_;
     Redirected error_;
+};
+
+/// Both streams, whose texts are shown to a watcher at the moment they are written.
+class WatchedStreams {
+public:
+    explicit WatchedStreams(std::function<void(const std::string &text)> watcher);
+    WatchedStreams(const WatchedStreams &) = delete;
+    WatchedStreams &operator=(const WatchedStreams &) = delete;
+    ~WatchedStreams();
+
+private:
+    static ssize_t show(void *self, const char *text, size_t size);
+
+    std::function<void(const std::string &)> watcher_;
+    FILE *watched_;
+    FILE *output_;
+    FILE *error_;
 };
 
 /// What `action` writes.

@@ -1,5 +1,7 @@
-// Files that SQLite opens: the n-th one fails.
+// Files of SQLite: opening the n-th one fails, or removing them does.
 #pragma once
+
+namespace support {
 
 /// While it lives, all connections that are opened go through it.
 class FailingFiles {
@@ -13,3 +15,14 @@ public:
     /// Whether the failure has come up.
     static bool failed();
 };
+
+/// The same for removals: each of the next `times` gives an I/O error.
+class FailingRemovals {
+public:
+    explicit FailingRemovals(int times);
+    FailingRemovals(const FailingRemovals &) = delete;
+    FailingRemovals &operator=(const FailingRemovals &) = delete;
+    ~FailingRemovals();
+};
+
+}  // namespace support
