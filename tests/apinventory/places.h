@@ -10,6 +10,7 @@
 namespace places {
 
 inline constexpr std::size_t record_size = 6936;
+inline constexpr int device_columns = 160;
 
 /// In place of a column.
 inline constexpr int none = -1;

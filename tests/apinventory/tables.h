@@ -15,7 +15,7 @@ struct Table {
     int places::Place::*column;
 };
 
-inline constexpr Table devices{"DevInfo", 160, &places::Place::device};
+inline constexpr Table devices{"DevInfo", places::device_columns, &places::Place::device};
 inline constexpr Table wlan_groups{"WlanGroupInfo", 122, &places::Place::group};
 inline constexpr Table zero_config_groups{"WlanZeroCfgGroupInfo", 126, &places::Place::group};
 

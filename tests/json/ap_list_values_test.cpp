@@ -3,6 +3,7 @@
 
 #include <cstdio>
 
+#include "apinventory/places.h"
 #include "json/ap_list.h"
 #include "json/printed.h"
 #include "routerdb.h"
@@ -17,9 +18,9 @@ using printed::Texts;
 
 /// Adds a row whose columns behind the first are given by number.
 template <typename Text>
-void add_row(int columns, Text text) {
+void add_row(Text text) {
     std::string values = "7";
-    for (int column = 1; column < columns; ++column) {
+    for (int column = 1; column < places::device_columns; ++column) {
         values += ",'" + text(column) + "'";
     }
     support::execute("insert into DevInfo values(" + values + ");");
@@ -32,7 +33,7 @@ Texts only_element() {
 }
 
 TEST(ApListElement, shows_each_column_under_its_key) {
-    add_row(160, [](int column) { return "c" + std::to_string(column); });
+    add_row([](int column) { return "c" + std::to_string(column); });
     printed::expect_complete(
         ap_list::page({}),
         ap_list::opening +
@@ -77,7 +78,7 @@ TEST(ApListElement, cuts_each_value_at_the_width_of_its_member) {
         {"m_wlan_ssid", cut(99)},
         {"m_wlan_ssid_sec", cut(99)},
     };
-    add_row(160, [](int) { return std::string(300, 'x'); });
+    add_row([](int) { return std::string(300, 'x'); });
     EXPECT_EQ(only_element(), expected);
 }
 
