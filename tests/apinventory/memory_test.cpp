@@ -104,7 +104,7 @@ TEST(Memory, a_list_ends_early_where_there_is_none_for_a_record) {
         EXPECT_EQ(GetApDevList(&list, 0), n == 1 ? 0 : 1);
         EXPECT_EQ(list.count, static_cast<uint32_t>(n - 1));
         EXPECT_EQ(calls.failed(), n < 4);
-        EXPECT_EQ(calls.blocks(), Sizes(list.count, 6936));
+        EXPECT_EQ(calls.blocks(), Sizes(list.count, places::record_size));
         FreeApDevList(&list);
         EXPECT_EQ(calls.blocks(), Sizes());
     }
