@@ -5,6 +5,7 @@
 #include "core/holdings.h"
 #include "support/database.h"
 #include "support/recorder.h"
+#include "support/streams.h"
 
 namespace {
 
@@ -42,6 +43,12 @@ TEST_P(Busy, the_first_sleep_has_an_upper_bound) {
     answer_statement({SQLITE_BUSY});
     EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
     EXPECT_EQ(recorder_.sleeps(), Sleeps{GetParam().longest_first});
+}
+
+TEST_P(Busy, nothing_is_printed_while_it_lasts) {
+    answer_statement({SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
+    const support::Streams::Text text = support::streams_of([&] { call("select 5;"); });
+    EXPECT_EQ(text.output + text.error, "");
 }
 
 TEST_P(Busy, retries_have_no_limit) {
