@@ -48,9 +48,11 @@ void join_names(Joined column, int class_id, char *out, sqlite3 *db) {
     if (!statement.prepare(db, sql.c_str(), backoff, webserver_on_output)) {
         return;
     }
+    bool more = statement.next_row(backoff);  // while it waits, what stood there stays
     out[0] = '\0';
     std::size_t length = 0;
-    while (statement.next_row(backoff) && append_name(out, length, catalogue_text(statement.row(), 0))) {
+    while (more) {
+        more = append_name(out, length, catalogue_text(statement.row(), 0)) && statement.next_row(backoff);
     }
 }
 

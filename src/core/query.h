@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/reading.h"
+#include "core/text.h"
 
 namespace routerdb {
 
