@@ -31,6 +31,16 @@ struct AccessProfile {
     Stream not_locked = Stream::nowhere;
     Message not_opened = no_message;
 
+private:
+    // It stands before those that call it: clang does not find it from a constant expression otherwise.
+    template <typename Value>
+    constexpr AccessProfile with(Value AccessProfile::*member, Value value) const {
+        AccessProfile profile = *this;
+        profile.*member = value;
+        return profile;
+    }
+
+public:
     constexpr AccessProfile on(Database other) const { return with(&AccessProfile::database, other); }
     constexpr AccessProfile under(Guard other) const { return with(&AccessProfile::guard, other); }
     constexpr AccessProfile sleeping_from(FirstDelay other) const { return with(&AccessProfile::first_delay, other); }
@@ -47,14 +57,6 @@ struct AccessProfile {
 
     /// A reader's profile: who is told when its query cannot be prepared.
     constexpr ReadProfile when_not_prepared(Message told) const;
-
-private:
-    template <typename Value>
-    constexpr AccessProfile with(Value AccessProfile::*member, Value value) const {
-        AccessProfile profile = *this;
-        profile.*member = value;
-        return profile;
-    }
 };
 
 /// How a function reads rows.
