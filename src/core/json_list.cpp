@@ -86,7 +86,8 @@ void List::append_count(int count, const char *end) {
 
 /// A piece ends with a zero byte, which no value holds.
 void List::end_piece() {
-    text_.append(std::string_view("", 1));
+    constexpr char end = '\0';
+    text_.append(std::string_view(&end, 1));
 }
 
 /// @return false without memory for the text

@@ -43,7 +43,7 @@ protected:
         std::string room(GetParam().width + 4000, '#');
         GetParam().read(room.data());
         EXPECT_EQ(room.find_first_not_of('#', GetParam().width), std::string::npos);
-        return room.c_str();
+        return room.substr(0, room.find('\0'));
     }
 
     const std::size_t longest_ = GetParam().width - 1;

@@ -55,7 +55,7 @@ std::string path_of(const std::string &argument) {
 }
 
 std::size_t number_of(const std::string &argument) {
-    return std::stoull(argument);
+    return static_cast<std::size_t>(std::stoull(argument));
 }
 
 /// Reads "8  openat(...)   = 3<...>".
