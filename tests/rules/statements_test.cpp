@@ -21,7 +21,7 @@ struct Operation : support::Named {
 void add_reading(std::vector<Operation> &operations, const Table &table) {
     const auto list = [&table] { table.list(std::string(table.list_size, '\0').data()); };
     operations.push_back({table.name + " list", list, {query(table.id, table.list_query)}});
-    for (const int id : {7, golden::lowest}) {
+    for (const int id : {7, -8, golden::lowest}) {
         const std::string name = std::to_string(id);
         const auto get = [&table, id] { table.get(id, std::string(table.record_size, '\0').data()); };
         operations.push_back(
