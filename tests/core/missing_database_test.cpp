@@ -32,12 +32,12 @@ TEST(MissingMainDatabase, once_read_is_not_missing_any_more_for_a_script_that_co
     const auto tables = [] { return support::value("select count(*) > 0 from sqlite_master;"); };
 
     ASSERT_EQ(unlink(support::main_database), 0);
-    ASSERT_EQ(std::system(script.c_str()), 0);
+    ASSERT_EQ(std::system(script.c_str()), 0);  // NOLINT(cert-env33-c)
     EXPECT_EQ(tables(), "1");
 
     ASSERT_EQ(unlink(support::main_database), 0);
     support::streams_of([] { EXPECT_EQ(GET_DB_SQL_INT("select * from DevInfo;"), -1); });
-    ASSERT_EQ(std::system(script.c_str()), 0);
+    ASSERT_EQ(std::system(script.c_str()), 0);  // NOLINT(cert-env33-c)
     EXPECT_EQ(tables(), "0");
 }
 
