@@ -50,7 +50,7 @@ TEST(NumberIn, a_text_is_what_atoi_reads_there) {
                                    "1e3",
                                    "1.9",
                                    ".5",
-                                   "\xc2\xa0 5"}) {
+                                   "\u00a05"}) {
         EXPECT_EQ(number_in(text), std::atoi(text)) << text;  // NOLINT(cert-err34-c)
     }
 }
