@@ -9,6 +9,7 @@
 #include "support/database.h"
 #include "support/recorder.h"
 
+// A piece that does not fit a line is several literals side by side. NOLINTBEGIN(bugprone-suspicious-missing-comma)
 namespace {
 
 using printed::writes_of;
@@ -153,3 +154,4 @@ TEST(StationPieces, without_a_file_are_two) {
 }
 
 }  // namespace
+// NOLINTEND(bugprone-suspicious-missing-comma)
