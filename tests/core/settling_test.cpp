@@ -66,8 +66,9 @@ protected:
     void at_sleep(std::size_t n, const std::function<void()> &action) {
         recorder_->watch([=](const std::string & /*line*/) {
             if (recorder_->sleeps().size() == n) {
+                const std::function<void()> once = action;  // it goes with what watches
                 recorder_->watch({});
-                action();
+                once();
             }
         });
     }
