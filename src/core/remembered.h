@@ -63,8 +63,10 @@ public:
         char *place = reinterpret_cast<char *>(entry + 1);
         for (std::size_t index = 0; index < count; ++index) {
             const std::string_view text = texts[index];
-            copy_cut(text, place, text.size() + 1);
-            entry->texts[index] = text.data() != nullptr ? place : nullptr;
+            if (text.data() != nullptr) {
+                copy_cut(text, place, text.size() + 1);
+                entry->texts[index] = place;
+            }
             place += text.size() + 1;
         }
         return entry;
