@@ -8,18 +8,18 @@ add_library(
     routerdb_objects OBJECT
     ${rule_tables}
     src/apinventory/apply.cpp
-    src/apinventory/collections.cpp
+    src/apinventory/assignments.cpp
     src/apinventory/compare.cpp
     src/apinventory/devices.cpp
     src/apinventory/doors.cpp
-    src/apinventory/assignments.cpp
+    src/apinventory/empty_collection.cpp
     src/apinventory/groups.cpp
     src/apinventory/list_json.cpp
+    src/apinventory/member_reader.cpp
     src/apinventory/notify.cpp
     src/apinventory/numbers.cpp
     src/apinventory/paging.cpp
     src/apinventory/record_layout.cpp
-    src/apinventory/record_reader.cpp
     src/apinventory/registration.cpp
     src/apinventory/station_list.cpp
     src/apinventory/status.cpp
@@ -37,14 +37,10 @@ add_library(
     src/core/backoff.cpp
     src/core/connection.cpp
     src/core/doors.cpp
-    src/core/encoding.cpp
     src/core/execute.cpp
-    src/core/id_list.cpp
     src/core/journal.cpp
-    src/core/json_list.cpp
     src/core/lock_file.cpp
     src/core/maintenance.cpp
-    src/core/number.cpp
     src/core/query.cpp
     src/core/random.cpp
     src/core/reading.cpp
@@ -52,27 +48,32 @@ add_library(
     src/core/row.cpp
     src/core/shell.cpp
     src/core/statement.cpp
-    src/core/text.cpp
-    src/core/time_of_day.cpp
     src/dhcp/doors.cpp
     src/dhcp/host_name.cpp
     src/dhcp/lease_file.cpp
     src/dhcp/lease_list.cpp
+    src/json/json_list.cpp
     src/rules/behavior_names.cpp
     src/rules/client_ops.cpp
     src/rules/columns.cpp
     src/rules/derived.cpp
     src/rules/doors.cpp
+    src/rules/field_reader.cpp
     src/rules/list_builder.cpp
     src/rules/record_layout.cpp
-    src/rules/record_reader.cpp
     src/rules/references.cpp
     src/rules/sql_builder.cpp
     src/rules/static_binding.cpp
     src/sqlservice/client.cpp
     src/sqlservice/doors.cpp
     src/sqlservice/sigpipe_hold.cpp
-    src/sqlservice/socket.cpp)
+    src/sqlservice/socket.cpp
+    src/text/doors.cpp
+    src/text/encoding.cpp
+    src/text/id_list.cpp
+    src/text/number.cpp
+    src/text/text.cpp
+    src/text/time_of_day.cpp)
 
 set_target_properties(
     routerdb_objects

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "apinventory/parts.h"
-#include "core/encoding.h"
-#include "core/text.h"
+#include "text/encoding.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -5,7 +5,7 @@
 #include "core/profiles.h"
 #include "core/query.h"
 #include "core/reading.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 
@@ -33,7 +33,7 @@ int read_device_by_sn(DevInfo &device, unsigned long sn, Ssids ssids) {
     int count = 0;
     if (reading.start(sql) == Start::ready) {
         while (reading.next_row()) {
-            read_record(reading.row(), Table::devices, ssids, device);
+            read_members(reading.row(), Table::devices, ssids, device);
             ++count;
         }
     }
@@ -56,7 +56,7 @@ bool read_all_devices(ApDevList &list, Ssids ssids) {
             break;
         }
         *device = {};
-        read_record(reading.row(), Table::devices, ssids, *device);
+        read_members(reading.row(), Table::devices, ssids, *device);
         list.devices[list.count++] = device;
     }
     return list.count != 0;

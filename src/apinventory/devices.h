@@ -1,7 +1,7 @@
 // Reading access points.
 #pragma once
 
-#include "apinventory/record_reader.h"
+#include "apinventory/member_reader.h"
 
 namespace routerdb {
 

@@ -1,8 +1,8 @@
 // The exported functions of the inventory of access points and their groups.
 #include "apinventory/apply.h"
-#include "apinventory/collections.h"
 #include "apinventory/compare.h"
 #include "apinventory/devices.h"
+#include "apinventory/empty_collection.h"
 #include "apinventory/groups.h"
 #include "apinventory/list_json.h"
 #include "apinventory/registration.h"
@@ -12,8 +12,8 @@
 #include "apinventory/upgrade.h"
 #include "apinventory/zero_config.h"
 #include "apinventory/zero_config_json.h"
-#include "core/text.h"
 #include "routerdb.h"
+#include "text/text.h"
 
 using namespace routerdb;
 
@@ -91,11 +91,11 @@ void SetDevUpgradeStatus(const char *mac, const char *status) {
 }
 
 int GetTableCount(const char *table) {
-    return count_rows(or_empty(table));
+    return rows_in_table(or_empty(table));
 }
 
 int get_devinfo_count() {
-    return count_rows("DevInfo");
+    return rows_in_table("DevInfo");
 }
 
 int GetApDevList_count() {
@@ -115,11 +115,11 @@ void FreeApDevUpgradeList(ApDevUpgradeList *list) {
 }
 
 int DB_GetDevSNCollection(uint32_t *collection) {
-    return collect_nothing(*collection, "select Dev_Sn from DevInfo order by Dev_IPSUM ;");
+    return empty_collection(*collection, "select Dev_Sn from DevInfo order by Dev_IPSUM ;");
 }
 
 int DB_GetWlanGroupIDCollection(uint32_t *collection) {
-    return collect_nothing(*collection, "select WlanGroup_Id from WlanGroupInfo;");
+    return empty_collection(*collection, "select WlanGroup_Id from WlanGroupInfo;");
 }
 
 int DB_getwlangroupinfoByindex(DevInfo *group, int groupId) {
@@ -127,7 +127,7 @@ int DB_getwlangroupinfoByindex(DevInfo *group, int groupId) {
 }
 
 int get_wlangroupinfo_count() {
-    return count_rows("WlanGroupInfo");
+    return rows_in_table("WlanGroupInfo");
 }
 
 int CompareDevInfoWithGroupInfo(DevInfo dev, DevInfo group) {

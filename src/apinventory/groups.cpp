@@ -1,9 +1,9 @@
 #include "apinventory/groups.h"
 
-#include "apinventory/record_reader.h"
+#include "apinventory/member_reader.h"
 #include "apinventory/status.h"
 #include "core/reading.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 
@@ -22,7 +22,7 @@ Start read_rows(Reading &reading, const Text &sql, Table table, Ssids ssids, Dev
     const Start start = reading.start(sql);
     if (start == Start::ready) {
         while (reading.next_row()) {
-            read_record(reading.row(), table, ssids, record);
+            read_members(reading.row(), table, ssids, record);
         }
     }
     return start;
@@ -41,7 +41,7 @@ int read_wlan_group(DevInfo &record, int id) {
 
 int read_default_zero_config(DevInfo &record) {
     SharedConnection connection;
-    if (count_rows("WlanZeroCfgGroupInfo", &connection) == 0) {
+    if (rows_in_table("WlanZeroCfgGroupInfo", &connection) == 0) {
         return 0;
     }
     record = {};

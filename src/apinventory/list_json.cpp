@@ -3,10 +3,10 @@
 #include "apinventory/numbers.h"
 #include "apinventory/parts.h"
 #include "apinventory/totals.h"
-#include "core/json_list.h"
 #include "core/profiles.h"
 #include "core/query.h"
 #include "core/reading.h"
+#include "json/json_list.h"
 
 namespace routerdb {
 

@@ -3,9 +3,9 @@
 
 #include <string_view>
 
-#include "core/number.h"
-#include "core/text.h"
 #include "routerdb.h"
+#include "text/number.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -1,7 +1,7 @@
 // One page of the list of access points: what is asked for, and the statements that follow from it.
 #pragma once
 
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 

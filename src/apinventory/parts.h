@@ -3,7 +3,7 @@
 #pragma once
 
 #include "apinventory/members.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 

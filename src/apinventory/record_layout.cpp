@@ -87,3 +87,6 @@ MEMBER(ApDevUpgradeInfo, block, target ? 300 : 304, sizeof(void *));
 static_assert(sizeof(ApDevUpgradeList) == sizeof(ApDevList));
 MEMBER(ApDevUpgradeList, count, 0, 4);
 MEMBER(ApDevUpgradeList, items, target ? 4 : 8, 1000 * sizeof(void *));
+
+#undef MEMBER
+#undef RADIO

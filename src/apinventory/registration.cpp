@@ -22,13 +22,13 @@ constexpr useconds_t between_attempts = 100;
 
 using Sql = StackText<512>;
 
-struct RowCount {
+struct Matches {
     bool succeeded;
     unsigned int count;
 };
 
-RowCount count_rows(const Text &sql, SharedConnection &connection) {
-    RowCount found{false, 0};
+Matches count_matches(const Text &sql, SharedConnection &connection) {
+    Matches found{false, 0};
     found.succeeded = count(profiles::exec_char_int, sql, found.count, &connection) == 0;
     return found;
 }
@@ -64,7 +64,7 @@ void make_way(const DevInfo &device, unsigned long sn, SharedConnection &connect
     }
     Sql lookup;
     lookup.append("select *  from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
-    const RowCount found = count_rows(lookup, connection);
+    const Matches found = count_matches(lookup, connection);
     if (found.succeeded && found.count != 0) {
         Sql removal;
         removal.append("delete from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
@@ -108,9 +108,9 @@ int find_known(const DevInfo &device, unsigned long &sn) {
     }
     Sql lookup;
     append_mac_lookup(lookup, device);
-    RowCount found{false, 0};
+    Matches found{false, 0};
     for (int attempt = 0; attempt < attempts && found.count == 0; ++attempt) {
-        found = count_rows(lookup, connection);
+        found = count_matches(lookup, connection);
         if (found.count == 0) {
             usleep(between_attempts);
         }
@@ -127,7 +127,7 @@ int find_or_make_way(const DevInfo &device, unsigned long &sn, SharedConnection 
     append_mac_lookup(lookup, device);
     for (int attempt = 1;; ++attempt) {
         sn = address_in_network_order(field_text(device.Dev_Ipaddress));
-        const RowCount found = count_rows(lookup, connection);
+        const Matches found = count_matches(lookup, connection);
         if (found.count != 0) {
             if (!found.succeeded) {
                 return lookup_failed;
@@ -154,7 +154,7 @@ int register_device(const DevInfo &device) {
     unsigned long sn = 0;
     SharedConnection connection;
     const int lookup = find_or_make_way(device, sn, connection);
-    const int count = routerdb::count_rows("DevInfo", &connection);
+    const int count = rows_in_table("DevInfo", &connection);
     if (lookup == lookup_failed || count < 0) {
         return -1;
     }

@@ -6,11 +6,11 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "core/json_list.h"
 #include "core/paths.h"
 #include "core/random.h"
 #include "core/shell.h"
-#include "core/text.h"
+#include "json/json_list.h"
+#include "text/text.h"
 
 namespace routerdb {
 

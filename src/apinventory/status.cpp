@@ -6,7 +6,7 @@
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 
@@ -73,7 +73,7 @@ void set_upgrade_status(const char *mac, const char *status) {
     notify(Event::modified, sn);
 }
 
-int count_rows(const char *table, SharedConnection *shared) {
+int rows_in_table(const char *table, SharedConnection *shared) {
     Sql sql;
     sql.append("select *  from ").append(table).append(";");
     unsigned rows = 0;

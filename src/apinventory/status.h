@@ -6,7 +6,7 @@
 
 #include "core/query.h"
 #include "core/shared_connection.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 
@@ -30,6 +30,6 @@ void read_sn(LookupKey key, std::string_view value, Quotes quotes, unsigned long
 void set_upgrade_status(const char *mac, const char *status);
 
 /// Rows of a table of the main database; 0 when they cannot be read.
-int count_rows(const char *table, SharedConnection *shared = nullptr);
+int rows_in_table(const char *table, SharedConnection *shared = nullptr);
 
 }  // namespace routerdb

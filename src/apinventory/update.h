@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "core/text.h"
 #include "routerdb.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -4,7 +4,7 @@
 
 #include "core/execute.h"
 #include "core/profiles.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 

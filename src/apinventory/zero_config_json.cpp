@@ -1,9 +1,9 @@
 #include "apinventory/zero_config_json.h"
 
 #include "apinventory/zero_config.h"
-#include "core/json_list.h"
 #include "core/reading.h"
-#include "core/text.h"
+#include "json/json_list.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -6,7 +6,7 @@
 
 #include "core/reading.h"
 #include "core/remembered.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "core/row.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -2,8 +2,8 @@
 #include "appcatalog/feature_list.h"
 #include "appcatalog/json_lists.h"
 #include "appcatalog/names.h"
-#include "core/text.h"
 #include "routerdb.h"
+#include "text/text.h"
 
 using namespace routerdb;
 

@@ -4,10 +4,10 @@
 
 #include "appcatalog/list_spec.h"
 #include "appcatalog/names.h"
-#include "core/json_list.h"
 #include "core/profiles.h"
 #include "core/query.h"
 #include "core/reading.h"
+#include "json/json_list.h"
 #include "routerdb.h"
 
 namespace routerdb {

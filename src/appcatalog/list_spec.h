@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "appcatalog/catalogue_text.h"
-#include "core/json_list.h"
+#include "json/json_list.h"
 
 namespace routerdb {
 

@@ -6,8 +6,8 @@
 #include "appcatalog/catalogue_text.h"
 #include "core/enum_order.h"
 #include "core/statement.h"
-#include "core/text.h"
 #include "routerdb.h"
+#include "text/text.h"
 
 namespace routerdb {
 

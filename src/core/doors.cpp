@@ -1,17 +1,12 @@
 // The exported functions of the database core. Each converts its arguments, calls, and converts the result.
-#include <cstring>
-
-#include "core/encoding.h"
 #include "core/execute.h"
-#include "core/id_list.h"
 #include "core/lock_file.h"
 #include "core/maintenance.h"
 #include "core/paths.h"
 #include "core/profiles.h"
 #include "core/query.h"
-#include "core/text.h"
-#include "core/time_of_day.h"
 #include "routerdb.h"
+#include "text/text.h"
 
 using namespace routerdb;
 
@@ -90,31 +85,4 @@ int GET_DB_SQLITE_SQL_INT(const char *sql) {
 
 unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db) {
     return static_cast<unsigned int>(read_first(db, or_empty(sql), out));
-}
-
-int muti_id_convert_int_array(char *text, int *ids) {
-    return read_ids(text, ids);
-}
-
-size_t generate_db_params(char *text, char *out, unsigned int size, int column) {
-    append_id_condition(text, out, size, column);
-    return std::strlen(out);
-}
-
-int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen) {
-    Utf8ToGb2312 converter;
-    return convert(converter, in, inlen, out, outlen);
-}
-
-int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen) {
-    Gb2312ToUtf8 converter;
-    return convert(converter, in, inlen, out, outlen);
-}
-
-int change_time_to_int(const char *hhmm) {
-    return time_of_day(hhmm);
-}
-
-int check_time_one_day(const char *a, const char *b) {
-    return time_of_day(a) > time_of_day(b) ? 1 : 0;
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/reading.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb {
 

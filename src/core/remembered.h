@@ -6,8 +6,8 @@
 #include <new>
 #include <string_view>
 
-#include "core/build_profile.h"
-#include "core/text.h"
+#include "build_profile.h"
+#include "text/text.h"
 
 namespace routerdb {
 

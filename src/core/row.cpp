@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "core/build_profile.h"
-#include "core/text.h"
+#include "build_profile.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -1,8 +1,8 @@
 // Statements on their way to SQLite.
 #pragma once
 
-#include "core/build_profile.h"
-#include "core/text.h"
+#include "build_profile.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -4,8 +4,8 @@
 #include <cstring>
 
 #include "core/paths.h"
-#include "core/text.h"
 #include "dhcp/lease_file.h"
+#include "text/text.h"
 
 namespace routerdb {
 
@@ -42,7 +42,7 @@ void parse(const char *line, LeaseLine &lease) {
 /// @param wants_more  takes a lease
 /// @return whether the file could be read
 template <typename WantsMore>
-bool read_leases(const char *lease_file, const char *pid_file, WantsMore wants_more) {
+bool walk_leases(const char *lease_file, const char *pid_file, WantsMore wants_more) {
     hold_open(lease_file);
     LeaseFile file(lease_file, pid_file);
     if (!file.is_open()) {
@@ -61,7 +61,7 @@ bool read_leases(const char *lease_file, const char *pid_file, WantsMore wants_m
 }  // namespace
 
 bool find_host_name(const char *mac, char *hostname, const char *lease_file, const char *pid_file) {
-    return read_leases(lease_file, pid_file, [&](const LeaseLine &lease) {
+    return walk_leases(lease_file, pid_file, [&](const LeaseLine &lease) {
         const bool matches = std::strcmp(lease.mac, mac) == 0;
         if (matches) {
             copy_cut(lease.hostname, hostname, host_name_width);
@@ -94,7 +94,7 @@ void HostNames::find(const char *mac, char *hostname) {
 void HostNames::read(const char *mac, char *hostname) {
     bool found = false;
     bool complete = true;
-    const bool readable = read_leases(paths::text_leases, paths::dhcp_server_pid, [&](const LeaseLine &line) {
+    const bool readable = walk_leases(paths::text_leases, paths::dhcp_server_pid, [&](const LeaseLine &line) {
         if (!found && std::strcmp(line.mac, mac) == 0) {
             copy_cut(line.hostname, hostname, host_name_width);
             found = true;

@@ -11,8 +11,8 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "core/text.h"
 #include "dhcp/lease_file.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -2,10 +2,10 @@
 
 #include <cstring>
 
-#include "core/text.h"
 #include "rules/record.h"
 #include "rules/sql_builder.h"
 #include "sqlservice/client.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -1,7 +1,7 @@
 #include "rules/columns.h"
 
-#include "core/text.h"
 #include "rules/sql_builder.h"
+#include "text/text.h"
 
 namespace routerdb {
 

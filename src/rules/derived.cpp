@@ -2,9 +2,9 @@
 
 #include <cstring>
 
-#include "core/text.h"
 #include "rules/field.h"
 #include "rules/record.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -47,13 +47,13 @@ void derive_address_range(const AddressRange &range, References &references, voi
 }  // namespace routerdb
 
 // The members of `Record` have the same names in every rule that has them.
-#define TIME_SPAN(flag)                                                                             \
+#define RULE_TIME_SPAN(flag)                                                                        \
     {                                                                                               \
         offsetof(Record, timecontrol), offsetof(Record, timegroup_id), offsetof(Record, timegroup), \
             sizeof(Record::timegroup), offsetof(Record, timegroup_name), offsetof(Record, weekday), \
             offsetof(Record, start_time), offsetof(Record, end_time), flag                          \
     }
-#define ADDRESS_RANGE(width)                                                                                \
+#define RULE_ADDRESS_RANGE(width)                                                                           \
     {                                                                                                       \
         offsetof(Record, ipcontrol), offsetof(Record, ipgroup_id), offsetof(Record, ipgroup),               \
             offsetof(Record, ipgroup_name), offsetof(Record, devstartip), offsetof(Record, devendip), width \

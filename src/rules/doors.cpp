@@ -2,9 +2,9 @@
 #include <cstring>
 
 #include "appcatalog/catalogue.h"
-#include "core/text.h"
 #include "rules/behavior_names.h"
 #include "rules/references.h"
+#include "text/text.h"
 
 using namespace routerdb;
 

@@ -50,16 +50,16 @@ struct Field {
             offsetof(Record, member), sizeof(Record::member)                                      \
     }
 
-#define NUMBER_FIELD(member, position) RULE_FIELD(number, always, id, member, position)
-#define TEXT_FIELD(member, position) RULE_FIELD(text, always, id, member, position)
-#define WEEKDAYS_FIELD(position) RULE_FIELD(weekdays, always, id, weekday, position)
+#define RULE_NUMBER_FIELD(member, position) RULE_FIELD(number, always, id, member, position)
+#define RULE_TEXT_FIELD(member, position) RULE_FIELD(text, always, id, member, position)
+#define RULE_WEEKDAYS_FIELD(position) RULE_FIELD(weekdays, always, id, weekday, position)
 
-#define OWN_WEEKDAYS_FIELD(position) RULE_FIELD(weekdays, own, timecontrol, weekday, position)
-#define OWN_TIME_FIELD(member, position) RULE_FIELD(text, own, timecontrol, member, position)
-#define TIME_GROUP_FIELD(position) RULE_FIELD(number, referenced, timecontrol, timegroup_id, position)
+#define RULE_OWN_WEEKDAYS_FIELD(position) RULE_FIELD(weekdays, own, timecontrol, weekday, position)
+#define RULE_OWN_TIME_FIELD(member, position) RULE_FIELD(text, own, timecontrol, member, position)
+#define RULE_TIME_GROUP_FIELD(position) RULE_FIELD(number, referenced, timecontrol, timegroup_id, position)
 
-#define OWN_RANGE_FIELD(member, position) RULE_FIELD(text, not_referenced, ipcontrol, member, position)
-#define IP_GROUP_FIELD(position) RULE_FIELD(number, referenced, ipcontrol, ipgroup_id, position)
+#define RULE_OWN_RANGE_FIELD(member, position) RULE_FIELD(text, not_referenced, ipcontrol, member, position)
+#define RULE_IP_GROUP_FIELD(position) RULE_FIELD(number, referenced, ipcontrol, ipgroup_id, position)
 
-#define ZERO_FIELD(column) \
+#define RULE_ZERO_FIELD(column) \
     { #column, routerdb::Kind::zero, routerdb::When::always, routerdb::by_name, 0, 0, 0 }

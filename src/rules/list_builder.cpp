@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "core/reading.h"
+#include "rules/field_reader.h"
 #include "rules/record.h"
-#include "rules/record_reader.h"
 #include "rules/references.h"
 
 namespace routerdb {
@@ -38,7 +38,7 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Deri
     // There is no limit to the rows: the caller's buffer is sized for the table.
     while (reading.next_row()) {
         void *record = next_record(table, list, count++);
-        read_record(table, columns, reading.row(), record);
+        read_fields(table, columns, reading.row(), record);
         if (derive != nullptr) {
             derive(references, record);
         }

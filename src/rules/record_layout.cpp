@@ -207,3 +207,6 @@ MEMBER(DomainIpItem, ip, 454, 64);
 MEMBER(DomainIpItem, mark, 518, 150);
 MEMBER(DomainIpItem, status, 668, 4);
 MEMBER(DomainIpItem, reserved, 672, 4);
+
+#undef RECORD
+#undef MEMBER

@@ -1,10 +1,10 @@
 #include "rules/references.h"
 
 #include "core/statement.h"
-#include "core/text.h"
-#include "rules/record_reader.h"
+#include "rules/field_reader.h"
 #include "rules/sql_builder.h"
 #include "rules/tables/user_timegroup.h"
+#include "text/text.h"
 
 namespace routerdb {
 
@@ -14,7 +14,7 @@ using tables::user_timegroup::table;
 
 void read_time_group(const Statement &statement, void *group) {
     const Columns columns(table, statement.handle());
-    read_record(table, columns, statement.row(), group);
+    read_fields(table, columns, statement.row(), group);
 }
 
 void read_ip_group(const Statement &statement, void *group) {

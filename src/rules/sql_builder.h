@@ -1,8 +1,8 @@
 // The statements of the client operations, made from a table's fields.
 #pragma once
 
-#include "core/text.h"
 #include "rules/rule_table.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -1,8 +1,8 @@
 #include "rules/static_binding.h"
 
-#include "core/number.h"
-#include "core/text.h"
 #include "sqlservice/client.h"
+#include "text/number.h"
+#include "text/text.h"
 
 namespace routerdb {
 

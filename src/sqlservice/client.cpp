@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 
-#include "core/build_profile.h"
+#include "build_profile.h"
 #include "core/enum_order.h"
 #include "sqlservice/sigpipe_hold.h"
 #include "sqlservice/socket.h"

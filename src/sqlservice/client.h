@@ -1,8 +1,8 @@
 // One request to the SQL service and its reply.
 #pragma once
 
-#include "core/text.h"
 #include "routerdb.h"
+#include "text/text.h"
 
 namespace routerdb {
 

@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "apinventory/tables.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
 #include "support/streams.h"

@@ -5,7 +5,7 @@
 
 #include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
 #include "support/streams.h"

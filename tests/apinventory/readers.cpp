@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "support/build_profile.h"
+#include "support/profile.h"
 
 namespace readers {
 

@@ -3,7 +3,7 @@
 
 #include "apinventory/readers.h"
 #include "core/holdings.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
 #include "support/streams.h"

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "apinventory/readers.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/deliberate_leak.h"
 #include "support/recorder.h"

@@ -3,7 +3,7 @@
 
 #include "apinventory/device_statements.h"
 #include "apinventory/writers.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/deliberate_leak.h"
 #include "support/recorder.h"
 

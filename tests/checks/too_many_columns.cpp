@@ -11,19 +11,19 @@ using Record = TimeGroupItem;
 
 // clang-format off
 constexpr Field fields_of_32[] = {
-    TEXT_FIELD(name, by_name),
-    WEEKDAYS_FIELD(by_name), WEEKDAYS_FIELD(by_name), WEEKDAYS_FIELD(by_name), WEEKDAYS_FIELD(by_name),
-    TEXT_FIELD(start_time, by_name),
-    TEXT_FIELD(end_time, by_name),
-    TEXT_FIELD(mark, by_name),
+    RULE_TEXT_FIELD(name, by_name),
+    RULE_WEEKDAYS_FIELD(by_name), RULE_WEEKDAYS_FIELD(by_name), RULE_WEEKDAYS_FIELD(by_name), RULE_WEEKDAYS_FIELD(by_name),
+    RULE_TEXT_FIELD(start_time, by_name),
+    RULE_TEXT_FIELD(end_time, by_name),
+    RULE_TEXT_FIELD(mark, by_name),
 };
 constexpr Field fields_of_33[] = {
-    TEXT_FIELD(name, by_name),
-    WEEKDAYS_FIELD(by_name), WEEKDAYS_FIELD(by_name), WEEKDAYS_FIELD(by_name), WEEKDAYS_FIELD(by_name),
-    TEXT_FIELD(start_time, by_name),
-    TEXT_FIELD(end_time, by_name),
-    TEXT_FIELD(mark, by_name),
-    ZERO_FIELD(behavior_type),
+    RULE_TEXT_FIELD(name, by_name),
+    RULE_WEEKDAYS_FIELD(by_name), RULE_WEEKDAYS_FIELD(by_name), RULE_WEEKDAYS_FIELD(by_name), RULE_WEEKDAYS_FIELD(by_name),
+    RULE_TEXT_FIELD(start_time, by_name),
+    RULE_TEXT_FIELD(end_time, by_name),
+    RULE_TEXT_FIELD(mark, by_name),
+    RULE_ZERO_FIELD(behavior_type),
 };
 // clang-format on
 

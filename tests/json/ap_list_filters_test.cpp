@@ -3,7 +3,7 @@
 
 #include "json/ap_list.h"
 #include "json/printed.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/named.h"
 #include "support/recorder.h"
 

@@ -7,7 +7,7 @@
 #include "json/ap_list.h"
 #include "json/printed.h"
 #include "routerdb.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/named.h"
 #include "support/recorder.h"

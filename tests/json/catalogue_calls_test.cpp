@@ -5,7 +5,7 @@
 #include "json/catalogue.h"
 #include "json/printed.h"
 #include "routerdb.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/recorder.h"
 

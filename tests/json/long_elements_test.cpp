@@ -3,7 +3,7 @@
 
 #include <cerrno>
 
-#include "core/json_list.h"
+#include "json/json_list.h"
 #include "routerdb.h"
 #include "support/database.h"
 #include "support/streams.h"

@@ -11,7 +11,7 @@
 
 #include "profiles/samples.h"
 #include "routerdb.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/streams.h"
 
 namespace {

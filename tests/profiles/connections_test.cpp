@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "profiles/samples.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 

@@ -6,7 +6,7 @@
 
 #include "profiles/samples.h"
 #include "routerdb.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/record.h"
 #include "support/recorder.h"

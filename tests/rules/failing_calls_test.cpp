@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "rules/golden/golden.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/fake_service.h"
 #include "support/record.h"

@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "routerdb.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/fake_service.h"
 #include "support/process.h"

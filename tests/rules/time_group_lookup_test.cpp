@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "routerdb.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/record.h"
 #include "support/recorder.h"

@@ -4,7 +4,7 @@
 
 #include <sqlite3.h>
 
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace support {

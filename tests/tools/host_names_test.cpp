@@ -6,7 +6,7 @@
 #include <unistd.h>
 
 #include "rules/golden/golden.h"
-#include "support/build_profile.h"
+#include "support/profile.h"
 #include "support/database.h"
 #include "support/named.h"
 #include "support/record.h"

@@ -1,9 +1,9 @@
 // The three Wi-Fi access lists.
 #include "rules/tables/acl.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables;

@@ -11,10 +11,10 @@ using Record = AclItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, 1),
-    TEXT_FIELD(mac, 2),
-    NUMBER_FIELD(status, 3),
-    TEXT_FIELD(mark, 4),
+    RULE_TEXT_FIELD(name, 1),
+    RULE_TEXT_FIELD(mac, 2),
+    RULE_NUMBER_FIELD(status, 3),
+    RULE_TEXT_FIELD(mark, 4),
 };
 // clang-format on
 

@@ -3,20 +3,20 @@
 
 #include <syslog.h>
 
-#include "core/text.h"
 #include "dhcp/host_name.h"
 #include "rules/behavior_names.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::behavior_rule;
 
 namespace {
 
-constexpr TimeSpan time_span = TIME_SPAN(no_flag);
-constexpr AddressRange address_range = ADDRESS_RANGE(sizeof(Record::devstartip));
+constexpr TimeSpan time_span = RULE_TIME_SPAN(no_flag);
+constexpr AddressRange address_range = RULE_ADDRESS_RANGE(sizeof(Record::devstartip));
 
 static_assert(sizeof(Record::hostname) >= host_name_width);
 

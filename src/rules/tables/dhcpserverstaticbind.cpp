@@ -1,10 +1,10 @@
 // Static DHCP bindings.
 #include "rules/tables/dhcpserverstaticbind.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
 #include "rules/static_binding.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::dhcpserverstaticbind;

@@ -9,10 +9,10 @@ using Record = DhcpStaticItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    NUMBER_FIELD(devtype, 1),
-    TEXT_FIELD(mac, 2),
-    TEXT_FIELD(ip, 3),
-    TEXT_FIELD(mark, 4),
+    RULE_NUMBER_FIELD(devtype, 1),
+    RULE_TEXT_FIELD(mac, 2),
+    RULE_TEXT_FIELD(ip, 3),
+    RULE_TEXT_FIELD(mark, 4),
 };
 // clang-format on
 

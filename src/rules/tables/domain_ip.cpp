@@ -1,9 +1,9 @@
 // Domain-to-IP entries.
 #include "rules/tables/domain_ip.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::domain_ip;

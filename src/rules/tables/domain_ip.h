@@ -9,11 +9,11 @@ using Record = DomainIpItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, 1),
-    TEXT_FIELD(domain, 2),
-    TEXT_FIELD(ip, 3),
-    NUMBER_FIELD(status, 4),
-    TEXT_FIELD(mark, 5),
+    RULE_TEXT_FIELD(name, 1),
+    RULE_TEXT_FIELD(domain, 2),
+    RULE_TEXT_FIELD(ip, 3),
+    RULE_NUMBER_FIELD(status, 4),
+    RULE_TEXT_FIELD(mark, 5),
 };
 // clang-format on
 

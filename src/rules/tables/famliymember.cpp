@@ -1,9 +1,9 @@
 // Family members.
 #include "rules/tables/famliymember.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::famliymember;

@@ -1,18 +1,18 @@
 // IP and port filters. The columns of the table stand in another order than those of insert and update.
 #include "rules/tables/filter_ipport.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::filter_ipport;
 
 namespace {
 
-constexpr TimeSpan time_span = TIME_SPAN(no_flag);
-constexpr AddressRange address_range = ADDRESS_RANGE(sizeof(Record::devstartip));
+constexpr TimeSpan time_span = RULE_TIME_SPAN(no_flag);
+constexpr AddressRange address_range = RULE_ADDRESS_RANGE(sizeof(Record::devstartip));
 
 void derive(References &references, void *record) {
     derive_address_range(address_range, references, record);

@@ -9,21 +9,21 @@ using Record = IpFilterItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, 1),
-    NUMBER_FIELD(ipcontrol, 2),
-    IP_GROUP_FIELD(3),
-    NUMBER_FIELD(timecontrol, 9),
-    TIME_GROUP_FIELD(10),
-    OWN_RANGE_FIELD(devstartip, 4),
-    OWN_RANGE_FIELD(devendip, 5),
-    NUMBER_FIELD(devfromport, 6),
-    NUMBER_FIELD(devtoport, 7),
-    NUMBER_FIELD(protocol, 8),
-    OWN_WEEKDAYS_FIELD(11),
-    OWN_TIME_FIELD(start_time, 18),
-    OWN_TIME_FIELD(end_time, 19),
-    NUMBER_FIELD(status, 20),
-    TEXT_FIELD(mark, 21),
+    RULE_TEXT_FIELD(name, 1),
+    RULE_NUMBER_FIELD(ipcontrol, 2),
+    RULE_IP_GROUP_FIELD(3),
+    RULE_NUMBER_FIELD(timecontrol, 9),
+    RULE_TIME_GROUP_FIELD(10),
+    RULE_OWN_RANGE_FIELD(devstartip, 4),
+    RULE_OWN_RANGE_FIELD(devendip, 5),
+    RULE_NUMBER_FIELD(devfromport, 6),
+    RULE_NUMBER_FIELD(devtoport, 7),
+    RULE_NUMBER_FIELD(protocol, 8),
+    RULE_OWN_WEEKDAYS_FIELD(11),
+    RULE_OWN_TIME_FIELD(start_time, 18),
+    RULE_OWN_TIME_FIELD(end_time, 19),
+    RULE_NUMBER_FIELD(status, 20),
+    RULE_TEXT_FIELD(mark, 21),
 };
 // clang-format on
 

@@ -1,18 +1,18 @@
 // MAC filters.
 #include "rules/tables/filter_mac.h"
 
-#include "core/text.h"
 #include "dhcp/host_name.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::filter_mac;
 
 namespace {
 
-constexpr TimeSpan time_span = TIME_SPAN(no_flag);
+constexpr TimeSpan time_span = RULE_TIME_SPAN(no_flag);
 
 static_assert(sizeof(Record::hostname) >= host_name_width);
 

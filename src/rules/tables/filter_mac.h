@@ -9,15 +9,15 @@ using Record = MacFilterItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, 1),
-    TEXT_FIELD(devmac, 2),
-    NUMBER_FIELD(timecontrol, 3),
-    TIME_GROUP_FIELD(4),
-    OWN_WEEKDAYS_FIELD(5),
-    OWN_TIME_FIELD(start_time, 12),
-    OWN_TIME_FIELD(end_time, 13),
-    NUMBER_FIELD(status, 14),
-    TEXT_FIELD(mark, 15),
+    RULE_TEXT_FIELD(name, 1),
+    RULE_TEXT_FIELD(devmac, 2),
+    RULE_NUMBER_FIELD(timecontrol, 3),
+    RULE_TIME_GROUP_FIELD(4),
+    RULE_OWN_WEEKDAYS_FIELD(5),
+    RULE_OWN_TIME_FIELD(start_time, 12),
+    RULE_OWN_TIME_FIELD(end_time, 13),
+    RULE_NUMBER_FIELD(status, 14),
+    RULE_TEXT_FIELD(mark, 15),
 };
 // clang-format on
 

@@ -1,17 +1,17 @@
 // URL filters.
 #include "rules/tables/filter_url.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::filter_url;
 
 namespace {
 
-constexpr TimeSpan time_span = TIME_SPAN(offsetof(Record, time_valid));
+constexpr TimeSpan time_span = RULE_TIME_SPAN(offsetof(Record, time_valid));
 
 void derive(References &references, void *record) {
     derive_time_span(time_span, references, record);

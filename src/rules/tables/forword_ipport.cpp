@@ -1,9 +1,9 @@
 // Port forwardings. The record has its members in an order of its own.
 #include "rules/tables/forword_ipport.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::forword_ipport;

@@ -9,16 +9,16 @@ using Record = PortFwItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, 1),
-    TEXT_FIELD(devip, 2),
-    NUMBER_FIELD(protocol, 3),
-    NUMBER_FIELD(devinnerfromport, 4),
-    NUMBER_FIELD(devinnertoport, 5),
-    NUMBER_FIELD(devexternfromport, 6),
-    NUMBER_FIELD(devexterntoport, 7),
-    NUMBER_FIELD(wanid, 8),
-    NUMBER_FIELD(status, 9),
-    TEXT_FIELD(mark, 10),
+    RULE_TEXT_FIELD(name, 1),
+    RULE_TEXT_FIELD(devip, 2),
+    RULE_NUMBER_FIELD(protocol, 3),
+    RULE_NUMBER_FIELD(devinnerfromport, 4),
+    RULE_NUMBER_FIELD(devinnertoport, 5),
+    RULE_NUMBER_FIELD(devexternfromport, 6),
+    RULE_NUMBER_FIELD(devexterntoport, 7),
+    RULE_NUMBER_FIELD(wanid, 8),
+    RULE_NUMBER_FIELD(status, 9),
+    RULE_TEXT_FIELD(mark, 10),
 };
 // clang-format on
 

@@ -1,18 +1,18 @@
 // QoS rules. Their own range of addresses stays beside that of an IP group.
 #include "rules/tables/qos_rule.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/derived.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::qos_rule;
 
 namespace {
 
-constexpr TimeSpan time_span = TIME_SPAN(no_flag);
-constexpr AddressRange address_range = ADDRESS_RANGE(own_range_stays);
+constexpr TimeSpan time_span = RULE_TIME_SPAN(no_flag);
+constexpr AddressRange address_range = RULE_ADDRESS_RANGE(own_range_stays);
 
 void derive(References &references, void *record) {
     derive_address_range(address_range, references, record);

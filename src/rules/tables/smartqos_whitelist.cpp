@@ -1,9 +1,9 @@
 // The smart-QoS white list.
 #include "rules/tables/smartqos_whitelist.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::smartqos_whitelist;

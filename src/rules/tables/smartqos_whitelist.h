@@ -9,8 +9,8 @@ using Record = SmartQosItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(devmac, by_name),
-    TEXT_FIELD(mark, by_name),
+    RULE_TEXT_FIELD(devmac, by_name),
+    RULE_TEXT_FIELD(mark, by_name),
 };
 // clang-format on
 

@@ -1,9 +1,9 @@
 // IP groups, which other rules reference.
 #include "rules/tables/user_ipgroup.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::user_ipgroup;

@@ -9,10 +9,10 @@ using Record = IpGroupItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, by_name),
-    TEXT_FIELD(startip, by_name),
-    TEXT_FIELD(endip, by_name),
-    TEXT_FIELD(mark, by_name),
+    RULE_TEXT_FIELD(name, by_name),
+    RULE_TEXT_FIELD(startip, by_name),
+    RULE_TEXT_FIELD(endip, by_name),
+    RULE_TEXT_FIELD(mark, by_name),
 };
 // clang-format on
 

@@ -9,11 +9,11 @@ using Record = TimeGroupItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, 1),
-    WEEKDAYS_FIELD(2),
-    TEXT_FIELD(start_time, 9),
-    TEXT_FIELD(end_time, 10),
-    TEXT_FIELD(mark, 11),
+    RULE_TEXT_FIELD(name, 1),
+    RULE_WEEKDAYS_FIELD(2),
+    RULE_TEXT_FIELD(start_time, 9),
+    RULE_TEXT_FIELD(end_time, 10),
+    RULE_TEXT_FIELD(mark, 11),
 };
 // clang-format on
 

@@ -1,9 +1,9 @@
 // User URLs.
 #include "rules/tables/user_urlinfo.h"
 
-#include "core/text.h"
 #include "rules/client_ops.h"
 #include "rules/list_builder.h"
+#include "text/text.h"
 
 using namespace routerdb;
 using namespace routerdb::tables::user_urlinfo;

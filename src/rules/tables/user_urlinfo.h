@@ -9,9 +9,9 @@ using Record = UserUrlItem;
 
 // clang-format off
 inline constexpr Field fields[] = {
-    TEXT_FIELD(name, by_name),
-    TEXT_FIELD(url, by_name),
-    TEXT_FIELD(mark, by_name),
+    RULE_TEXT_FIELD(name, by_name),
+    RULE_TEXT_FIELD(url, by_name),
+    RULE_TEXT_FIELD(mark, by_name),
 };
 // clang-format on
 

@@ -1,4 +1,4 @@
-#include "core/time_of_day.h"
+#include "text/time_of_day.h"
 
 #include <cstdlib>
 #include <cstring>

@@ -2,7 +2,7 @@
 // that makes the difference.
 #pragma once
 
-#include "core/build_profile.h"
+#include "build_profile.h"
 
 namespace support {
 

@@ -1,10 +1,10 @@
-#include "core/encoding.h"
+#include "text/encoding.h"
 
 #include <syslog.h>
 
 #include <cstring>
 
-#include "core/build_profile.h"
+#include "build_profile.h"
 #include "routerdb.h"
 
 namespace routerdb {

@@ -1,4 +1,4 @@
-#include "rules/record_reader.h"
+#include "rules/field_reader.h"
 
 #include "rules/record.h"
 
@@ -37,7 +37,7 @@ void read_field(const Field &field, const std::uint8_t *columns, const Row &row,
 
 }  // namespace
 
-void read_record(const RuleTable &table, const Columns &columns, const Row &row, void *record) {
+void read_fields(const RuleTable &table, const Columns &columns, const Row &row, void *record) {
     put_number(record, id_offset, row.number(columns.id()));
     const std::uint8_t *next = columns.of_fields();
     for (const Field *field = table.fields; field != table.fields + table.field_count; ++field) {

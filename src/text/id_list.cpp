@@ -1,4 +1,4 @@
-#include "core/id_list.h"
+#include "text/id_list.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "core/number.h"
+#include "text/number.h"
 
 #include <cctype>
 #include <cstdlib>

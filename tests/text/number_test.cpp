@@ -1,5 +1,5 @@
 // Numbers at the start of texts that need not be terminated.
-#include "core/number.h"
+#include "text/number.h"
 
 #include <gtest/gtest.h>
 

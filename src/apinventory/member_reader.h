@@ -14,6 +14,6 @@ enum class Ssids : std::uint8_t {
 };
 
 /// Reads a row of a table over what the record held; what is no column stays.
-void read_record(const Row &row, Table table, Ssids ssids, DevInfo &record);
+void read_members(const Row &row, Table table, Ssids ssids, DevInfo &record);
 
 }  // namespace routerdb

@@ -1,5 +1,5 @@
 // Texts that grow.
-#include "core/text.h"
+#include "text/text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "apinventory/record_reader.h"
+#include "apinventory/member_reader.h"
 
 #include <cstring>
 
-#include "core/encoding.h"
+#include "text/encoding.h"
 
 namespace routerdb {
 
@@ -28,7 +28,7 @@ void read_part(const Row &row, Table table, const Part &part, DevInfo &record) {
 
 }  // namespace
 
-void read_record(const Row &row, Table table, Ssids ssids, DevInfo &record) {
+void read_members(const Row &row, Table table, Ssids ssids, DevInfo &record) {
     if (table == Table::devices) {
         record.Dev_Sn = static_cast<std::uint32_t>(row.unsigned_number(0));
     }

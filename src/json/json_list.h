@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "core/row.h"
-#include "core/text.h"
+#include "text/text.h"
 
 namespace routerdb::json {
 

@@ -1,4 +1,4 @@
-#include "core/json_list.h"
+#include "json/json_list.h"
 
 #include <cstdio>
 #include <cstring>
