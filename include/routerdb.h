@@ -329,7 +329,7 @@ typedef struct SqlReply {
     void *data;      ///< heap block of `size` bytes (4 if `size` is below 1), to be released with free
 } SqlReply;
 
-/// Sends one request to the SQL service at "/var/sqlserver_socket" and receives its reply.
+/// Sends one request to the SQL service and receives its reply.
 ///
 /// Time-outs are 10 seconds for each send and receive. A signal that is handled meanwhile counts as a failure, with
 /// SA_RESTART too; a text of which only a part could be sent does not. A service that closes early leaves a block of

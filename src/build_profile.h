@@ -1,12 +1,15 @@
-// The two profiles that the library is built in. Names, records, results, output, messages, locks, sleeps and
-// notifications are those of `exact` in both: what `modern` spares is work that only a tracer sees.
+// The two profiles that the library is built in. Names, records and sizes are the same. `exact` does everything to the
+// letter that programs know. `modern` gives callers who mean well the same results, output, messages, locks and
+// notifications with less work, and removes what the letter makes dangerous.
 #pragma once
 
 namespace routerdb {
 
-/// What a profile spares. Each member is asked where the work is done, and nowhere else.
+/// What a profile does differently. Each member is asked where the work is done, and nowhere else.
 struct BuildProfile {
+    // A profile says no more than these two: whether it spares work, and whether it is careful.
     bool spares;
+    bool careful;
 
     /// The readings of one call go through one connection instead of a fresh one each.
     bool shares_connection = spares;
@@ -34,13 +37,50 @@ struct BuildProfile {
 
     /// Records that arrive whole go straight into the caller's list instead of through a block of their own.
     bool receives_in_place = spares;
+
+    /// A registration is one transaction on one connection.
+    bool registers_at_once = spares;
+
+    /// Quotes inside a value are doubled in every statement, not only where they always were.
+    bool doubles_quotes = careful;
+
+    /// The condition of a deletion compares columns with values, and is refused if it does anything else; a table that
+    /// is counted exists.
+    bool checks_conditions = careful;
+
+    /// No text of a caller attaches a file or edits the schema, and the schema of a file is not trusted.
+    bool confines_texts = careful;
+
+    /// A list takes as many records as it has room for, whatever the database or the service has.
+    bool caps_lists = careful;
+
+    /// A reply that ends early, is too long, comes too late or from a stranger is a failure.
+    bool checks_replies = careful;
+
+    /// A call that fails says why in errno, and one that does not leaves it alone.
+    bool tells_failures = careful;
+
+    /// No address gets into a command but an IPv4 one, and the program that lists stations is started without a shell.
+    bool keeps_addresses_from_shell = careful;
+
+    /// Texts in JSON are escaped.
+    bool escapes_json = careful;
+
+    /// Streams, handles and converters are closed, and descriptors of the caller's are not.
+    bool closes_its_own = careful;
+
+    /// rand(), openlog() and closelog() of the program are left as they are.
+    bool leaves_program_state = careful;
+
+    /// The DHCP server's pid file counts only if nobody but the server's owner could write it.
+    bool checks_pid_file = careful;
 };
 
 /// The default: connections, statements, allocations and conversions in the number and order that tracers know.
-inline constexpr BuildProfile exact{false};
+inline constexpr BuildProfile exact{false, false};
 
-/// As few of them as the same results take.
-inline constexpr BuildProfile modern{true};
+/// As little work as the same results take, and nothing that a stranger's text can turn against the router.
+inline constexpr BuildProfile modern{true, true};
 
 /// The profile of this build: ROUTERDB_PROFILE names one of the above.
 inline constexpr BuildProfile build_profile = ROUTERDB_PROFILE;

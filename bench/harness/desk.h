@@ -1,6 +1,7 @@
 // Where operations find what they work on and leave what they read: the same memory for every variant.
 #pragma once
 
+#include "core/paths.h"
 #include "routerdb.h"
 
 namespace bench {
@@ -20,15 +21,6 @@ inline constexpr unsigned long known_device = 192UL + 168UL * 256 + 65536 + 13UL
 inline constexpr char known_device_sql[] = "select * from DevInfo where Dev_Sn='218212544';";
 static_assert(known_device == 218212544);
 
-namespace paths {
-
-inline constexpr char main_database[] = "/etc/config/systemconf/database/myrouter.db";
-inline constexpr char catalogue_database[] = "/etc/config/systemconf/database/dpilib.db";
-inline constexpr char lock_file[] = "/var/databaselock";
-inline constexpr char text_leases[] = "/var/dhcp.leases";
-inline constexpr char dhcp_server_pid[] = "/var/run/dnsmasq/dnsmasq.pid";
-inline constexpr char service_socket[] = "/var/sqlserver_socket";
-
-}  // namespace paths
+namespace paths = routerdb::paths;
 
 }  // namespace bench

@@ -90,7 +90,7 @@ TEST_P(Collection, sleeps_grow_by_five_through_open_and_execution) {
 
 TEST_P(Collection, without_the_lock_file_is_left_as_it_was) {
     ASSERT_EQ(std::remove(support::lock_file), 0);
-    EXPECT_EQ(support::streams_of([] { expect(-1, 9); }).error, "cannot open /var/databaselock!\n");
+    EXPECT_EQ(support::streams_of([] { expect(-1, 9); }).error, support::cannot_open_lock_file);
 }
 
 TEST_P(Collection, of_a_database_that_cannot_be_opened_is_left_as_it_was) {

@@ -108,7 +108,7 @@ TEST(DbUpdateInfo, a_failure_gives_minus_1_and_a_message) {
     EXPECT_EQ(said.output, "cannot exec sql cmdline, Error: no such table: DevInfo\n");
     ASSERT_EQ(std::remove(support::lock_file), 0);
     EXPECT_EQ(support::streams_of([] { EXPECT_EQ(DB_UpdateInfo(sample_device()), -1); }).error,
-              "cannot open /var/databaselock!\n");
+              support::cannot_open_lock_file);
 }
 
 TEST(DbSaveinfo, executes_once_and_tells_nobody) {

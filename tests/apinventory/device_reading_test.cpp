@@ -141,7 +141,7 @@ TEST(GetApDevList, without_the_lock_file_it_leaves_the_list_as_it_was) {
     ASSERT_EQ(std::remove(support::lock_file), 0);
     auto list = odd_list();
     const support::Streams::Text said = support::streams_of([&] { EXPECT_EQ(GetApDevList(list.get(), 0), 0); });
-    EXPECT_EQ(said.error, "cannot open /var/databaselock!\n");
+    EXPECT_EQ(said.error, support::cannot_open_lock_file);
     EXPECT_EQ(said.output, "");
     EXPECT_EQ(bytes_of(*list), bytes_of(*odd_list()));
 }

@@ -3,8 +3,8 @@
 #include <unistd.h>
 
 #include "apinventory/tables.h"
-#include "support/profile.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -122,7 +122,7 @@ TEST(NewGroup, bears_the_number_0_after_messages_when_the_groups_cannot_be_read)
 
     ASSERT_EQ(unlink(support::lock_file), 0);
     const auto without_lock_file = support::streams_of([] { EXPECT_EQ(new_name(), "ZeroCfgGROUP_NAME0"); });
-    EXPECT_EQ(without_lock_file.error, "cannot open /var/databaselock!\ncannot open /var/databaselock!\n");
+    EXPECT_EQ(without_lock_file.error, support::cannot_open_lock_file + support::cannot_open_lock_file);
 }
 
 TEST(NewGroup, is_not_reserved_and_saved_under_a_number_of_its_own) {

@@ -5,8 +5,8 @@
 
 #include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
-#include "support/profile.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -245,9 +245,8 @@ TEST(GroupSaving, of_a_new_group_that_cannot_be_numbered_has_the_number_0) {
     ASSERT_EQ(std::remove(support::lock_file), 0);
     const support::Streams::Text said =
         support::streams_of([] { EXPECT_EQ(DB_savezerocfgwlangroupinfo(sample_group(), 0), 0); });
-    EXPECT_EQ(said.error,
-              "cannot open /var/databaselock!\ncannot open /var/databaselock!\n"
-              "cannot open /var/databaselock!\ncannot open /var/databaselock!\n");
+    EXPECT_EQ(said.error, support::cannot_open_lock_file + support::cannot_open_lock_file +
+                              support::cannot_open_lock_file + support::cannot_open_lock_file);
     EXPECT_EQ(GetTableCount("WlanZeroCfgGroupInfo"), 0);
 }
 

@@ -3,8 +3,8 @@
 
 #include "apinventory/readers.h"
 #include "core/holdings.h"
-#include "support/profile.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "apinventory/readers.h"
-#include "support/profile.h"
 #include "support/database.h"
 #include "support/deliberate_leak.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace {

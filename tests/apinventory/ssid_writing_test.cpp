@@ -3,8 +3,8 @@
 
 #include "apinventory/device_statements.h"
 #include "apinventory/writers.h"
-#include "support/profile.h"
 #include "support/deliberate_leak.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace {

@@ -138,7 +138,7 @@ using MissingLockFile = FailureTest;
 
 TEST_P(MissingLockFile, keeps_the_helper_from_everything_else) {
     ASSERT_EQ(unlink(support::lock_file), 0);
-    EXPECT_EQ(traces_of("select 5;"), (Traces{{-1, ""}, "", "cannot open /var/databaselock!\n", {}}));
+    EXPECT_EQ(traces_of("select 5;"), (Traces{{-1, ""}, "", support::cannot_open_lock_file, {}}));
     EXPECT_EQ(recorder_.calls(), Lines{"open lock file"});
     EXPECT_FALSE(support::file_exists(support::lock_file));
     EXPECT_TRUE(mutex_is_free());

@@ -144,7 +144,7 @@ TEST(GetDbLock, fails_without_the_file_and_does_not_create_it) {
     ASSERT_EQ(unlink(support::lock_file), 0);
     const int descriptors = support::open_descriptors();
     const support::Streams::Text text = support::streams_of([] { EXPECT_EQ(get_db_lock(), -1); });
-    EXPECT_EQ(text.error, "cannot open /var/databaselock!\n");
+    EXPECT_EQ(text.error, support::cannot_open_lock_file);
     EXPECT_EQ(text.output, "");
     EXPECT_FALSE(support::file_exists(support::lock_file));
     EXPECT_EQ(support::open_descriptors(), descriptors);

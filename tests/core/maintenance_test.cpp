@@ -94,7 +94,7 @@ TEST_P(Maintenance, touches_nothing_without_the_lock_file) {
     const std::string before = support::file_content(support::main_database);
     Recorder recorder;
     const support::Streams::Text text = support::streams_of([] { EXPECT_EQ(GetParam().run(), -1); });
-    EXPECT_EQ(text.error, "cannot open /var/databaselock!\n");
+    EXPECT_EQ(text.error, support::cannot_open_lock_file);
     EXPECT_EQ(text.output, "");
     EXPECT_EQ(recorder.calls(), Lines{"open lock file"});
     EXPECT_EQ(support::file_content(support::main_database), before);

@@ -3,8 +3,8 @@
 
 #include "json/ap_list.h"
 #include "json/printed.h"
-#include "support/profile.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace {

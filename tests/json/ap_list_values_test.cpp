@@ -7,9 +7,9 @@
 #include "json/ap_list.h"
 #include "json/printed.h"
 #include "routerdb.h"
-#include "support/profile.h"
 #include "support/database.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace {

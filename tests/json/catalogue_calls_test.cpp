@@ -5,8 +5,8 @@
 #include "json/catalogue.h"
 #include "json/printed.h"
 #include "routerdb.h"
-#include "support/profile.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace {

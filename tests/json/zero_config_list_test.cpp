@@ -229,7 +229,7 @@ TEST(ZeroConfigList, is_short_without_a_lock_file) {
     ASSERT_EQ(unlink(support::lock_file), 0);
     const auto said = support::streams_of([] { EXPECT_EQ(GetWlanZeroCfgGroupList(), 0); });
     printed::expect_complete(said.output, no_groups);
-    EXPECT_EQ(said.error, "cannot open /var/databaselock!\n");
+    EXPECT_EQ(said.error, support::cannot_open_lock_file);
 }
 
 TEST(ZeroConfigList, closes_behind_the_rows_that_it_got) {

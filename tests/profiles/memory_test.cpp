@@ -6,8 +6,8 @@
 
 #include "profiles/samples.h"
 #include "routerdb.h"
-#include "support/profile.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/streams.h"

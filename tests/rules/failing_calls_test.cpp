@@ -5,9 +5,9 @@
 #include <cstdio>
 
 #include "rules/golden/golden.h"
-#include "support/profile.h"
 #include "support/database.h"
 #include "support/fake_service.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/streams.h"
 #include "support/wrapped_calls.h"

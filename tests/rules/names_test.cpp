@@ -7,9 +7,9 @@
 
 #include "core/holdings.h"
 #include "routerdb.h"
-#include "support/profile.h"
 #include "support/database.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 

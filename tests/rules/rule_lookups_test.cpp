@@ -7,10 +7,10 @@
 #include <memory>
 
 #include "routerdb.h"
-#include "support/profile.h"
 #include "support/database.h"
 #include "support/fake_service.h"
 #include "support/process.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/streams.h"

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "routerdb.h"
-#include "support/profile.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/streams.h"

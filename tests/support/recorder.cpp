@@ -19,6 +19,8 @@
 #include <map>
 #include <utility>
 
+#include "support/database.h"
+
 namespace support {
 
 namespace {
@@ -222,7 +224,7 @@ int open(const char *path, int flags, ...) {
     const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
     va_end(arguments);
     const Call call;
-    const bool ours = call && std::strcmp(path, "/var/databaselock") == 0;
+    const bool ours = call && std::strcmp(path, lock_file) == 0;
     if (ours) {
         call.note("open lock file");
     }

@@ -6,9 +6,9 @@
 #include <unistd.h>
 
 #include "rules/golden/golden.h"
-#include "support/profile.h"
 #include "support/database.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/service.h"
 #include "support/streams.h"

@@ -81,7 +81,7 @@ TEST(SqldSocket, that_is_served_keeps_a_second_service_from_starting) {
     EXPECT_EQ(second.error, "routerdb-sqld: cannot listen, see the system log\n");
     EXPECT_EQ(second.output, "");
     const Lines lines = log.lines();
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "27 /var/sqlserver_socket is served already"), 1);
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), std::string("27 ") + service_socket + " is served already"), 1);
     EXPECT_TRUE(serves());
 }
 
@@ -91,7 +91,7 @@ TEST(SqldSocket, that_cannot_be_made_keeps_the_service_from_starting) {
     const Outcome service = run();
     EXPECT_EQ(service.status, 1);
     EXPECT_EQ(service.error, "routerdb-sqld: cannot listen, see the system log\n");
-    EXPECT_EQ(log.lines(), Lines{"27 cannot listen on /var/sqlserver_socket: Address already in use"});
+    EXPECT_EQ(log.lines(), Lines{std::string("27 cannot listen on ") + service_socket + ": Address already in use"});
 }
 
 class SqldStop : public testing::TestWithParam<int> {};
@@ -143,7 +143,7 @@ TEST(SqldOptions, explain_themselves) {
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.output,
               "usage: routerdb-sqld [--help | --version]\n"
-              "Answers the rule-table requests of librouterdb on /var/sqlserver_socket until SIGTERM.\n"
+              "Answers the rule-table requests of librouterdb until SIGTERM.\n"
               "Messages go to the system log.\n");
     EXPECT_EQ(run({"--version"}).output.substr(0, 14), "routerdb-sqld ");
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr char usage[] =
     "usage: routerdb-sqld [--help | --version]\n"
-    "Answers the rule-table requests of librouterdb on /var/sqlserver_socket until SIGTERM.\n"
+    "Answers the rule-table requests of librouterdb until SIGTERM.\n"
     "Messages go to the system log.\n";
 
 int run() {

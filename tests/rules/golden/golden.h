@@ -10,6 +10,7 @@
 
 #include "rules/golden/operations.h"
 #include "rules/golden/place.h"
+#include "support/database.h"
 #include "support/named.h"
 #include "support/streams.h"
 
@@ -44,11 +45,11 @@ struct Messages {
     support::Streams::Text without_table;
 };
 
-inline const Messages common_messages{{"cannot open /var/databaselock!\n", ""},
+inline const Messages common_messages{{support::cannot_open_lock_file, ""},
                                       {"Error: unable to open database file", ""},
                                       {"Error: no such table: nowhere", ""}};
 inline const Messages detailed_messages{
-    {"", "cannot open /var/databaselock!\n"},
+    {"", support::cannot_open_lock_file},
     {"", "cannot open /etc/config/systemconf/database/myrouter.db, ErrorCode: 14!\n"},
     {"cannot prepare sql cmdline, Error: no such table: nowhere\n", ""}};
 
