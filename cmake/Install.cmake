@@ -33,6 +33,12 @@ install(FILES ${PROJECT_BINARY_DIR}/routerdb.pc DESTINATION ${pkgconfig_dir})
 
 if(ROUTERDB_TOOLS)
     install(TARGETS routerdb-sqld DESTINATION ${CMAKE_INSTALL_SBINDIR})
+    # The manual page names the paths that are compiled in.
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/core/paths.h)
+    foreach(name lock_file service_socket)
+        file(STRINGS src/core/paths.h line REGEX " ${name}\\[\\] = ")
+        string(REGEX REPLACE ".*\"(.*)\".*" "\\1" ${name} "${line}")
+    endforeach()
     configure_file(tools/routerdb-sqld/routerdb-sqld.8.in routerdb-sqld.8 @ONLY)
     install(FILES ${PROJECT_BINARY_DIR}/routerdb-sqld.8 DESTINATION ${CMAKE_INSTALL_MANDIR}/man8)
 endif()

@@ -165,9 +165,8 @@ void choose_service(Variant variant) {
     std::free(desk.reply.data);
     desk.reply = {};
     unlink(paths::service_socket);
-    const char *const socket =
-        variant == Variant::modern ? "/var/sqlserver_socket.modern" : "/var/sqlserver_socket.exact";
-    if (symlink(socket, paths::service_socket) != 0) {
+    const std::string socket = std::string(paths::service_socket) + (variant == Variant::modern ? ".modern" : ".exact");
+    if (symlink(socket.c_str(), paths::service_socket) != 0) {
         std::perror("bench: cannot choose a service");
         std::exit(1);
     }

@@ -37,7 +37,6 @@ bool Socket::connect() {
     // The length counts the family and the characters of the path, without its terminator.
     constexpr std::size_t path_length = sizeof(paths::service_socket) - 1;
     constexpr socklen_t length = offsetof(sockaddr_un, sun_path) + path_length;
-    static_assert(length == 23);
     std::memcpy(address.sun_path, paths::service_socket, path_length);
     return ::connect(fd_, reinterpret_cast<const sockaddr *>(&address), length) != -1;
 }

@@ -6,7 +6,9 @@
 #include <atomic>
 #include <chrono>
 #include <csignal>
+#include <cstring>
 #include <list>
+#include <string>
 #include <thread>
 
 #include "sqlservice/exchange.h"
@@ -70,7 +72,7 @@ TEST(SqlclientCmd, calls_the_platform_in_a_fixed_order) {
                                     "setsockopt 1 7 32768",     // SO_SNDBUF
                                     "setsockopt 1 21 10s 0us",  // SO_SNDTIMEO
                                     "setsockopt 1 20 10s 0us",  // SO_RCVTIMEO
-                                    "connect 23",
+                                    "connect " + std::to_string(2 + std::strlen(support::service_socket)),
                                     "send 12 0",
                                     "send 37 0",
                                     "recv 12 0",

@@ -13,6 +13,7 @@ inline constexpr char catalogue_database[] = "/etc/config/systemconf/database/dp
 inline constexpr char factory_database[] = "/rom/etc/config/systemconf/database/myrouter.db";
 inline constexpr char backup_database[] = "/var/tmpconfig/database/myrouter.db";
 inline constexpr char lock_file[] = "/var/databaselock";
+inline constexpr char service_socket[] = "/var/sqlserver_socket";
 inline const std::string cannot_open_lock_file = std::string("cannot open ") + lock_file + "!\n";
 
 /// One connection of the test's own. It waits for others up to ten seconds.

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "support/database.h"
 #include "support/record.h"
 
 namespace support {

@@ -9,8 +9,6 @@
 
 namespace support {
 
-inline constexpr char service_socket[] = "/var/sqlserver_socket";
-
 /// What becomes of the request.
 enum class Hearing : std::uint8_t {
     whole,        // it is read

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "support/database.h"
 #include "support/fake_service.h"
 #include "support/record.h"
 
