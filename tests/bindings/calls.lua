@@ -48,7 +48,7 @@ sqlite.sqlite3_close(connection[0])
 show("GET_DB_SQLITE_SQL_STR_N", result, ffi.string(name))
 
 show("acl_wifi_id", routerdb.acl_wifi_id[0], routerdb.acl_wifi_id[1], routerdb.acl_wifi_id[2])
-show("DevInfo", ffi.sizeof("DevInfo"))
+show("TimeGroupItemCut", ffi.sizeof("TimeGroupItemCut"))
 
 -- Both print through the C library's stream.
 io.write("GetWlanZeroCfgGroupList ")

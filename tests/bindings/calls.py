@@ -50,7 +50,7 @@ sqlite.sqlite3_close(connection)
 show("GET_DB_SQLITE_SQL_STR_N", result, name.value)
 
 show("acl_wifi_id", *header.variable(routerdb, "acl_wifi_id"))
-show("DevInfo", ctypes.sizeof(DevInfo))
+show("TimeGroupItemCut", ctypes.sizeof(header.record("TimeGroupItemCut")))
 
 # The library prints through the C library's stream, Python through its own.
 sys.stdout.write("GetWlanZeroCfgGroupList ")

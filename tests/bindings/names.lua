@@ -6,4 +6,4 @@ local routerdb = require("routerdb")(arg[1], arg[2])
 for name in io.lines() do
     assert(routerdb[name])
 end
-assert(require("ffi").sizeof("DevInfo") == 6936)
+assert(require("ffi").sizeof("TimeGroupItemCut") == 376)
