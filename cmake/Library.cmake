@@ -35,10 +35,13 @@ add_library(
     src/appcatalog/names.cpp
     src/core/access.cpp
     src/core/backoff.cpp
+    src/core/call_errno.cpp
+    src/core/confinement.cpp
     src/core/connection.cpp
     src/core/doors.cpp
     src/core/execute.cpp
     src/core/journal.cpp
+    src/core/list_room.cpp
     src/core/lock_file.cpp
     src/core/maintenance.cpp
     src/core/query.cpp
@@ -56,6 +59,7 @@ add_library(
     src/rules/behavior_names.cpp
     src/rules/client_ops.cpp
     src/rules/columns.cpp
+    src/rules/condition.cpp
     src/rules/derived.cpp
     src/rules/doors.cpp
     src/rules/field_reader.cpp

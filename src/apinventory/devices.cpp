@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "core/list_room.h"
 #include "core/profiles.h"
 #include "core/query.h"
 #include "core/reading.h"
@@ -22,6 +23,12 @@ constexpr ReadProfile all_devices = unguarded.sleeping_from(FirstDelay::microsec
 // Callers see that the table can be counted, not the count: that takes none of the 160 columns.
 constexpr const char *count_text =
     build_profile.names_needed_columns ? "select 1 from DevInfo;" : "select  * from DevInfo;";
+
+/// The list never takes more than it has room for; whether that is told is up to the build profile.
+bool has_room(const ApDevList &list, CallErrno &call) {
+    return list_takes(list.count, ROUTERDB_DEVICE_LIST_CAPACITY, "DevInfo", call) &&
+           list.count < ROUTERDB_DEVICE_LIST_CAPACITY;
+}
 
 }  // namespace
 
@@ -50,9 +57,10 @@ bool read_all_devices(ApDevList &list, Ssids ssids) {
     if (reading.start("select * from DevInfo  order by Dev_IPSUM ;") != Start::ready) {
         return false;
     }
-    while (reading.next_row() && list.count < ROUTERDB_DEVICE_LIST_CAPACITY) {
+    while (reading.next_row() && has_room(list, reading.call())) {
         auto *device = static_cast<DevInfo *>(std::malloc(sizeof(DevInfo)));
         if (device == nullptr) {
+            reading.call().fail(ENOMEM);
             break;
         }
         *device = {};

@@ -91,7 +91,7 @@ void SetDevUpgradeStatus(const char *mac, const char *status) {
 }
 
 int GetTableCount(const char *table) {
-    return rows_in_table(or_empty(table));
+    return rows_in_named_table(or_empty(table));
 }
 
 int get_devinfo_count() {

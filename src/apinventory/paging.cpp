@@ -18,16 +18,24 @@ void append_group(Text &sql, const PageRequest &request) {
     sql.append_quoted(long{request.group});
 }
 
+void append_pattern(Text &sql, std::string_view searched) {
+    StackText<longest_search + sizeof("%%")> pattern;
+    pattern.append("%").append(searched).append("%");
+    sql.append_quoted(pattern.view());
+}
+
 /// "Dev_Ipaddress like '%1.2%' and Dev_MAC like '%AA%'", or the one that is searched for
 void append_search(Text &sql, const PageRequest &request) {
     if (!request.address.empty()) {
-        sql.append("Dev_Ipaddress like '%").append(request.address).append("%'");
+        sql.append("Dev_Ipaddress like ");
+        append_pattern(sql, request.address);
     }
     if (!request.address.empty() && !request.mac.empty()) {
         sql.append(" and ");
     }
     if (!request.mac.empty()) {
-        sql.append("Dev_MAC like '%").append(request.mac).append("%'");
+        sql.append("Dev_MAC like ");
+        append_pattern(sql, request.mac);
     }
 }
 

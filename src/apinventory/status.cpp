@@ -28,6 +28,11 @@ void read_text(const Text &sql, TextRoom out) {
     [[maybe_unused]] const int result = read(profiles::exec_char_char, sql, out);
 }
 
+int count_rows(const Text &sql, SharedConnection *shared = nullptr) {
+    unsigned rows = 0;
+    return count(profiles::exec_char_int, sql, rows, shared) == 0 ? static_cast<int>(rows) : 0;
+}
+
 }  // namespace
 
 void set_status(LookupKey key, const char *value, const char *status) {
@@ -76,8 +81,13 @@ void set_upgrade_status(const char *mac, const char *status) {
 int rows_in_table(const char *table, SharedConnection *shared) {
     Sql sql;
     sql.append("select *  from ").append(table).append(";");
-    unsigned rows = 0;
-    return count(profiles::exec_char_int, sql, rows, shared) == 0 ? static_cast<int>(rows) : 0;
+    return count_rows(sql, shared);
+}
+
+int rows_in_named_table(const char *name) {
+    Sql sql;
+    sql.append("select *  from ").append_table(name).append(";");
+    return count_rows(sql);
 }
 
 }  // namespace routerdb

@@ -32,4 +32,7 @@ void set_upgrade_status(const char *mac, const char *status);
 /// Rows of a table of the main database; 0 when they cannot be read.
 int rows_in_table(const char *table, SharedConnection *shared = nullptr);
 
+/// The same for a table that a caller names.
+int rows_in_named_table(const char *name);
+
 }  // namespace routerdb

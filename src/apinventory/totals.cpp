@@ -28,6 +28,7 @@ void read_each(Totals &totals, SharedConnection *shared) {
 /// Reads all of them by one statement that says nothing when it fails.
 /// @return whether they are what the statements one by one would give
 bool read_at_once(Totals &totals, SharedConnection *shared) {
+    const CallErrno untold;
     Reading reading(silent_totals, shared);
     if (reading.start("select sum(Dev_Ipaddress <> ''),sum(Dev_Status='1'),sum(Dev_Wlan_Sta_Num),"
                       "sum(Dev_Wlan_Sta_Num_sec) from DevInfo;") != Start::ready ||

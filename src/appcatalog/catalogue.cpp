@@ -66,6 +66,7 @@ const char *const *Catalogue::known_names(int class_id, std::string_view feature
 
 /// @return whether all of them are there, their features as texts: others compare in ways of their own
 bool Catalogue::read_applications(Class &owner) {
+    const CallErrno untold;  // the lookup by itself tells
     StackText<96> sql;
     sql.append("select Features,Name,Name_En from App_Info where Class_Id=").append_quoted(long{owner.id}).append(";");
     Reading reading(applications_of_class, &connection_);

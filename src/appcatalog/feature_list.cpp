@@ -1,8 +1,10 @@
 #include "appcatalog/feature_list.h"
 
 #include <cstring>
+#include <iterator>
 
 #include "appcatalog/catalogue_text.h"
+#include "core/list_room.h"
 #include "core/reading.h"
 
 namespace routerdb {
@@ -31,8 +33,7 @@ void read_features(AppFeatureList &list, int class_id) {
     }
     char *slot = list.features[0];
     std::uint32_t count = 0;
-    // There is no limit to the rows: the caller's buffer is sized for the class.
-    while (reading.next_row()) {
+    while (reading.next_row() && list_takes(count, std::size(list.features), "App_Info", reading.call())) {
         const std::string_view feature = catalogue_text(reading.row(), 0);
         std::memcpy(slot, feature.data(), feature.size());
         slot[feature.size()] = '\0';

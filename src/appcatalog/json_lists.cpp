@@ -48,10 +48,17 @@ void print_rows(const ListSpec &spec, json::Keys keys, Reading &reading, const c
     list.close(spec.count == Count::of_table ? table_count : list.count(), spec.closing_blank);
 }
 
+void append_query(Text &sql, const char *query, bool by_number, const char *argument, const ListSpec &spec) {
+    sql.append(query);
+    if (by_number) {
+        sql.append_quoted(argument).append(spec.query_tail);
+    }
+}
+
 void read_rows(const ListSpec &spec, json::Keys keys, const char *argument, int table_count,
                SharedConnection &connection) {
     SqlText sql;
-    sql.append(spec.row_query).append(argument).append(spec.query_tail);
+    append_query(sql, spec.row_query, spec.reads_by_number, argument, spec);
     Reading reading(catalogue, &connection);
     const Start start = reading.start(sql);
     if (start == Start::ready) {
@@ -67,10 +74,7 @@ void read_rows(const ListSpec &spec, json::Keys keys, const char *argument, int 
 
 void print_list(const ListSpec &spec, json::Keys keys, const char *argument) {
     SqlText sql;
-    sql.append(spec.count_query);
-    if (spec.count_by_class) {
-        sql.append(argument).append(spec.query_tail);
-    }
+    append_query(sql, spec.count_query, spec.counts_by_number, argument, spec);
     SharedConnection connection;
     const int count = first_number_closing_input(profiles::sql_int_count_dpi, sql, &connection);
     json::print("{\"ItemList\":");

@@ -24,8 +24,9 @@ enum class Count : std::uint8_t { of_elements, of_table };
 struct ListSpec {
     char count_query[52];  // up to the caller's text
     char row_query[76];
-    char query_tail[4];   // behind the caller's text
-    bool count_by_class;  // the caller's text and the tail belong to the count query too
+    char query_tail[3];     // behind the caller's text
+    bool counts_by_number;  // the caller's text and the tail belong to the count query
+    bool reads_by_number;   // and to the other
     Count count;
     char closing_blank[2];
 };
@@ -42,7 +43,7 @@ constexpr json::Value catalogue_column(std::uint8_t column) {
 
 // clang-format off
 inline constexpr KeyedList<9> all_classes{
-    {"select  count(*) from App_Class;", "select * from App_Class order by Id ;", "", false,
+    {"select  count(*) from App_Class;", "select * from App_Class order by Id ;", "", false, false,
      Count::of_elements, ""}, {
         {"id", json::column_number(0)},
         {"name", catalogue_column(1)},
@@ -57,7 +58,7 @@ inline constexpr KeyedList<9> all_classes{
 
 // Deliberate: the whole table is counted, and its count printed.
 inline constexpr KeyedList<3> one_class{
-    {"select  count(*) from App_Class;", "select Name,Mark from App_Class where Id='", "' ;", false,
+    {"select  count(*) from App_Class;", "select Name,Mark from App_Class where Id=", " ;", false, true,
      Count::of_table, ""}, {
         {"name", catalogue_column(0)},
         {"mark", catalogue_column(1)},
@@ -65,7 +66,7 @@ inline constexpr KeyedList<3> one_class{
     }};
 
 inline constexpr KeyedList<5> one_application{
-    {"select\tcount(*) from App_Info;", "select Class_Id,Name,Name_En,Features,Mark from App_Info where Id='", "' ;", false,
+    {"select\tcount(*) from App_Info;", "select Class_Id,Name,Name_En,Features,Mark from App_Info where Id=", " ;", false, true,
      Count::of_elements, " "}, {
         {"classname", json::column_number(0)},  // Deliberate: the key says name, the value is the number.
         {"appname", catalogue_column(1)},
@@ -75,7 +76,7 @@ inline constexpr KeyedList<5> one_application{
     }};
 
 inline constexpr KeyedList<6> applications_of_class{
-    {"select  count(*) from App_Info where Class_Id='", "select * from App_Info where Class_Id='", "';", true,
+    {"select  count(*) from App_Info where Class_Id=", "select * from App_Info where Class_Id=", ";", true, true,
      Count::of_elements, " "}, {
         {"id", json::column_number(0)},
         {"class_id", json::given(given_argument)},

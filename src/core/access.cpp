@@ -25,6 +25,9 @@ bool Access::take_guard() {
         draw();
     }
     if (profile_.guard != Guard::none && !lock_file_.open()) {
+        if (profile_.guard != Guard::lock_file_if_there) {
+            call_.fail(errno);
+        }
         printed_ = report({profile_.not_locked, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
         if (profile_.guard != Guard::lock_file_if_there) {
             return false;
@@ -42,8 +45,10 @@ bool Access::take_guard() {
 bool Access::open_database() {
     code_ = connection_.open(profile_.database, backoff_);
     if (code_ == SQLITE_OK) {
+        confine(db(), profile_.texts);
         return true;
     }
+    call_.fail(errno_of(code_));
     printed_ = report(profile_.not_opened, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
     if (profile_.failed_handle == FailedHandle::abandoned) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.

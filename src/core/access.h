@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/access_profile.h"
+#include "core/call_errno.h"
 #include "core/lock_file.h"
 
 namespace routerdb {
@@ -53,7 +54,11 @@ public:
     sqlite3 *db() const { return connection_.handle(); }
     Backoff &backoff() { return backoff_; }
 
+    /// Whoever uses the access says here that it was in vain.
+    CallErrno &call() { return call_; }
+
 private:
+    CallErrno call_;  // outlives all that is released
     const AccessProfile &profile_;
     int printed_ = 0;
     int code_ = SQLITE_OK;

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/backoff.h"
+#include "core/confinement.h"
 #include "core/connection.h"
 #include "core/report.h"
 
@@ -23,6 +24,7 @@ struct ReadProfile;
 struct AccessProfile {
     Database database = Database::main;
     Guard guard = Guard::none;
+    Texts texts = Texts::own;
     FirstDelay first_delay = FirstDelay::random;
     Draw draw = Draw::after_opening_lock_file;
     std::uint8_t scale = 1;  // of the sleeps
@@ -43,6 +45,7 @@ private:
 public:
     constexpr AccessProfile on(Database other) const { return with(&AccessProfile::database, other); }
     constexpr AccessProfile under(Guard other) const { return with(&AccessProfile::guard, other); }
+    constexpr AccessProfile for_callers() const { return with(&AccessProfile::texts, Texts::of_callers); }
     constexpr AccessProfile sleeping_from(FirstDelay other) const { return with(&AccessProfile::first_delay, other); }
     constexpr AccessProfile sleeping_times(std::uint8_t other) const { return with(&AccessProfile::scale, other); }
     constexpr AccessProfile drawing_first() const { return with(&AccessProfile::draw, Draw::before_opening_lock_file); }
@@ -63,6 +66,9 @@ public:
 struct ReadProfile {
     AccessProfile access;
     Message not_prepared;
+
+    /// The same for texts that callers hand over.
+    constexpr ReadProfile for_callers() const { return {access.for_callers(), not_prepared}; }
 };
 
 constexpr ReadProfile AccessProfile::when_not_prepared(Message told) const {
@@ -70,6 +76,10 @@ constexpr ReadProfile AccessProfile::when_not_prepared(Message told) const {
 }
 
 namespace profiles {
+
+/// A profile of the library's own texts, for callers': `for_callers<exec_char>`.
+template <const auto &profile>
+inline constexpr auto for_callers = profile.for_callers();
 
 /// What most readers do: no lock, and not a word.
 inline constexpr AccessProfile unguarded{};

@@ -1,4 +1,5 @@
 // The exported functions of the database core. Each converts its arguments, calls, and converts the result.
+#include "core/call_errno.h"
 #include "core/execute.h"
 #include "core/lock_file.h"
 #include "core/maintenance.h"
@@ -9,6 +10,7 @@
 #include "text/text.h"
 
 using namespace routerdb;
+using profiles::for_callers;
 
 pthread_mutex_t db_mutex = PTHREAD_MUTEX_INITIALIZER;
 
@@ -17,8 +19,10 @@ int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len) {
 }
 
 int get_db_lock() {
+    CallErrno call;
     LockFile lock_file;
     if (!lock_file.open()) {
+        call.fail(errno);
         report({Stream::standard_error, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
         return -1;
     }
@@ -48,39 +52,39 @@ int reset_sqlite_db() {
 }
 
 int DB_EXEC_SQL_CHAR(const char *sql) {
-    return execute(profiles::exec_char, or_empty(sql));
+    return execute(for_callers<profiles::exec_char>, or_empty(sql));
 }
 
 int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count) {
-    return routerdb::count(profiles::exec_char_int, or_empty(sql), *count);
+    return routerdb::count(for_callers<profiles::exec_char_int>, or_empty(sql), *count);
 }
 
 int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value) {
-    return read(profiles::exec_char_long, or_empty(sql), *value);
+    return read(for_callers<profiles::exec_char_long>, or_empty(sql), *value);
 }
 
 int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out) {
-    return read(profiles::exec_char_char, or_empty(sql), unlimited_room(out));
+    return read(for_callers<profiles::exec_char_char>, or_empty(sql), unlimited_room(out));
 }
 
 int GET_DB_SQL_INT_COUNT(const char *sql) {
-    return sum_diagonal(profiles::sql_int, or_empty(sql));
+    return sum_diagonal(for_callers<profiles::sql_int>, or_empty(sql));
 }
 
 int GET_DB_SQL_INT(const char *sql) {
-    return count(profiles::sql_int, or_empty(sql));
+    return count(for_callers<profiles::sql_int>, or_empty(sql));
 }
 
 int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql) {
-    return first_number(profiles::sql_int_count_route, or_empty(sql));
+    return first_number(for_callers<profiles::sql_int_count_route>, or_empty(sql));
 }
 
 int GET_DB_SQL_INT_COUNT_DPI(const char *sql) {
-    return first_number(profiles::sql_int_count_dpi, or_empty(sql));
+    return first_number(for_callers<profiles::sql_int_count_dpi>, or_empty(sql));
 }
 
 int GET_DB_SQLITE_SQL_INT(const char *sql) {
-    return first_number_closing_input(profiles::sql_int_count_dpi, or_empty(sql));
+    return first_number_closing_input(for_callers<profiles::sql_int_count_dpi>, or_empty(sql));
 }
 
 unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db) {

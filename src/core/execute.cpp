@@ -59,12 +59,19 @@ int execute(Access &access, const char *sql) {
         }
         return result;
     });
+    if (code != SQLITE_OK) {
+        access.call().fail(errno_of(code));
+    }
     return code == SQLITE_OK ? 0 : -1;
 }
 
 int execute(const ExecuteProfile &profile, SqlView sql) {
     Access access(profile.access);
-    if (!sql.complete() || !access.open()) {
+    if (!sql.complete()) {
+        access.call().fail(ENOMEM);
+        return -1;
+    }
+    if (!access.open()) {
         return -1;
     }
     if (profile.pragmas == Pragmas::write_tuning) {
@@ -76,7 +83,7 @@ int execute(const ExecuteProfile &profile, SqlView sql) {
 int execute_with_copy(const char *sql) {
     int result = -1;
     {
-        Access access(profiles::guarded_execution.access);
+        Access access(profiles::for_callers<profiles::guarded_execution>.access);
         if (!access.open()) {
             return -1;
         }

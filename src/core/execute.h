@@ -11,6 +11,9 @@ enum class Pragmas : std::uint8_t { none, write_tuning };
 struct ExecuteProfile {
     AccessProfile access;
     Pragmas pragmas;
+
+    /// The same for texts that callers hand over.
+    constexpr ExecuteProfile for_callers() const { return {access.for_callers(), pragmas}; }
 };
 
 /// Executes SQL on an open connection, retrying the whole text while the database is busy, without what a transaction

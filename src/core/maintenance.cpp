@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "core/call_errno.h"
 #include "core/journal.h"
 #include "core/lock_file.h"
 #include "core/paths.h"
@@ -28,8 +29,10 @@ void sync_file_system_of(const char *directory) {
 /// Runs `commands` under the lock file. What they put into `directory` is on disk before the lock goes.
 template <typename Commands>
 int maintain(const char *directory, Commands commands) {
+    CallErrno call;
     LockFile lock_file;
     if (!lock_file.open()) {
+        call.fail(errno);
         report({Stream::standard_error, Wording::cannot_open}, {paths::lock_file, 0, nullptr});
         return -1;
     }

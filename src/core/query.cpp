@@ -84,15 +84,17 @@ int read(const ReadProfile &profile, SqlView sql, TextRoom text) {
 }
 
 int read_first(sqlite3 *db, const char *sql, char *text) {
+    CallErrno call;
     Backoff backoff(FirstDelay::random);
     Statement statement;
-    if (!statement.prepare(db, sql, backoff, webserver_on_output)) {
-        return -1;
-    }
-    if (statement.next_row(backoff)) {
+    const bool prepared = statement.prepare(db, sql, backoff, webserver_on_output);
+    if (prepared && statement.next_row(backoff)) {
         std::strcpy(text, statement.row().text(0, "0"));  // the caller vouches for the room
     }
-    return 0;
+    if (!statement.ended_well()) {
+        call.fail(errno_of(statement.code()));
+    }
+    return prepared ? 0 : -1;
 }
 
 }  // namespace routerdb

@@ -10,7 +10,11 @@ Reading::~Reading() {
 }
 
 Start Reading::start(SqlView sql) {
-    if (!sql.complete() || !access_.take_guard()) {
+    if (!sql.complete()) {
+        call().fail(ENOMEM);
+        return Start::not_opened;
+    }
+    if (!access_.take_guard()) {
         return Start::not_opened;
     }
     if (start_on_shared(sql.narrow() != nullptr ? sql.narrow() : sql.text())) {
@@ -22,8 +26,11 @@ Start Reading::start(SqlView sql) {
     if (sql.narrow() != nullptr && start_silently(sql.narrow())) {
         return Start::ready;
     }
-    return statement_.prepare(access_.db(), sql.text(), access_.backoff(), profile_.not_prepared) ? Start::ready
-                                                                                                  : Start::not_prepared;
+    if (!statement_.prepare(access_.db(), sql.text(), access_.backoff(), profile_.not_prepared)) {
+        call().fail(errno_of(statement_.code()));
+        return Start::not_prepared;
+    }
+    return Start::ready;
 }
 
 /// Starts on the connection of earlier readings. It remembers tables: that they are still there shows at the first step
@@ -54,7 +61,11 @@ bool Reading::next_row() {
         ahead_ = false;
         return statement_.has_row();
     }
-    return statement_.next_row(access_.backoff());
+    const bool has_row = statement_.next_row(access_.backoff());
+    if (!statement_.ended_well()) {
+        call().fail(errno_of(statement_.code()));
+    }
+    return has_row;
 }
 
 Reading::Closed Reading::close() {

@@ -35,6 +35,9 @@ public:
     sqlite3_stmt *statement() const { return statement_.handle(); }
     sqlite3 *db() const { return access_.db(); }
 
+    /// What errno tells of this reading.
+    CallErrno &call() { return access_.call(); }
+
     /// Of a database that could not be opened: what printing the message returned, and the result code of SQLite.
     int printed() const { return access_.printed(); }
     int code() const { return access_.code(); }

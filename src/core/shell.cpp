@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "core/call_errno.h"
+
 namespace routerdb {
 
 void run_in_shell(std::size_t size, const char *format, ...) {
@@ -15,6 +17,7 @@ void run_in_shell(std::size_t size, const char *format, ...) {
     if (length < 0 || static_cast<std::size_t>(length) >= size) {
         return;
     }
+    const CallErrno untold;  // what becomes of a command is not looked at
     // NOLINTNEXTLINE(cert-env33-c): the system's programs are reached through the shell
     [[maybe_unused]] const int result = system(command);
 }

@@ -44,6 +44,9 @@ public:
     /// Whether the statement so far gave all that there is: a row, or the end of the rows.
     bool ended_well() const { return code_ == SQLITE_OK || code_ == SQLITE_ROW || code_ == SQLITE_DONE; }
 
+    /// The result code of SQLite for preparing, or for the last step.
+    int code() const { return code_; }
+
     /// Finalises now instead of at the end of the scope.
     void finalize();
 
@@ -53,7 +56,7 @@ public:
 private:
     sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
-    int code_ = SQLITE_OK;  // of preparing, or of the last step
+    int code_ = SQLITE_OK;
 };
 
 }  // namespace routerdb

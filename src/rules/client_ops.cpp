@@ -1,7 +1,12 @@
 #include "rules/client_ops.h"
 
+#include <syslog.h>
+
 #include <cstring>
 
+#include "build_profile.h"
+#include "core/list_room.h"
+#include "rules/condition.h"
 #include "rules/record.h"
 #include "rules/sql_builder.h"
 #include "sqlservice/client.h"
@@ -20,6 +25,22 @@ void execute(std::uint8_t table_id, const Text &statement) {
     const Reply reply = request(table_id, ROUTERDB_EXECUTE, statement);
 }
 
+/// A condition that means other rows than it names is not sent.
+void refuse(const RuleTable &table) {
+    CallErrno call;
+    syslog(LOG_ERR, "delete from %s refused: its condition does more than compare columns with values\n", table.name);
+    call.fail(EINVAL);
+}
+
+/// Records of a reply that a list takes. There is no end to them where the build profile does not cap lists: the
+/// caller's buffer is sized for the table.
+std::size_t records_of(const Reply &reply, const RuleTable &table) {
+    const std::size_t count = reply.size() / table.record_size;
+    CallErrno call;
+    return count == 0 || list_takes(count - 1, ROUTERDB_LIST_CAPACITY, table.name, call) ? count
+                                                                                         : ROUTERDB_LIST_CAPACITY;
+}
+
 }  // namespace
 
 void list_items(const RuleTable &table, void *list) {
@@ -29,8 +50,7 @@ void list_items(const RuleTable &table, void *list) {
     const RecordArea area{records, table.record_size, ROUTERDB_LIST_CAPACITY};
     const Reply reply = request(table.id, ROUTERDB_QUERY, statement, &area);
 
-    // Whole records only, and no limit to what the list holds: the caller's buffer is sized for the table.
-    const std::size_t count = reply.size() / table.record_size;
+    const std::size_t count = records_of(reply, table);
     const std::size_t used = sizeof(std::uint32_t) + count * table.record_size;
     put_number(list, 0, static_cast<std::int32_t>(count));
     if (count != 0 && reply.data() != records) {
@@ -66,6 +86,9 @@ void modify_item(const RuleTable &table, const void *record) {
 }
 
 void delete_items(const RuleTable &table, const char *condition) {
+    if (build_profile.checks_conditions && !is_plain_condition(or_empty(condition))) {
+        return refuse(table);
+    }
     SqlText statement;
     append_delete(statement, table);
     statement.append(or_empty(condition)).append(";");

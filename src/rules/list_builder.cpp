@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "core/list_room.h"
 #include "core/reading.h"
 #include "rules/field_reader.h"
 #include "rules/record.h"
@@ -14,12 +15,13 @@ namespace {
 using namespace profiles;
 
 // The first delay is drawn before anything else.
-constexpr ReadProfile common = unguarded.under(Guard::lock_file)
+constexpr ReadProfile common = unguarded.for_callers()
+                                   .under(Guard::lock_file)
                                    .drawing_first()
                                    .when_not_locked(Stream::standard_output)
                                    .when_not_opened(error_on_output)
                                    .when_not_prepared(error_on_output);
-constexpr ReadProfile detailed = guarded.drawing_first().when_not_prepared(prepare_on_output);
+constexpr ReadProfile detailed = guarded.for_callers().drawing_first().when_not_prepared(prepare_on_output);
 
 /// The place of record `index` in a list. The list is cleared, what lies behind its capacity is cleared here.
 void *next_record(const RuleTable &table, void *list, std::size_t index) {
@@ -33,10 +35,9 @@ void *next_record(const RuleTable &table, void *list, std::size_t index) {
 /// @return the number of rows
 std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Derive derive) {
     const Columns columns(table, reading.statement());
-    References references(reading.db());
+    References references(reading.db(), reading.call());
     std::size_t count = 0;
-    // There is no limit to the rows: the caller's buffer is sized for the table.
-    while (reading.next_row()) {
+    while (reading.next_row() && list_takes(count, ROUTERDB_LIST_CAPACITY, table.name, reading.call())) {
         void *record = next_record(table, list, count++);
         read_fields(table, columns, reading.row(), record);
         if (derive != nullptr) {

@@ -28,13 +28,15 @@ void read_ip_group(const Statement &statement, void *group) {
 /// Prepares a lookup and steps to its row.
 /// @return whether it went well, with or without a row
 bool look_up(sqlite3 *db, const Text &sql, Wording failure, ReadGroup read, void *group) {
+    CallErrno call;
     Backoff backoff(FirstDelay::random);
     Statement statement;
-    if (!statement.prepare(db, sql.c_str(), backoff, {Stream::standard_output, failure})) {
-        return false;
-    }
-    if (statement.next_row(backoff)) {
+    if (statement.prepare(db, sql.c_str(), backoff, {Stream::standard_output, failure}) &&
+        statement.next_row(backoff)) {
         read(statement, group);
+    }
+    if (!statement.ended_well()) {
+        call.fail(errno_of(statement.code()));
     }
     return statement.ended_well();
 }
@@ -87,6 +89,8 @@ void References::find(Groups<Group> &groups, const Lookup<Group> &lookup, int id
         if (Known<Group> *const entry = groups.known.add()) {
             *entry = {id, group};
         }
+    } else {
+        call_.fail(errno_of(sqlite3_errcode(db_)));
     }
 }
 

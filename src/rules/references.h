@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include "appcatalog/catalogue.h"
+#include "core/call_errno.h"
 #include "core/remembered.h"
 #include "core/statement.h"
 #include "dhcp/host_name.h"
@@ -27,7 +28,8 @@ using ReadGroup = void (*)(const Statement &statement, void *group);
 /// Looks up for one list, on the connection that reads the rules: its open statement pins what the groups are.
 class References {
 public:
-    explicit References(sqlite3 *db) : db_(db) {}
+    /// @param call  learns of lookups that fail
+    References(sqlite3 *db, CallErrno &call) : db_(db), call_(call) {}
 
     void find_time_group(int id, TimeGroupItem &group);
     void find_ip_group(int id, IpGroupItem &group);
@@ -61,6 +63,7 @@ private:
     void find(Groups<Group> &groups, const Lookup<Group> &lookup, int id, Group &group);
 
     sqlite3 *db_;
+    CallErrno &call_;
     Groups<TimeGroupItem> time_groups_;
     Groups<IpGroupItem> ip_groups_;
 };

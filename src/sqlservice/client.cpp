@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "build_profile.h"
+#include "core/call_errno.h"
 #include "core/enum_order.h"
 #include "sqlservice/sigpipe_hold.h"
 #include "sqlservice/socket.h"
@@ -34,25 +35,63 @@ constexpr Failure failures[] = {
 };
 static_assert(follows_enum(failures, &Failure::step));
 
+// A list of the longest records fits, and any text that a query is answered with.
+constexpr std::int32_t longest_reply = 1024 * 1024;
+constexpr std::int32_t longest_scalar = 64 * 1024;
+
+/// One request and its reply, step by step.
+class Exchange {
+public:
+    Exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area)
+        : request_(request), reply_(reply), area_(area) {}
+
+    /// @return 0, or -1 after the failure was reported
+    int run() {
+        const int sent = send_request();
+        return sent == 0 ? receive_reply() : sent;
+    }
+
+private:
+    int send_request();
+    int receive_reply();
+    int receive_data();
+    bool receive_all(char *data);
+    bool announces_too_much() const;
+    int fail(Step step);
+    int fail(Step step, int reason);
+
+    CallErrno call_;
+    Socket socket_;
+    const SqlRequest &request_;
+    SqlReply &reply_;
+    const RecordArea *area_;
+};
+
 /// Each failure is reported twice, with the system's reason on standard error.
-int fail(Step step) {
+int Exchange::fail(Step step) {
+    call_.fail(errno == EAGAIN ? ETIMEDOUT : errno);  // what a time-out is for callers
     const char *failure = failures[static_cast<unsigned>(step)].text;
     std::perror(failure);
     syslog(LOG_ERR, "%s!\n", failure);
     return -1;
 }
 
+int Exchange::fail(Step step, int reason) {
+    errno = reason;
+    return fail(step);
+}
+
 /// Connects and sends the request.
-int send_request(Socket &socket, const SqlRequest &request) {
-    if (!socket.create()) {
+int Exchange::send_request() {
+    if (!socket_.create()) {
         return fail(Step::create);
     }
-    if (!socket.connect()) {
+    if (!socket_.connect() || !socket_.serves_this_caller()) {
         return fail(Step::connect);
     }
     SigpipeHold hold;
-    const bool header_sent = socket.send(&request, wire::header_size);
-    if (header_sent && socket.send(request.text, request.length)) {
+    const bool header_sent = socket_.send(&request_, wire::header_size);
+    if (header_sent && socket_.send(request_.text, request_.length)) {
         return 0;
     }
     hold.note_failure();
@@ -75,13 +114,18 @@ void release(void *data, const RecordArea *area) {
     }
 }
 
-/// Receives the bytes that the reply announces. The service may end them early: what is missing then reads as zero.
-bool receive_all(Socket &socket, char *data, const SqlReply &reply) {
+/// Receives the bytes that the reply announces. Where replies are not checked the service may end them early: what is
+/// missing then reads as zero.
+bool Exchange::receive_all(char *data) {
     std::size_t received = 0;
-    while (received < static_cast<std::size_t>(reply.size)) {
-        const std::size_t missing = static_cast<std::size_t>(reply.size) - received;
-        const ssize_t count = socket.receive(data + received, missing);
+    while (received < static_cast<std::size_t>(reply_.size)) {
+        const std::size_t missing = static_cast<std::size_t>(reply_.size) - received;
+        const ssize_t count = socket_.receive(data + received, missing);
         if (count < 0) {
+            return false;
+        }
+        if (count == 0 && build_profile.checks_replies) {
+            errno = EPROTO;
             return false;
         }
         if (count == 0) {
@@ -94,42 +138,54 @@ bool receive_all(Socket &socket, char *data, const SqlReply &reply) {
 }
 
 /// Receives the data behind the header.
-int receive_data(Socket &socket, SqlReply &reply, const RecordArea *area) {
-    void *const data = room_for(static_cast<std::size_t>(reply.size), area);
+int Exchange::receive_data() {
+    void *const data = room_for(static_cast<std::size_t>(reply_.size), area_);
     if (data == nullptr) {
         return fail(Step::allocate);
     }
-    if (!receive_all(socket, static_cast<char *>(data), reply)) {
-        release(data, area);
-        return fail(Step::receive_data);
+    if (!receive_all(static_cast<char *>(data))) {
+        const int reason = errno;
+        release(data, area_);
+        return fail(Step::receive_data, reason);
     }
-    reply.data = data;
+    reply_.data = data;
     return 0;
 }
 
-int receive_reply(Socket &socket, SqlReply &reply, const RecordArea *area) {
-    reply = {};
-    if (socket.receive(&reply, wire::header_size) != static_cast<ssize_t>(wire::header_size)) {
-        return fail(Step::receive_header);
+/// Whether what is announced is no reply.
+bool Exchange::announces_too_much() const {
+    const std::int32_t longest = request_.table_id == ROUTERDB_TABLE_SCALAR ? longest_scalar : longest_reply;
+    return build_profile.checks_replies && (reply_.size < 0 || reply_.size > longest);
+}
+
+int Exchange::receive_reply() {
+    reply_ = {};
+    const ssize_t received = socket_.receive(&reply_, wire::header_size);
+    if (received != static_cast<ssize_t>(wire::header_size)) {
+        return received < 0 ? fail(Step::receive_header) : fail(Step::receive_header, EPROTO);
     }
-    if (reply.size >= 1) {
-        return receive_data(socket, reply, area);
+    if (announces_too_much()) {
+        return fail(Step::receive_header, EPROTO);
     }
-    reply.data = std::malloc(4);  // so that a caller can always free it
-    return reply.data != nullptr ? 0 : fail(Step::allocate);
+    if (reply_.size >= 1) {
+        return receive_data();
+    }
+    reply_.data = std::malloc(4);  // so that a caller can always free it
+    return reply_.data != nullptr ? 0 : fail(Step::allocate);
 }
 
 }  // namespace
 
 int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area) {
-    Socket socket;
-    const int sent = send_request(socket, request);
-    return sent == 0 ? receive_reply(socket, reply, area) : sent;
+    return Exchange(request, reply, area).run();
 }
 
 Reply send(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area) {
     SqlReply reply{};
-    if (statement.complete()) {
+    if (!statement.complete()) {
+        CallErrno call;
+        call.fail(ENOMEM);
+    } else {
         const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
                                  statement.c_str()};
         exchange(request, reply, area);

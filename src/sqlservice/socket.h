@@ -4,6 +4,7 @@
 #include <sys/types.h>
 
 #include <cstddef>
+#include <cstdint>
 
 namespace routerdb {
 
@@ -21,7 +22,11 @@ public:
     /// Connects to the service.
     [[nodiscard]] bool connect();
 
-    /// One send; a short one counts as success. The caller holds SIGPIPE back.
+    /// Whether the one who listens may answer this process, where the build profile asks: root, the process's own user,
+    /// or the owner of the main database. errno says EACCES otherwise.
+    bool serves_this_caller() const;
+
+    /// One send; where replies are not checked, a short one counts as success. The caller holds SIGPIPE back.
     [[nodiscard]] bool send(const void *data, std::size_t size);
 
     /// One receive.
@@ -29,7 +34,10 @@ public:
     [[nodiscard]] ssize_t receive(void *data, std::size_t size);
 
 private:
+    bool arm(int option);
+
     int fd_ = -1;
+    std::int64_t begun_ = 0;  // milliseconds of a clock that nobody sets
 };
 
 }  // namespace routerdb

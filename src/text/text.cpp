@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "build_profile.h"
+
 namespace routerdb {
 
 std::string_view field_text(const char *field, std::size_t width) {
@@ -54,18 +56,22 @@ Text &Text::append(unsigned long number) {
 
 Text &Text::append_quoted(std::string_view value, Quotes quotes) {
     append("'");
-    if (quotes == Quotes::doubled) {
-        append_doubled(value);
+    if (quotes == Quotes::doubled || build_profile.doubles_quotes) {
+        append_doubled(value, '\'');
     } else {
         append(value);
     }
     return append("'");
 }
 
-Text &Text::append_doubled(std::string_view value) {
-    while (const void *quote = std::memchr(value.data(), '\'', value.size())) {
-        const std::size_t size = static_cast<std::size_t>(static_cast<const char *>(quote) - value.data()) + 1;
-        append({value.data(), size}).append("'");
+Text &Text::append_table(const char *name) {
+    return build_profile.checks_conditions ? append("\"").append_doubled(name, '"').append("\"") : append(name);
+}
+
+Text &Text::append_doubled(std::string_view value, char quote) {
+    while (const void *found = std::memchr(value.data(), quote, value.size())) {
+        const std::size_t size = static_cast<std::size_t>(static_cast<const char *>(found) - value.data()) + 1;
+        append({value.data(), size}).append({&quote, 1});
         value.remove_prefix(size);
     }
     return append(value);

@@ -25,7 +25,7 @@ std::string_view field_text(const char (&field)[width]) {
 /// terminator stays.
 void copy_cut(std::string_view text, char *field, std::size_t width);
 
-/// What becomes of the single quotes inside a value.
+/// What becomes of the single quotes inside a value, unless the build profile doubles all of them.
 enum class Quotes : std::uint8_t {
     as_given,  // they stay: the caller may have doubled them
     doubled    // SQL reads the value back as it is
@@ -48,6 +48,10 @@ public:
     Text &append_quoted(long number) { return append("'").append(number).append("'"); }
     Text &append_quoted(unsigned long number) { return append("'").append(number).append("'"); }
 
+    /// Appends the name of a table: where the build profile checks what callers hand over, as a name that is nothing
+    /// else.
+    Text &append_table(const char *name);
+
     /// Begins anew in the same room. A text that memory ran out for stays so.
     void clear() {
         length_ = 0;
@@ -68,7 +72,7 @@ protected:
     ~Text();
 
 private:
-    Text &append_doubled(std::string_view value);
+    Text &append_doubled(std::string_view value, char quote);
     bool make_room(std::size_t size);
 
     char *data_;

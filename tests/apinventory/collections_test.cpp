@@ -9,6 +9,7 @@
 #include "core/holdings.h"
 #include "support/database.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -150,7 +151,8 @@ TEST(DeleteApDevUpgradeInfo, reads_a_name_that_fills_its_member) {
 
 TEST(DeleteApDevUpgradeInfo, puts_the_name_into_the_statement_as_given_and_gives_0_when_it_fails) {
     const ApDevUpgradeInfo info = upgrade("it's");
-    EXPECT_EQ(deletions(&info), Lines{"sqlite3_exec delete from DevUpgradeInfo where Dev_SwName='it's';"});
+    EXPECT_EQ(deletions(&info),
+              Lines{"sqlite3_exec delete from DevUpgradeInfo where Dev_SwName='" + support::as_value("it's") + "';"});
 }
 
 TEST(GetApDevUpgradeList, does_nothing) {

@@ -71,8 +71,9 @@ const Filter filters[] = {
      {3, 4}},
     {"TextsAsGiven",
      request_of(3, 0, 0, "x%' or Dev_Sn='5"),
-     "select count(*) from DevInfo where Dev_Ipaddress like '%x%' or Dev_Sn='5%' ;",
-     "select  *  from DevInfo where Dev_Ipaddress like '%x%' or Dev_Sn='5%' order by Dev_IPSUM  limit 0,17 ;",
+     "select count(*) from DevInfo where Dev_Ipaddress like '%" + support::as_value("x%' or Dev_Sn='5") + "%' ;",
+     "select  *  from DevInfo where Dev_Ipaddress like '%" + support::as_value("x%' or Dev_Sn='5") +
+         "%' order by Dev_IPSUM  limit 0,17 ;",
      {}},
     {"Group",
      request_of(0, 2),

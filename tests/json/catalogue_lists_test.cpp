@@ -6,6 +6,7 @@
 #include "json/catalogue.h"
 #include "json/printed.h"
 #include "routerdb.h"
+#include "support/profile.h"
 
 namespace {
 
@@ -146,6 +147,10 @@ TEST(GetAppInfoItemListByClassid, of_a_class_without_applications_is_nothing_but
 TEST(GetAppInfoItemListByClassid, puts_its_argument_into_the_statements_as_given) {
     catalogue::fill();
     const printed::List list = printed::parse(applications_of("3' or Id='2"), "ItemList");
+    if (support::build_profile.doubles_quotes) {
+        EXPECT_EQ(printed::values(list, "id"), std::vector<std::string>());
+        return;
+    }
     EXPECT_EQ(printed::values(list, "id"), (std::vector<std::string>{"1", "2", "4"}));
     EXPECT_EQ(printed::values(list, "class_id"), std::vector<std::string>(3, "3' or Id='2"));
 }

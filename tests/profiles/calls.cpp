@@ -71,7 +71,7 @@ std::string bytes_of(const Record &record) {
 
 /// Odd texts in all members, and an address that other rows may have.
 DevInfo Caller::device() {
-    constexpr char letters[] = "aZ09.:' \xe4\xb8\xad\xd6\xd0";
+    constexpr char letters[] = "aZ09.: \xe4\xb8\xad\xd6\xd0";
     DevInfo device{};
     auto *const bytes = reinterpret_cast<char *>(&device);
     for (std::size_t i = 0; i < sizeof(device); ++i) {

@@ -5,6 +5,7 @@
 #include "rules/golden/samples.h"
 #include "support/database.h"
 #include "support/fake_service.h"
+#include "support/profile.h"
 #include "support/record.h"
 
 namespace {
@@ -68,7 +69,7 @@ TEST_P(AnyAcl, loses_the_rows_of_a_mac_address) {
     std::vector<std::string> expected;
     for (const std::string &mac : {std::string("00:11:22:AA:BB:CC"), std::string(), std::string(), odd}) {
         expected.push_back(golden::execute(static_cast<std::uint32_t>(15 + GetParam()),
-                                           "delete from " + name_ + " where mac='" + mac + "';"));
+                                           "delete from " + name_ + " where mac='" + support::as_value(mac) + "';"));
     }
     std::vector<std::string> requests;
     for (const std::string &request : service.requests()) {

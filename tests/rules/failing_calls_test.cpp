@@ -30,7 +30,7 @@ struct Operation : support::Named {
 
 /// A condition that outgrows the room that a statement has at first.
 const std::string &long_condition() {
-    static const std::string condition(3000, 'c');
+    static const std::string condition = "name='" + std::string(3000, 'c') + "'";
     return condition;
 }
 

@@ -1,8 +1,10 @@
 // The list builders: what they call, wait for, say and leave.
 #include <dlfcn.h>
+#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <set>
 #include <thread>
@@ -10,6 +12,7 @@
 #include "rules/golden/golden.h"
 #include "support/database.h"
 #include "support/exported_names.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/streams.h"
@@ -53,12 +56,22 @@ TEST_P(Builder, a_full_table_fills_the_list) {
     EXPECT_EQ(difference(support::list_of(records(128), 128, GetParam().list_size), build()), "");
 }
 
-TEST_P(Builder, more_rows_than_a_list_holds_are_not_cut) {
+TEST_P(Builder, more_rows_than_a_list_holds_are_cut_where_lists_are_capped) {
+    constexpr int listed = support::build_profile.caps_lists ? 128 : 200;
     insert(200);
     const std::size_t room = 4 + 201 * GetParam().record_size;
-    const std::string untouched(GetParam().record_size, '\x5a');
-    EXPECT_EQ(difference(support::list_of(records(200) + untouched, 200, room), build(GetParam().list_query, room)),
-              "");
+    const std::string untouched(room - 4 - listed * GetParam().record_size, '\x5a');
+    const Recorder recorder;
+    errno = 0;
+    const std::string list = build(GetParam().list_query, room);
+    const int reason = errno;
+    EXPECT_EQ(difference(support::list_of(records(listed) + untouched, listed, room), list), "");
+    if (support::build_profile.caps_lists) {
+        EXPECT_EQ(reason, EOVERFLOW);
+        const Lines log = recorder.calls({"syslog"});
+        ASSERT_EQ(log.size(), 1U);
+        EXPECT_THAT(log[0], testing::EndsWith(" has more rows than a list of 128 takes, the rest is left out\n"));
+    }
 }
 
 TEST_P(Builder, runs_the_query_that_it_is_given) {

@@ -1,8 +1,11 @@
 // What the client operations make of replies, and of none.
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
 #include "rules/golden/golden.h"
 #include "support/fake_service.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/streams.h"
 
@@ -70,11 +73,18 @@ TEST_P(Client, a_stray_byte_behind_a_full_list_goes_nowhere) {
     EXPECT_EQ(difference(list_of(records(128), 128, GetParam().list_size) + "ZZZZZZZZ", buffer), "");
 }
 
-TEST_P(Client, more_records_than_a_list_holds_are_not_cut) {
-    const FakeService service(reply_of(records(200)));
-    const std::size_t room = 4 + 201 * GetParam().record_size;
-    const std::string untouched(GetParam().record_size, '\x5a');
-    EXPECT_EQ(difference(list_of(records(200) + untouched, 200, room), list(room)), "");
+TEST_P(Client, more_records_than_a_list_holds_are_cut_where_lists_are_capped) {
+    constexpr int listed = support::build_profile.caps_lists ? 128 : 129;
+    const FakeService service(reply_of(records(129)));
+    const std::size_t room = 4 + 130 * GetParam().record_size;
+    const std::string untouched(room - 4 - listed * GetParam().record_size, '\x5a');
+    errno = 0;
+    const std::string filled = list(room);
+    const int reason = errno;
+    EXPECT_EQ(difference(list_of(records(listed) + untouched, listed, room), filled), "");
+    if (support::build_profile.caps_lists) {
+        EXPECT_EQ(reason, EOVERFLOW);
+    }
 }
 
 TEST_P(Client, gets_the_first_record_of_the_reply) {
@@ -82,12 +92,19 @@ TEST_P(Client, gets_the_first_record_of_the_reply) {
     EXPECT_EQ(difference(GetParam().record(1), get()), "");
 }
 
-TEST_P(Client, what_a_reply_cut_short_lacks_is_zero) {
+TEST_P(Client, what_a_reply_cut_short_lacks_is_zero_unless_replies_are_checked) {
     const std::string whole = reply_of(records(2));
     const FakeService service(whole.substr(0, whole.size() - GetParam().record_size / 2));
     std::string expected =
         list_of(records(2).substr(0, 2 * GetParam().record_size - GetParam().record_size / 2), 2, GetParam().list_size);
-    EXPECT_EQ(difference(expected, list()), "");
+    if (!support::build_profile.checks_replies) {
+        EXPECT_EQ(difference(expected, list()), "");
+        return;
+    }
+    errno = 0;
+    const auto streams = support::streams_of([&] { EXPECT_EQ(difference(list_of_none(), list()), ""); });
+    EXPECT_EQ(errno, EPROTO);
+    EXPECT_EQ(streams.error, "recv data from sql socket server fail: Protocol error\n");
 }
 
 TEST_P(Client, a_reply_without_its_data_carries_no_records) {

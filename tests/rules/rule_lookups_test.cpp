@@ -139,7 +139,7 @@ TEST(BehaviorBuilder, a_feature_with_an_apostrophe_costs_its_own_name_only) {
         EXPECT_STREQ(list->items[0].behavior_names, "聊天:应用二");
         EXPECT_STREQ(list->items[0].behavior_names_en, "Chat:App 2");
     });
-    EXPECT_EQ(streams.output, "Error: near \"1\": syntax error");
+    EXPECT_EQ(streams.output, support::build_profile.doubles_quotes ? "" : "Error: near \"1\": syntax error");
 }
 
 TEST(IpFilterBuilder, looks_up_the_ip_group_before_the_time_group) {

@@ -4,6 +4,7 @@
 #include "routerdb.h"
 #include "support/fake_service.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/streams.h"
 
@@ -100,11 +101,11 @@ std::vector<Clash> clashes_of_new_bindings() {
         adding("an answer ends with its terminator", {reply_of(std::string("0\0001", 3)), none, reply_of("")}, 0),
         adding("an answer longer than any number", {none, reply_of("1 " + std::string(5000, 'x'))}, 2),
         adding("the reply to the insert does not count", {none, none, one}, 0),
-        adding("a count behind 100,000 blanks", {none, reply_of(blanks(100000) + "1")}, 2),
-        adding("a count behind 100,000 zeros", {none, reply_of(zeros(100000) + "1")}, 2),
+        adding("a count behind 50,000 blanks", {none, reply_of(blanks(50000) + "1")}, 2),
+        adding("a count behind 50,000 zeros", {none, reply_of(zeros(50000) + "1")}, 2),
         adding("a count behind blanks, a sign and zeros",
                {answer(blanks(99) + "-" + zeros(99) + "1"), answer(blanks(99) + "+" + zeros(99) + "1")}, 2),
-        adding("blanks without a count", {reply_of(blanks(100000)), reply_of(blanks(1)), reply_of("")}, 0),
+        adding("blanks without a count", {reply_of(blanks(50000)), reply_of(blanks(1)), reply_of("")}, 0),
         adding("a count that the announced size cuts off",
                {words({0, 0, 30}) + blanks(30) + "1", words({0, 0, 30}) + zeros(30) + "1", reply_of("")}, 0),
         adding("blanks that break off before the count", {words({0, 0, 31}) + blanks(30), none, reply_of("")}, 0),

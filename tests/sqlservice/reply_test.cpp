@@ -2,9 +2,12 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
+#include <cerrno>
+
 #include "sqlservice/exchange.h"
 #include "support/fake_service.h"
 #include "support/named.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/wrapped_calls.h"
@@ -27,6 +30,7 @@ struct Case : support::Named {
     std::string data;
     std::size_t block;  // bytes allocated
     Lines receives;
+    bool refused = false;  // where replies are checked
 };
 
 std::string big_data() {
@@ -45,13 +49,20 @@ std::string ten() {
 std::vector<Case> replies_without_data() {
     return {
         {"without data comes with four bytes", {words({5, 6, 0})}, "5 6 0", "", 4, {"recv 12 0"}},
-        {"with a size below zero comes with four bytes", {words({5, 6, 0xfffffffb})}, "5 6 -5", "", 4, {"recv 12 0"}},
+        {"with a size below zero comes with four bytes",
+         {words({5, 6, 0xfffffffb})},
+         "5 6 -5",
+         "",
+         4,
+         {"recv 12 0"},
+         true},
         {"with the smallest size comes with four bytes",
          {words({5, 6, 0x80000000})},
          "5 6 -2147483648",
          "",
          4,
-         {"recv 12 0"}},
+         {"recv 12 0"},
+         true},
     };
 }
 
@@ -82,13 +93,15 @@ std::vector<Case> replies() {
          "0 0 10",
          std::string("0123\0\0\0\0\0\0", 10),
          10,
-         {"recv 12 0", "recv 10 0", "recv 6 0"}},
+         {"recv 12 0", "recv 10 0", "recv 6 0"},
+         true},
         {"cut off behind its header succeeds with zero bytes",
          {ten()},
          "0 0 10",
          std::string(10, '\0'),
          10,
-         {"recv 12 0", "recv 10 0"}},
+         {"recv 12 0", "recv 10 0"},
+         true},
         {"is read to the announced size only",
          {ten() + "0123456789abc"},
          "0 0 10",
@@ -98,9 +111,26 @@ std::vector<Case> replies() {
     };
 }
 
+/// Expects that a reply is none where replies are checked.
+void expect_refusal(const Case &reply) {
+    const FakeService service(Conversation{reply.pieces});
+    Exchange exchange;
+    const Recorder recorder;
+    const WrappedCalls calls;
+    errno = 0;
+    EXPECT_EQ(exchange.send(), -1);
+    EXPECT_EQ(errno, EPROTO);
+    EXPECT_EQ(exchange.reply.data, nullptr);
+    EXPECT_EQ(calls.blocks(), std::vector<std::size_t>{});
+    EXPECT_EQ(recorder.calls({"recv"}), reply.receives);
+}
+
 class Reply : public testing::TestWithParam<Case> {};
 
 TEST_P(Reply, is_taken_over) {
+    if (GetParam().refused && support::build_profile.checks_replies) {
+        return expect_refusal(GetParam());
+    }
     mallopt(M_PERTURB, 0x5a);  // fresh blocks are not zero
     const FakeService service(Conversation{GetParam().pieces});
     Exchange exchange;
@@ -137,7 +167,7 @@ TEST(SqlclientCmd, reads_the_size_again_after_each_piece) {
     EXPECT_EQ(recorder.calls({"recv"}), (Lines{"recv 12 0", "recv 10 0"}));
 }
 
-TEST(SqlclientCmd, short_sends_are_neither_detected_nor_repeated) {
+TEST(SqlclientCmd, short_sends_are_neither_detected_nor_repeated_unless_replies_are_checked) {
     for (const int n : {1, 2}) {
         const FakeService service(
             Conversation{{support::reply_of("data")}, n == 1 ? Hearing::none : Hearing::header_only});
@@ -145,7 +175,13 @@ TEST(SqlclientCmd, short_sends_are_neither_detected_nor_repeated) {
         Recorder recorder;
         WrappedCalls calls;
         calls.shorten_send(n, 5);
-        EXPECT_EQ(exchange.send(), 0);
+        errno = 0;
+        EXPECT_EQ(exchange.send(), support::build_profile.checks_replies ? -1 : 0);
+        if (support::build_profile.checks_replies) {
+            EXPECT_EQ(errno, EIO);
+            EXPECT_EQ(recorder.calls({"send"}), (n == 1 ? Lines{"send 5 0"} : Lines{"send 12 0", "send 5 0"}));
+            continue;
+        }
         EXPECT_EQ(recorder.calls({"send"}), (n == 1 ? Lines{"send 5 0", "send 37 0"} : Lines{"send 12 0", "send 5 0"}));
     }
 }

@@ -9,6 +9,7 @@
 
 #include "support/database.h"
 #include "support/peer.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/service.h"
 #include "support/system_log.h"
@@ -106,6 +107,10 @@ TEST(SqldLoad, drops_peers_that_dawdle_after_ten_seconds_and_serves_the_others_m
     EXPECT_TRUE(trickling.hung_up());
     EXPECT_LT(not_reading.receive().size(), big_list);
     std::vector<std::string> reasons = log.lines();
+    // The list of the one that does not read is capped in some profiles, which is told as well.
+    reasons.erase(std::remove(reasons.begin(), reasons.end(),
+                              "27 filter_url has more rows than a list of 128 takes, the rest is left out\n"),
+                  reasons.end());
     std::sort(reasons.begin(), reasons.end());
     EXPECT_EQ(reasons, (std::vector<std::string>{"28 reply not delivered: Connection timed out",
                                                  "28 request refused, its header breaks off: Connection timed out",

@@ -5,6 +5,7 @@
 #include "rules/golden/names.h"
 #include "rules/golden/references.h"
 #include "support/database.h"
+#include "support/profile.h"
 
 namespace golden {
 
@@ -64,13 +65,15 @@ Sample sample(const Table &table, const char *name, const Values &values, char f
             put(record, table.places[i], values[i]);
         }
     }
+    Values written = values;
+    std::transform(values.begin(), values.end(), written.begin(), support::as_value);
     const auto asking = [&](const std::vector<std::string> &questions, const std::string &statement) {
         constexpr std::uint32_t scalar = 100;
         std::vector<std::string> requests;
         for (const std::string &question : questions) {
-            requests.push_back(query(scalar, filled(question, table.places, values)));
+            requests.push_back(query(scalar, filled(question, table.places, written)));
         }
-        requests.push_back(execute(table.id, filled(statement, table.places, values)));
+        requests.push_back(execute(table.id, filled(statement, table.places, written)));
         return requests;
     };
     return {name, record.bytes(), asking(table.asked_before_insert, table.insert),
