@@ -14,7 +14,8 @@
 /// 3. Texts. Character arrays hold NUL-terminated UTF-8; a width counts the terminator. A value from the database
 ///    that is longer than its field is cut at the field's width, be it inside a character. A null pointer where SQL
 ///    or a text that goes into it is expected is read as the empty text; every other pointer must be valid.
-/// 4. SQL. Values are put between single quotes as they stand: callers keep apostrophes out of them.
+/// 4. SQL. Values are put between single quotes as they stand: callers keep apostrophes out of them. In the modern
+///    profile each apostrophe is doubled on its way, so that any value stays one; callers double none themselves.
 /// 5. Messages. They go to standard output, standard error or the system log (LOG_ERR), as each function says. None
 ///    of them is meant for the caller's program.
 /// 6. Busy databases. While SQLite answers 5 (busy), 6 (locked) or 10 (I/O error) a call sleeps and tries again,
@@ -31,6 +32,17 @@
 ///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
 /// 10. Missing databases. A function that opens a database, be it only to read, leaves an empty file behind where
 ///     there was none. A script that copies the factory file "if there is none" does so before the first call.
+/// 11. Profiles. The library is built in one of two: `exact`, whose behaviour these comments tell, and `modern`, which
+///     does the same for callers and data that mean well and refuses the rest. What they say of modern holds there
+///     alone.
+/// 12. errno, in modern. A call that failed leaves the reason there, also where its result tells nothing, and one that
+///     did not leaves what was there: set it to 0 before, as for strtol. EINVAL for what is refused, EOVERFLOW and
+///     ENOSPC for what does not fit, EPROTO for a reply that is none, ETIMEDOUT for what took too long, EACCES for a
+///     service or a file that may not be used, ENOMEM, EIO for the rest; ECONNREFUSED, ENOENT and their like as the
+///     system gave them. That nothing is found is no failure.
+/// 13. Texts of callers, in modern. They attach no file with a name, VACUUM INTO included, and do not edit the schema
+///     directly; functions and virtual tables that only a file's own schema calls are not run unless they are harmless.
+///     The library's own readings read tables, not views of the same name.
 #ifndef ROUTERDB_H
 #define ROUTERDB_H
 
@@ -334,6 +346,11 @@ typedef struct SqlReply {
 /// Time-outs are 10 seconds for each send and receive. A signal that is handled meanwhile counts as a failure, with
 /// SA_RESTART too; a text of which only a part could be sent does not. A service that closes early leaves a block of
 /// the announced size whose missing part is zero, and the call succeeds all the same.
+///
+/// In modern the 10 seconds count for the whole exchange, and these are failures: a request that could not be sent
+/// whole (EIO), a service that runs as neither root, nor the caller's user, nor the owner of the main database (EACCES,
+/// before anything is sent), a reply that ends early, announces less than nothing, more than 1 MiB, or more than 64 KiB
+/// for ROUTERDB_TABLE_SCALAR (EPROTO).
 /// @param      request  the request; only read
 /// @param[out] reply    untouched while the request is on its way; cleared before the reply is read
 /// @return 0, and the caller releases reply->data with free; -1 on failure, nothing being allocated
@@ -349,8 +366,9 @@ ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
 ///
 /// A record is one row. Numbers are 32 bits wide in host byte order, and every byte that carries nothing is zero. A
 /// list is a count and that many records, as many as the query has rows or the reply has records. Its buffer has room
-/// for ROUTERDB_LIST_CAPACITY of them, and lists are not cut: one row more is written past the buffer, and crashes
-/// the caller or worse. Whoever adds rows keeps the table within that size; no function refuses one. Members marked
+/// for ROUTERDB_LIST_CAPACITY of them, and in exact lists are not cut: one row more is written past the buffer, and
+/// crashes the caller or worse. Whoever adds rows keeps the table within that size; no function refuses one. In modern
+/// the list ends with its room: errno is EOVERFLOW then, and the system log names the table. Members marked
 /// "derived" are filled by the list builders and never written to a table. What a record says beyond its times and
 /// groups is carried and not acted on.
 /// @{
@@ -807,8 +825,12 @@ ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char 
 ///
 /// Each sends one statement to the SQL service with sqlclient_cmd(), or several where it asks for a clash first. The
 /// messages of sqlclient_cmd() are the only report: when the service cannot be reached a list comes back empty, a
-/// record cleared, and a change has no effect. Members beyond the table's own columns are not read. Conditions are
-/// SQL, such as generate_db_params() makes. Thread-safe.
+/// record cleared, and a change has no effect; in modern errno tells that from an empty table. Members beyond the
+/// table's own columns are not read. Thread-safe.
+///
+/// Conditions are SQL, such as generate_db_params() makes. In modern they compare columns with texts between quotes or
+/// with integers, also in "in" lists, joined by "or" and "and", with parentheses. Anything else, "1" included, is not
+/// sent: errno is EINVAL, and the system log names the table.
 /// @{
 
 /// Lists all static DHCP bindings in order of their ids.
@@ -1339,7 +1361,8 @@ ROUTERDB_API int DB_getinfo(DevInfo *out, unsigned long sn, int convert);
 /// @return 1 when there is one at least, else 0
 /// @note Errors: those of GET_DB_SQL_INT(), then "cannot open %s, ErrorCode: %d!\n" on standard error and "cannot
 ///       prepare sql cmdline, Error: %s\n" in the system log. It takes the lock file while it counts. Without memory
-///       the list ends early; more rows than ROUTERDB_DEVICE_LIST_CAPACITY are not read.
+///       the list ends early; more rows than ROUTERDB_DEVICE_LIST_CAPACITY are not read, which in modern errno
+///       (EOVERFLOW) and the system log tell.
 ROUTERDB_API int GetApDevList(ApDevList *list, int convert);
 
 /// Releases the records of a list and sets their pointers to null; the count stays.
@@ -1444,7 +1467,7 @@ ROUTERDB_API void GetDevSNByIp(const char *ip, unsigned long *sn);
 ROUTERDB_API void SetDevUpgradeStatus(const char *mac, const char *status);
 
 /// Counts the rows of a table of the main database.
-/// @param table  its name
+/// @param table  its name, put into the statement as given; in modern nothing but the name of a table is counted
 /// @return the number of rows; 0 when they cannot be read
 ROUTERDB_API int GetTableCount(const char *table);
 
@@ -1638,25 +1661,25 @@ ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
 ROUTERDB_API int GetAppClassItemList(void);
 
 /// Prints one application class. The count is that of all classes.
-/// @param id  its number, put into the statement as given
+/// @param id  its number, a value as item 4 above says
 /// @return no meaning
 /// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppClassItem(const char *id);
 
 /// Prints one application.
-/// @param id  its number, put into the statement as given
+/// @param id  its number, a value as item 4 above says
 /// @return no meaning
 /// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppInfoItem(const char *id);
 
 /// Prints the applications of a class.
-/// @param classId  number of the class, put into the statement and into each element as given
+/// @param classId  number of the class, a value as item 4 above says; it also goes into each element
 /// @return no meaning
 /// @note Errors and descriptors as GetAppClassItemList().
 ROUTERDB_API int GetAppInfoItemListByClassid(const char *classId);
 
 /// Reads the feature texts of a class from the main database, under the lock file if there is one. Prints no object.
-/// @param[out] list     cleared, then filled with all rows
+/// @param[out] list     cleared, then filled with all rows; in modern with 128 at most, as lists of rules are
 /// @param      classId  number of the class
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "Error: %s" on standard output. Random first delay.
