@@ -22,6 +22,7 @@ add_library(
     src/apinventory/record_layout.cpp
     src/apinventory/registration.cpp
     src/apinventory/station_list.cpp
+    src/apinventory/station_program.cpp
     src/apinventory/status.cpp
     src/apinventory/totals.cpp
     src/apinventory/update.cpp
@@ -55,6 +56,7 @@ add_library(
     src/dhcp/host_name.cpp
     src/dhcp/lease_file.cpp
     src/dhcp/lease_list.cpp
+    src/json/escape.cpp
     src/json/json_list.cpp
     src/rules/behavior_names.cpp
     src/rules/client_ops.cpp

@@ -3,13 +3,20 @@
 #include <cstdio>
 #include <cstring>
 
+#include "build_profile.h"
+#include "json/escape.h"
+
 namespace routerdb::json {
 
 namespace {
 
-/// The one way of a text into JSON. It goes as it is stored: nothing is escaped.
+/// The one way of a text into JSON. In the exact profile it goes as it is stored: nothing is escaped.
 void append_value(Text &element, std::string_view value) {
-    element.append(value);
+    if (build_profile.escapes_json) {
+        append_escaped(element, value);
+    } else {
+        element.append(value);
+    }
 }
 
 }  // namespace

@@ -59,7 +59,8 @@ public:
     constexpr const Key *begin() const { return begin_; }
     constexpr const Key *end() const { return end_; }
 
-    /// Bytes of a text that holds any element of these keys, what is given for it being numbers at most.
+    /// Bytes of a text that holds any element of these keys, what is given for it being numbers at most and no value
+    /// longer for being escaped. Others move the text to the heap.
     constexpr std::size_t room() const {
         constexpr std::size_t longest_number = 20;
         std::size_t room = 64;  // for what stands around the members

@@ -187,15 +187,21 @@ TEST(CatalogueValues, are_cut_behind_199_bytes) {
     }
 }
 
-TEST(CatalogueValues, are_printed_unescaped) {
+TEST(CatalogueValues, are_escaped_as_the_profile_says) {
     catalogue::execute("insert into App_Info values(1,3,'a\"b','back\\slash','tab\tline\nend','');");
-    printed::expect_unfinished(
-        application("1"),
-        "{\"ItemList\":{\"data\":["
-        "{\"classname\":\"3\",\"appname\":\"a\"b\",\"appname_en\":\"back\\slash\",\"features\":\"tab\tline\nend\","
-        "\"mark\":\"\"},"
-        "{\"classname\":\"\",\"appname\":\"\",\"appname_en\":\"\",\"features\":\"\",\"mark\":\"\" "
-        "}],\"count\":\"1\"}}");
+    const std::string end =
+        R"("mark":""},{"classname":"","appname":"","appname_en":"","features":"","mark":"" }],"count":"1"}})";
+    if (support::build_profile.escapes_json) {
+        printed::expect_complete(application("1"),
+                                 R"({"ItemList":{"data":[{"classname":"3","appname":"a\"b","appname_en":"back\\slash",)"
+                                 R"("features":"tab\tline\nend",)" +
+                                     end);
+    } else {
+        printed::expect_unfinished(application("1"),
+                                   R"({"ItemList":{"data":[{"classname":"3","appname":"a"b","appname_en":"back\slash",)"
+                                   "\"features\":\"tab\tline\nend\"," +
+                                       end);
+    }
 }
 
 }  // namespace

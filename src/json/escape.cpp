@@ -1,0 +1,93 @@
+#include "json/escape.h"
+
+#include <cstddef>
+#include <cstring>
+
+namespace routerdb::json {
+
+namespace {
+
+constexpr char replacement[] = "\xef\xbf\xbd";  // U+FFFD
+
+unsigned byte_at(std::string_view text, std::size_t place) {
+    return place < text.size() ? static_cast<unsigned char>(text[place]) : 0U;
+}
+
+/// Whether a byte is an ASCII character that stands for itself.
+bool is_plain(unsigned byte) {
+    return byte >= ' ' && byte < 0x80 && byte != '"' && byte != '\\';
+}
+
+/// How many plain characters a text begins with.
+std::size_t plain_run(std::string_view text) {
+    std::size_t size = 0;
+    while (is_plain(byte_at(text, size))) {
+        ++size;
+    }
+    return size;
+}
+
+/// The bytes of a character that begins with `lead`; 0 where none does.
+std::size_t character_size(unsigned lead) {
+    if (lead < 0xc2 || lead > 0xf4) {  // 0xc0 and 0xc1 would begin what is ASCII
+        return 0;
+    }
+    return lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : 4;
+}
+
+/// How many bytes of the character that a text begins with, which is not ASCII, are there.
+/// @param size  that it should have
+std::size_t bytes_there(std::string_view text, std::size_t size) {
+    const unsigned lead = byte_at(text, 0);
+    // The second byte tells what a shorter form would do for, surrogates, and what lies behind the last character.
+    unsigned lowest = lead == 0xe0 ? 0xa0 : lead == 0xf0 ? 0x90 : 0x80;
+    unsigned highest = lead == 0xed ? 0x9f : lead == 0xf4 ? 0x8f : 0xbf;
+    std::size_t there = 1;
+    while (there < size && byte_at(text, there) >= lowest && byte_at(text, there) <= highest) {
+        ++there;
+        lowest = 0x80;
+        highest = 0xbf;
+    }
+    return there;
+}
+
+void append_escape(Text &text, char character) {
+    constexpr char named[] = {'"', '\\', '\b', '\f', '\n', '\r', '\t'};
+    constexpr char names[] = {'"', '\\', 'b', 'f', 'n', 'r', 't'};
+    constexpr char digits[] = "0123456789abcdef";
+    if (const void *const found = std::memchr(named, character, sizeof(named))) {
+        const char escape[] = {'\\', names[static_cast<const char *>(found) - named]};
+        text.append(std::string_view(escape, sizeof(escape)));
+    } else {
+        const char escape[] = {'\\', 'u', '0', '0', digits[character >> 4], digits[character & 15]};
+        text.append(std::string_view(escape, sizeof(escape)));
+    }
+}
+
+/// Appends what a text begins with, which is not plain.
+/// @return how many bytes it has
+std::size_t append_first(Text &text, std::string_view value) {
+    if (byte_at(value, 0) < 0x80) {
+        append_escape(text, value[0]);
+        return 1;
+    }
+    const std::size_t size = character_size(byte_at(value, 0));
+    const std::size_t there = bytes_there(value, size);
+    text.append(there == size ? std::string_view(value.data(), size) : std::string_view(replacement));
+    return there;
+}
+
+}  // namespace
+
+void append_escaped(Text &text, std::string_view value) {
+    while (!value.empty()) {
+        const std::size_t plain = plain_run(value);
+        text.append({value.data(), plain});
+        value.remove_prefix(plain);
+        if (!value.empty()) {
+            value.remove_prefix(append_first(text, value));
+        }
+    }
+}
+
+}  // namespace routerdb::json
