@@ -8,13 +8,15 @@ namespace routerdb {
 /// The number on the first line of a file; -1 if it cannot be opened.
 int read_pid(const char *path);
 
-/// Opens a file and leaves it open.
+/// Opens a file and leaves it open, in the profile that does not close its own.
 void hold_open(const char *path);
 
 /// Owns the stream of a lease file.
 class LeaseFile {
 public:
-    /// Signals the server, gives it a millisecond, and opens the file. A failure goes to standard error.
+    /// Signals the server, gives it a millisecond, and opens the file. Where the build profile checks the pid file,
+    /// only a server is signalled whose file nobody but root, or the caller for a process of his own, can have written.
+    /// A failure goes to standard error.
     LeaseFile(const char *path, const char *pid_file);
     LeaseFile(const LeaseFile &) = delete;
     LeaseFile &operator=(const LeaseFile &) = delete;

@@ -1,5 +1,6 @@
 // The DHCP server writes its leases when it is asked to, and is read afterwards.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -10,11 +11,13 @@
 #include "support/gate.h"
 #include "support/named.h"
 #include "support/process.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
 namespace {
 
+using support::build_profile;
 using support::Recorder;
 using Lines = std::vector<std::string>;
 
@@ -109,6 +112,50 @@ TEST_P(ServerSignal, to_a_process_that_has_ended_changes_nothing) {
     const auto said = support::streams_of([] { EXPECT_EQ(GetParam().read(), "phone"); });
     EXPECT_EQ(recorder.calls(), (Lines{"kill " + id + " 10", "usleep 1000"}));
     EXPECT_EQ(said.output + said.error, "");
+}
+
+/// What is sent for the pid file as it is now.
+Lines signals_sent(const Reader &reader) {
+    support::write_file(reader.file, reader.content);
+    Recorder recorder;
+    EXPECT_EQ(reader.read(), "phone");
+    return recorder.calls({"kill"});
+}
+
+TEST_P(ServerSignal, is_sent_by_a_file_that_others_may_write_in_one_profile_only) {
+    support::Process server([] { return pause() == 0; });  // which the signal ends
+    const Lines signal{"kill " + std::to_string(server.id()) + " 10"};
+    support::write_file(leases::pid_file, std::to_string(server.id()) + "\n");
+    for (const mode_t mode : {0666U, 0664U, 0646U, 0620U, 0602U}) {
+        ASSERT_EQ(chmod(leases::pid_file, mode), 0);
+        EXPECT_EQ(signals_sent(GetParam()), build_profile.checks_pid_file ? Lines{} : signal) << mode;
+    }
+    for (const mode_t mode : {0644U, 0600U, 0444U, 0755U}) {
+        ASSERT_EQ(chmod(leases::pid_file, mode), 0);
+        EXPECT_EQ(signals_sent(GetParam()), signal) << mode;
+    }
+    server.wait();
+}
+
+TEST_P(ServerSignal, is_not_waited_for_behind_a_pipe) {
+    if (build_profile.checks_pid_file) {  // the other one waits for a writer
+        ASSERT_EQ(mkfifo(leases::pid_file, 0600), 0);
+        EXPECT_EQ(signals_sent(GetParam()), Lines{});
+    }
+}
+
+TEST_P(ServerSignal, leaves_no_descriptor_of_a_pid_file_open) {
+    support::write_file(GetParam().file, GetParam().content);
+    for (const char *content : {"0\n", ""}) {
+        support::write_file(leases::pid_file, content);
+        for (const mode_t mode : {0644U, 0666U}) {
+            ASSERT_EQ(chmod(leases::pid_file, mode), 0);
+            const int descriptors = support::open_descriptors();
+            EXPECT_EQ(GetParam().read(), "phone");
+            const bool leaves_stream = GetParam().name != "List" && !build_profile.closes_its_own;
+            EXPECT_EQ(support::open_descriptors(), descriptors + (leaves_stream ? 1 : 0));
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
