@@ -2,10 +2,12 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
+#include "apinventory/station_program.h"
 #include "core/paths.h"
 #include "core/random.h"
 #include "core/shell.h"
@@ -17,7 +19,6 @@ namespace routerdb {
 namespace {
 
 constexpr std::size_t trace_command_size = 128;
-constexpr std::size_t tool_command_size = 255;
 
 // Marks in the trace, by which its readers tell the two steps.
 constexpr int started = 9643;
@@ -31,20 +32,6 @@ struct Station {
     char time[field_size];
     char signal[field_size];
 };
-
-/// Lets the access point's answer be written to a file of one of ten names.
-void ask(const char *device_address, char (&path)[32]) {
-    run_in_shell(trace_command_size, "echo line=%d---- >%s", started, paths::station_trace);
-    const unsigned number = 1 + random_below(10);
-    run_in_shell(trace_command_size, "echo line=%d--n=%u--devip=%s-- >%s", asking, number, device_address,
-                 paths::station_trace);
-    std::snprintf(path, sizeof(path), "%s%u", paths::station_list_start, number);
-    run_in_shell(tool_command_size, "capwapmanage -c -a%s >%s", device_address, path);
-    sync();
-    constexpr useconds_t until_written = 100'000;
-    usleep(until_written);
-    run_in_shell(trace_command_size, "cat %s >%s", path, paths::station_trace);
-}
 
 /// Splits a line such as "00:11:22:33:44:55+120+-67+more".
 /// @return whether it has three fields
@@ -89,16 +76,30 @@ void print_lines(FILE *file) {
 }  // namespace
 
 void print_stations(const char *device_address) {
-    char path[32];
-    ask(device_address, path);
-    json::print("{\"DevStalist\":\n");
-    FILE *file = std::fopen(path, "r");
-    if (file == nullptr) {
+    constexpr char opening[] = "{\"DevStalist\":\n";
+    if (!takes_address(device_address)) {
+        json::print(opening);
         json::print(json::no_list);
+        errno = EINVAL;
         return;
     }
-    print_lines(file);
-    std::fclose(file);
+    run_in_shell(trace_command_size, "echo line=%d---- >%s", started, paths::station_trace);
+    const unsigned number = 1 + random_below(10);
+    run_in_shell(trace_command_size, "echo line=%d--n=%u--devip=%s-- >%s", asking, number, device_address,
+                 paths::station_trace);
+    StackText<32> path;
+    path.append(paths::station_list_start).append(static_cast<unsigned long>(number));
+    StationAnswer answer(device_address, path.c_str());
+    sync();
+    constexpr useconds_t until_written = 100'000;
+    usleep(until_written);
+    run_in_shell(trace_command_size, "cat %s >%s", path.c_str(), paths::station_trace);
+    json::print(opening);
+    if (FILE *const lines = answer.open()) {
+        print_lines(lines);
+    } else {
+        json::print(json::no_list);
+    }
 }
 
 }  // namespace routerdb
