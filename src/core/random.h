@@ -3,8 +3,8 @@
 
 namespace routerdb {
 
-/// Reseeds rand() with the microseconds of the time of day and draws once. Two calls in the same microsecond draw
-/// the same number.
+/// Reseeds rand() with the microseconds of the time of day and draws once: two calls in the same microsecond draw the
+/// same number. Where the build profile leaves the program's state alone, draws from the kernel instead.
 /// @return 0 to limit - 1
 unsigned random_below(unsigned limit);
 

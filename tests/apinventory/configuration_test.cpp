@@ -80,8 +80,7 @@ TEST(DbUpdateInfo, executes_under_the_lock_and_tells_nobody) {
     insert_device();
     const Recorder recorder;
     EXPECT_EQ(DB_UpdateInfo(sample_device()), 0);
-    Lines expected{"open lock file", "gettimeofday", "srand",
-                   "rand",           "lock",         "sqlite3_open /etc/config/systemconf/database/myrouter.db"};
+    Lines expected{"open lock file", "draw", "lock", "sqlite3_open /etc/config/systemconf/database/myrouter.db"};
     const Lines write = statements::write_of(statements::configuration());
     expected.insert(expected.end(), write.begin(), write.end());
     expected.insert(expected.end(), {"sqlite3_free", "sqlite3_close", "unlock", "close lock file"});

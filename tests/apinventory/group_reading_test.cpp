@@ -133,7 +133,7 @@ TEST(DefaultGroup, is_converted_where_the_same_group_by_number_is_not) {
 TEST(ZeroConfigGroup, has_a_first_sleep_of_56_to_155_microseconds) {
     for (const auto &[drawn, sleep] : {std::pair(0, 56U), {1073741824, 106U}, {2147483647, 155U}}) {
         Recorder recorder;
-        recorder.answer("rand", {drawn});
+        recorder.answer("draw", {drawn});
         recorder.answer("sqlite3_open", {SQLITE_BUSY});
         DevInfo group;
         DB_getwlanzerocfggroupinfoByindex(&group, 1);

@@ -166,7 +166,7 @@ TEST(GroupSaving, goes_by_numbers_where_the_helper_that_it_shares_a_statement_wi
 TEST(GroupSaving, waits_for_the_numbers_like_that_helper) {
     insert_groups({"1"});
     Recorder recorder;
-    recorder.answer("rand", {0});
+    recorder.answer("draw", {0});
     recorder.answer("sqlite3_open", {SQLITE_BUSY});
     recorder.answer("sqlite3_prepare_v2", {SQLITE_LOCKED});
     recorder.answer("sqlite3_step", {SQLITE_IOERR});

@@ -75,7 +75,7 @@ Reader list_reader(int convert) {
     reader.name = convert == 1 ? "GetApDevList_in_GB2312" : "GetApDevList";
     reader.other_key = "";
     reader.read = [convert] { return read_first_of_list(convert); };
-    reader.calls_before = {"open lock file", "gettimeofday", "srand", "rand", "lock", open_main_database};
+    reader.calls_before = {"open lock file", "draw", "lock", open_main_database};
     append(reader.calls_before, build_profile.skips_unseen_rows
                                     ? Lines{"sqlite3_prepare_v2 select 1 from DevInfo;", "sqlite3_finalize"}
                                     : Lines{"sqlite3_prepare_v2 select  * from DevInfo;", "sqlite3_step",
@@ -129,7 +129,7 @@ Reader zero_config_group_reader() {
     reader.table = tables::zero_config_groups;
     reader.converts = false;
     reader.read = read_zero_config_group;
-    reader.calls_before = {"gettimeofday", "srand", "rand"};
+    reader.calls_before = {"draw"};
     reader.query = "select * from WlanZeroCfgGroupInfo where WlanGroup_Id='7';";
     reader.first_sleep = 56;
     reader.error_without_table = "no such table: WlanZeroCfgGroupInfo";

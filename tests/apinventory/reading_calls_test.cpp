@@ -101,7 +101,7 @@ TEST_P(ReadingCalls, reads_past_a_mutex_that_is_taken) {
 TEST_P(ReadingCalls, sleeps_grow_by_five_through_open_prepare_and_first_step) {
     insert_row();
     Recorder recorder;
-    recorder.answer("rand", {0});
+    recorder.answer("draw", {0});
     if (GetParam().opens) {
         answer(recorder, "sqlite3_open", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     }

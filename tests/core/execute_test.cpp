@@ -41,9 +41,7 @@ TEST(DbSqlExec, executes_under_the_lock_and_copies_the_file_after_releasing_it) 
     ASSERT_EQ(execute("insert into user_urlinfo(name) values('a');"), 0);
     EXPECT_EQ(recorder.calls(), (Lines{
                                     "open lock file",
-                                    "gettimeofday",
-                                    "srand",
-                                    "rand",
+                                    "draw",
                                     "lock",
                                     "sqlite3_open /etc/config/systemconf/database/myrouter.db",
                                     "sqlite3_exec insert into user_urlinfo(name) values('a');",
@@ -76,7 +74,7 @@ TEST(DbSqlExec, keeps_what_stands_before_a_failing_statement) {
 
 TEST(DbSqlExec, repeats_the_whole_text_while_the_database_is_busy) {
     Recorder recorder;
-    recorder.answer("rand", {0});
+    recorder.answer("draw", {0});
     recorder.answer("sqlite3_exec", {SQLITE_BUSY, SQLITE_LOCKED});
     constexpr char sql[] = "delete from user_urlinfo; delete from user_ipgroup;";
     EXPECT_EQ(execute(sql), 0);

@@ -27,7 +27,7 @@ protected:
 };
 
 TEST_P(Busy, sleeps_grow_through_one_series) {
-    recorder_.answer("rand", {0});
+    recorder_.answer("draw", {0});
     if (GetParam().opens) {
         recorder_.answer("sqlite3_open", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
         answer_statement({SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
@@ -39,7 +39,7 @@ TEST_P(Busy, sleeps_grow_through_one_series) {
 }
 
 TEST_P(Busy, the_first_sleep_has_an_upper_bound) {
-    recorder_.answer("rand", {RAND_MAX});
+    recorder_.answer("draw", {RAND_MAX});
     answer_statement({SQLITE_BUSY});
     EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
     EXPECT_EQ(recorder_.sleeps(), Sleeps{GetParam().longest_first});
@@ -56,7 +56,7 @@ TEST_P(Busy, retries_have_no_limit) {
     for (unsigned i = 0; i < many; ++i) {
         recorder_.answer("usleep", {0});
     }
-    recorder_.answer("rand", {0});
+    recorder_.answer("draw", {0});
     answer_statement({});
     for (unsigned i = 0; i < many; ++i) {
         recorder_.answer("sqlite3_exec", {SQLITE_BUSY});
@@ -85,7 +85,7 @@ INSTANTIATE_TEST_SUITE_P(, Busy, ::testing::ValuesIn(helpers()), helper_name);
 using BusyReader = Busy;
 
 TEST_P(BusyReader, the_first_step_belongs_to_the_series) {
-    recorder_.answer("rand", {0});
+    recorder_.answer("draw", {0});
     recorder_.answer("sqlite3_prepare_v2", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     recorder_.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
@@ -108,7 +108,7 @@ TEST(StatementHelpers, a_random_first_delay_is_whole_microseconds) {
     } draws[] = {{0, 56}, {21474836, 56}, {21474837, 57}, {1073741824, 106}, {2126008811, 154}, {2126008812, 155}};
     for (const auto &draw : draws) {
         Recorder recorder;
-        recorder.answer("rand", {draw.drawn});
+        recorder.answer("draw", {draw.drawn});
         recorder.answer("sqlite3_open", {SQLITE_BUSY});
         helper("GET_DB_SQL_INT_COUNT_ROUTE").call(nullptr, "select 5;");
         EXPECT_EQ(recorder.sleeps(), Sleeps{draw.sleep}) << draw.drawn;

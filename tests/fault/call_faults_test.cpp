@@ -30,7 +30,7 @@ protected:
             recorder.answer(function, {Recorder::really});
         }
         recorder.answer(function, {code});
-        recorder.answer("rand", {0});
+        recorder.answer("draw", {0});
         const Outcome outcome = make_call([] {});
         const std::string line = std::string(function) == "open" ? "open lock file" : function;
         std::size_t calls = 0;

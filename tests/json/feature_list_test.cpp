@@ -98,7 +98,7 @@ TEST_F(FeatureList, is_read_under_the_lock_file) {
     Holdings holdings(recorder);
     read(3);
     EXPECT_EQ(recorder.calls(),
-              (Lines{"open lock file", "gettimeofday", "srand", "rand", "lock", open_call,
+              (Lines{"open lock file", "draw", "lock", open_call,
                      "sqlite3_prepare_v2 select Features from App_Info where Class_Id='3' ;", "sqlite3_step",
                      "sqlite3_step", "sqlite3_finalize", "sqlite3_close", "unlock", "close lock file"}));
     EXPECT_EQ(holdings.changes(), (Lines{std::string(open_call) + ": lock", "close lock file: nothing"}));
@@ -140,7 +140,7 @@ TEST_F(FeatureList, is_all_zero_after_a_message_when_the_database_cannot_be_open
 TEST_F(FeatureList, sleeps_grow_by_five_through_open_prepare_and_first_step) {
     add(3, "'fa'");
     Recorder recorder;
-    recorder.answer("rand", {0});
+    recorder.answer("draw", {0});
     for (const char *function : {"sqlite3_open", "sqlite3_prepare_v2", "sqlite3_step"}) {
         recorder.answer(function, {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     }

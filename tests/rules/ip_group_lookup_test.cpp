@@ -50,9 +50,9 @@ TEST_F(IpGroupLookup, fills_name_and_range_and_leaves_id_and_mark_zero) {
 TEST_F(IpGroupLookup, is_one_statement_on_the_callers_connection) {
     const Recorder recorder;
     found(3, database_);
-    EXPECT_EQ(recorder.calls(), (Lines{"gettimeofday", "srand", "rand",
-                                       "sqlite3_prepare_v2 select name,startip,endip from user_ipgroup where Id='3' ;",
-                                       "sqlite3_step", "sqlite3_finalize"}));
+    EXPECT_EQ(recorder.calls(),
+              (Lines{"draw", "sqlite3_prepare_v2 select name,startip,endip from user_ipgroup where Id='3' ;",
+                     "sqlite3_step", "sqlite3_finalize"}));
 }
 
 TEST_F(IpGroupLookup, of_an_unknown_id_leaves_the_record_zero) {
@@ -95,7 +95,7 @@ TEST_F(IpGroupLookup, without_the_table_says_so_and_leaves_the_record_zero) {
 
 TEST_F(IpGroupLookup, sleeps_grow_by_five_through_prepare_and_first_step) {
     Recorder recorder;
-    recorder.answer("rand", {2147483647});
+    recorder.answer("draw", {2147483647});
     recorder.answer("sqlite3_prepare_v2", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     recorder.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     EXPECT_EQ(difference(record_of("kitchen", "10.0.0.1", "10.0.0.9"), found(2, database_)), "");

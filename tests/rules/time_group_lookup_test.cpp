@@ -47,9 +47,8 @@ TEST(GetTimeControlById, reads_one_group_on_the_callers_connection) {
     database.execute(three_groups);
     const Recorder recorder;
     EXPECT_EQ(difference(evenings(), found(3, database)), "");
-    EXPECT_EQ(recorder.calls(),
-              (Lines{"gettimeofday", "srand", "rand", "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
-                     "sqlite3_step", "sqlite3_finalize"}));
+    EXPECT_EQ(recorder.calls(), (Lines{"draw", "sqlite3_prepare_v2 select * from user_timegroup where id='3';",
+                                       "sqlite3_step", "sqlite3_finalize"}));
 }
 
 TEST(GetTimeControlById, an_unknown_id_leaves_the_record_zero) {
@@ -79,7 +78,7 @@ TEST(GetTimeControlById, sleeps_grow_by_five_through_prepare_and_first_step) {
     const support::Database database;
     database.execute(three_groups);
     Recorder recorder;
-    recorder.answer("rand", {2147483647});
+    recorder.answer("draw", {2147483647});
     recorder.answer("sqlite3_prepare_v2", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     recorder.answer("sqlite3_step", {SQLITE_BUSY, SQLITE_LOCKED, SQLITE_IOERR});
     EXPECT_EQ(difference(evenings(), found(3, database)), "");
@@ -101,13 +100,13 @@ int build_rules() {
 Lines calls_of_building() {
     const Recorder recorder;
     EXPECT_EQ(build_rules(), 3);
-    return recorder.calls({"gettimeofday", "srand", "rand", "open lock", "lock", "unlock", "close lock", "sqlite3_open",
-                           "sqlite3_prepare", "sqlite3_step", "sqlite3_finalize", "sqlite3_close"});
+    return recorder.calls({"draw", "open lock", "lock", "unlock", "close lock", "sqlite3_open", "sqlite3_prepare",
+                           "sqlite3_step", "sqlite3_finalize", "sqlite3_close"});
 }
 
 TEST(UrlFilterBuilder, looks_groups_up_on_its_own_connection_one_by_one_or_each_once) {
     support::execute(std::string(three_groups) + rules);
-    const Lines drawing{"gettimeofday", "srand", "rand"};
+    const Lines drawing{"draw"};
     const Lines list{"open lock file", "lock", "sqlite3_open /etc/config/systemconf/database/myrouter.db",
                      "sqlite3_prepare_v2 select * from filter_url order by Id;", "sqlite3_step"};
     const Lines lookup{"sqlite3_prepare_v2 select * from user_timegroup where id='3';", "sqlite3_step",

@@ -4,9 +4,10 @@
 #include <fcntl.h>
 #include <iconv.h>
 #include <signal.h>
+#include <spawn.h>
 #include <sqlite3.h>
+#include <sys/random.h>
 #include <sys/socket.h>
-#include <sys/time.h>
 #include <syslog.h>
 #include <unistd.h>
 
@@ -169,6 +170,20 @@ int system(const char *command) {
     return REAL(system)(command);
 }
 
+int posix_spawnp(pid_t *process, const char *program, const posix_spawn_file_actions_t *actions,
+                 const posix_spawnattr_t *attributes, char *const arguments[], char *const environment[]) {
+    const Call call;
+    std::string line = "spawn";
+    for (char *const *argument = arguments; *argument != nullptr; ++argument) {
+        line += std::string(" ") + *argument;
+    }
+    call.note(line);
+    if (call && !recording->run_commands) {
+        return ENOENT;
+    }
+    return REAL(posix_spawnp)(process, program, actions, attributes, arguments, environment);
+}
+
 void vsyslog(int priority, const char *format, va_list arguments) {
     char text[8192];
     vsnprintf(text, sizeof(text), format, arguments);
@@ -199,23 +214,23 @@ void perror(const char *text) {
     REAL(perror)(text);
 }
 
-void srand(unsigned seed) noexcept {
-    const Call call;
-    call.note("srand");
-    REAL(srand)(seed);
-}
-
 int rand() noexcept {
     const Call call;
-    call.note("rand");
+    call.note("draw");
     int result = 0;
-    return call.answered("rand", result) ? result : REAL(rand)();
+    return call.answered("draw", result) ? result : REAL(rand)();
 }
 
-int gettimeofday(struct timeval *__restrict now, void *__restrict zone) noexcept {
+ssize_t getrandom(void *drawn, size_t size, unsigned flags) {
     const Call call;
-    call.note("gettimeofday");
-    return REAL(gettimeofday)(now, zone);
+    call.note("draw");
+    int result = 0;
+    if (!call.answered("draw", result)) {
+        return REAL(getrandom)(drawn, size, flags);
+    }
+    const unsigned bits = 2 * static_cast<unsigned>(result);  // rand() draws one bit less
+    std::memcpy(drawn, &bits, sizeof(bits));
+    return sizeof(bits);
 }
 
 int open(const char *path, int flags, ...) {

@@ -32,12 +32,14 @@ public:
     /// Shows `watcher` each line as it is noted, before the call is made. Nothing that the watcher calls is noted.
     void watch(std::function<void(const std::string &line)> watcher);
 
-    /// Commands for the shell are noted and not run.
+    /// Commands for the shell, and programs started without one, are noted and not run.
     void keep_commands_from_running();
 
-    /// All calls, as "usleep 155", "sqlite3_open /etc/...", "system cp -f ...", "syslog 3 cannot open ...".
-    /// Of open, fcntl and close only those on the database lock file are noted, as "open lock file", "lock",
-    /// "unlock", "close lock file", and close(0) as "close 0"; of unlink those on a journal of the main database.
+    /// All calls, as "usleep 155", "sqlite3_open /etc/...", "system cp -f ...", "spawn capwapmanage ...", "syslog 3
+    /// cannot open ...". A random number is a "draw", however it is drawn; its planned answer is what rand() draws, 0
+    /// to RAND_MAX. Of open, fcntl and close only those on the database lock file are noted, as "open lock file",
+    /// "lock", "unlock", "close lock file", and close(0) as "close 0"; of unlink those on a journal of the main
+    /// database.
     const std::vector<std::string> &calls() const;
 
     /// The calls that start with one of the words, such as {"usleep", "system"}.

@@ -3,6 +3,7 @@
 
 #include <syslog.h>
 
+#include "build_profile.h"
 #include "dhcp/host_name.h"
 #include "rules/behavior_names.h"
 #include "rules/client_ops.h"
@@ -29,6 +30,17 @@ void derive(References &references, void *record) {
                           {rule.behavior_names_en, sizeof(rule.behavior_names_en)});
 }
 
+/// Where the build profile leaves the program's state alone, under the program's own identity.
+void log_addition(std::string_view info) {
+    if (!build_profile.leaves_program_state) {
+        openlog("AddBehaviortem", 0, 0);
+    }
+    syslog(LOG_INFO, "pinfo->behavior_info:%.*s", static_cast<int>(info.size()), info.data());
+    if (!build_profile.leaves_program_state) {
+        closelog();
+    }
+}
+
 }  // namespace
 
 int GetBehaviorItemListInServer(BehaviorItemList *list, const char *sql) {
@@ -45,10 +57,7 @@ void GetBehaviorItem(int id, BehaviorItem *item) {
 
 // The name is spelled so for all callers.
 void AddBehaviortem(const BehaviorItem *item) {
-    openlog("AddBehaviortem", 0, 0);
-    const std::string_view info = field_text(item->behavior_info, sizeof(item->behavior_info));
-    syslog(LOG_INFO, "pinfo->behavior_info:%.*s", static_cast<int>(info.size()), info.data());
-    closelog();
+    log_addition(field_text(item->behavior_info, sizeof(item->behavior_info)));
     add_item(table, item);
 }
 
