@@ -65,11 +65,11 @@ void read_rows(const ListSpec &spec, json::Keys keys, const char *argument, int 
         print_rows(spec, keys, reading, argument, table_count);
     }
     if (start == Start::not_opened) {
-        close(reading.code());  // Deliberate: callers have come to expect it, as they do the close below.
+        close_callers_descriptor(reading.code());  // Deliberate: the number of a descriptor is that of a failure.
         return;
     }
     reading.close();
-    close(STDIN_FILENO);
+    close_callers_descriptor(STDIN_FILENO);
 }
 
 void print_list(const ListSpec &spec, json::Keys keys, const char *argument) {

@@ -1,5 +1,6 @@
 #include "core/access.h"
 
+#include "build_profile.h"
 #include "core/paths.h"
 #include "routerdb.h"
 
@@ -50,7 +51,7 @@ bool Access::open_database() {
     }
     call_.fail(errno_of(code_));
     printed_ = report(profile_.not_opened, {path_of(profile_.database), code_, sqlite3_errmsg(connection_.handle())});
-    if (profile_.failed_handle == FailedHandle::abandoned) {
+    if (profile_.failed_handle == FailedHandle::abandoned && !build_profile.closes_its_own) {
         connection_.abandon();  // Deliberate: callers that count connections see this one left open.
     }
     return false;

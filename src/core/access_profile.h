@@ -15,6 +15,7 @@ enum class Guard : std::uint8_t { none, lock_file_if_there, lock_file, mutex_and
 /// When the first delay is drawn: callers that put their own rand() or gettimeofday() in front see the difference.
 enum class Draw : std::uint8_t { before_opening_lock_file, after_opening_lock_file };
 
+/// What becomes of a connection that SQLite could not open, unless the build profile closes all of them.
 enum class FailedHandle : std::uint8_t { closed, abandoned };
 
 struct ReadProfile;

@@ -38,9 +38,15 @@ int first_number(const ReadProfile &profile, SqlView sql, SharedConnection *shar
     return reading.next_row() ? reading.row().number(0) : 0;
 }
 
+void close_callers_descriptor(int descriptor) {
+    if (!build_profile.closes_its_own) {
+        close(descriptor);  // Deliberate: callers have come to expect it.
+    }
+}
+
 int first_number_closing_input(const ReadProfile &profile, SqlView sql, SharedConnection *shared) {
     const int number = first_number(profile, sql, shared);
-    close(STDIN_FILENO);  // Deliberate: callers have come to expect it.
+    close_callers_descriptor(STDIN_FILENO);
     return number;
 }
 

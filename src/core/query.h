@@ -18,7 +18,10 @@ namespace routerdb {
 /// @return the first column of the first row; 0 without a row
 [[nodiscard]] int first_number(const ReadProfile &profile, SqlView sql, SharedConnection *shared = nullptr);
 
-/// The same, and closes standard input.
+/// Closes a descriptor that is not the library's own, in the profile that does so.
+void close_callers_descriptor(int descriptor);
+
+/// As first_number(), and closes standard input so.
 [[nodiscard]] int first_number_closing_input(const ReadProfile &profile, SqlView sql,
                                              SharedConnection *shared = nullptr);
 

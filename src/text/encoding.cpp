@@ -22,7 +22,10 @@ bool Converter::convert(const char *in, std::size_t inlen, char *out) {
     if (usable() && iconv(handle_, &from, &inlen, &out, &room) != static_cast<std::size_t>(-1)) {
         return true;
     }
-    handle_ = nullptr;  // Deliberate: the converter of a failed conversion stays open.
+    if (build_profile.closes_its_own) {
+        close();
+    }
+    handle_ = nullptr;  // Deliberate: in the exact profile the converter of a failed conversion stays open.
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include "core/holdings.h"
 #include "routerdb.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/streams.h"
 
 namespace {
@@ -18,7 +19,7 @@ Outcome build_list(sqlite3 * /*db*/, const char *sql) {
     return {0, std::to_string(list.count)};
 }
 
-constexpr bool abandons = true;
+constexpr bool abandons = !support::build_profile.closes_its_own;
 constexpr bool closes = false;
 const Outcome failure{-1, ""};
 const Outcome zero{0, ""};

@@ -99,7 +99,7 @@ TEST_P(HostNames, of_full_tables_are_served_whole_again_and_again) {
     }
 }
 
-TEST_P(HostNames, are_missing_in_the_eighth_list_that_one_process_builds) {
+TEST_P(HostNames, are_missing_in_the_eighth_list_that_one_process_builds_unless_it_closes_its_own) {
     GetParam().insert(128);
     const auto streams = support::streams_of([] {
         if (support::build_profile.remembers_lookups) {  // one reading for each list
@@ -110,9 +110,10 @@ TEST_P(HostNames, are_missing_in_the_eighth_list_that_one_process_builds) {
         }
         const std::string eighth = built();
         EXPECT_EQ(support::word(eighth, 0), 128U);
-        EXPECT_NE(difference(GetParam().list(128), eighth), "");
+        EXPECT_EQ(difference(GetParam().list(128), eighth) == "", support::build_profile.closes_its_own);
     });
-    EXPECT_EQ(streams.error.substr(0, 47), "could not open input file: Too many open files\n");
+    EXPECT_EQ(streams.error.substr(0, 47),
+              support::build_profile.closes_its_own ? "" : "could not open input file: Too many open files\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(, HostNames,
