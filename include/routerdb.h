@@ -26,7 +26,7 @@
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
 ///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay, and
-///    GetApDevStaList(), reseed the process-wide generator of rand().
+///    GetApDevStaList(), reseed the process-wide generator of rand() in the exact profile.
 /// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache.
 /// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
 ///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
@@ -115,7 +115,7 @@ ROUTERDB_API int free_db_lock(int fd);
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
 ///       cmdline, Error: %s\n" on standard output. The first delay is random, 51 to 150 microseconds. A connection
-///       that SQLite could not open stays allocated.
+///       that SQLite could not open stays allocated in the exact profile.
 /// @note Does not take db_mutex: threads of one process must take turns.
 ROUTERDB_API int DbSqlExec(char *sql);
 
@@ -173,7 +173,7 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR(const char *sql);
 /// @return 0, also when the query cannot be prepared; -1 if the database cannot be opened
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log,
 ///       there also "sql busy/locked cmdline, Error: %s\n" after each sleep. First sleep 155 microseconds. A
-///       connection that SQLite could not open stays allocated.
+///       connection that SQLite could not open stays allocated in the exact profile.
 /// @note Thread-safe; takes no lock.
 ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
 
@@ -213,8 +213,9 @@ ROUTERDB_API int GET_DB_SQL_INT(const char *sql);
 
 /// Reads the first column of the first row of a query on the main database as a number.
 /// @param sql  the query
-/// @return the number, 0 for NULL and without a row; -1 if the database cannot be opened (without a message; the
-///         connection stays allocated) or the query cannot be prepared ("Error: %s" on standard output)
+/// @return the number, 0 for NULL and without a row; -1 if the database cannot be opened (without a message; in
+///         the exact profile the connection stays allocated) or the query cannot be prepared ("Error: %s" on standard
+///         output)
 /// @note Random first delay. Thread-safe; takes no lock.
 ROUTERDB_API int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql);
 
@@ -223,8 +224,8 @@ ROUTERDB_API int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql);
 /// @return as GET_DB_SQL_INT_COUNT_ROUTE()
 ROUTERDB_API int GET_DB_SQL_INT_COUNT_DPI(const char *sql);
 
-/// As GET_DB_SQL_INT_COUNT_DPI(), and closes descriptor 0 before it returns, whatever the result. A program that
-/// still wants its standard input reads it first.
+/// As GET_DB_SQL_INT_COUNT_DPI(), and closes descriptor 0 in the exact profile before it returns, whatever the
+/// result. A program that still wants its standard input reads it first.
 /// @param sql  the query
 /// @return as GET_DB_SQL_INT_COUNT_ROUTE()
 ROUTERDB_API int GET_DB_SQLITE_SQL_INT(const char *sql);
@@ -283,7 +284,8 @@ ROUTERDB_API size_t generate_db_params(char *text, char *out, unsigned int size,
 ///                     shorter
 /// @param      outlen  bytes of `out` that are set to zero first; they supply the terminator
 /// @return 0; -1 if the text cannot be converted or its conversion takes more than ROUTERDB_CONVERSION_ROOM bytes,
-///         `out` then holding what was converted up to there. The converter of a failed conversion stays allocated
+///         `out` then holding what was converted up to there. In the exact profile the converter of a failed
+///         conversion stays allocated
 /// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
 ///       A null converter is logged as "error1\n", `out` then being untouched. Thread-safe.
 ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen);
@@ -296,7 +298,8 @@ ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t ou
 ///                     shorter, and room for the whole of `in`
 /// @param      outlen  bytes of `out` that are set to zero first; they supply the terminator
 /// @return 0; -1 if the text cannot be converted or its conversion takes more than ROUTERDB_CONVERSION_ROOM bytes,
-///         `out` then holding the whole input. The converter of a failed conversion stays allocated
+///         `out` then holding the whole input. In the exact profile the converter of a failed
+///         conversion stays allocated
 /// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
 ///       A null converter is logged as "gb2312toutf8 error1\n", `out` then being untouched. Thread-safe.
 ROUTERDB_API int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen);
@@ -736,7 +739,7 @@ ROUTERDB_API int GetDhcpStaticItemListInServer(DhcpStaticItemList *list, const c
 ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql);
 
 /// Builds the list of MAC filters. Looks up the referenced time groups, and each host name
-/// with get_hostname_by_mac(), which leaves a stream of the lease file open.
+/// with get_hostname_by_mac(), which in the exact profile leaves a stream of the lease file open.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from filter_mac order by id;"
 /// @return no meaning
@@ -1104,9 +1107,9 @@ ROUTERDB_API void GetBehaviorItem(int id, BehaviorItem *item);
 
 /// Inserts a behaviour rule. The table chooses the id.
 /// @param item  the values; `id` is not read
-/// @note Writes "pinfo->behavior_info:%s" to the system log first, at LOG_INFO under the identity "AddBehaviortem",
-///       with openlog and closelog of its own: the caller's identity and options are gone afterwards, until it calls
-///       openlog again. The column `behavior_type` becomes 0.
+/// @note Writes "pinfo->behavior_info:%s" to the system log first, at LOG_INFO. In the exact profile it does so
+///       under the identity "AddBehaviortem", with openlog and closelog of its own: the caller's identity and options
+///       are gone afterwards, until it calls openlog again. The column `behavior_type` becomes 0.
 ROUTERDB_API void AddBehaviortem(const BehaviorItem *item);
 
 /// Writes every column of one behaviour rule.
@@ -1610,8 +1613,9 @@ ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInf
 /// A function that prints gives one JSON object on standard output, through the C library's stream and without a line
 /// break behind it where none is mentioned. Where nothing can be counted beforehand the object is short, with the
 /// count "0". Otherwise every element but the last ends with a comma: the last one has all its values empty and is not
-/// counted. Values are printed as stored, nothing is escaped; texts of the catalogue are cut behind 199 bytes, those of
-/// zero-configuration groups behind 99, of stations behind 49, of access points at the width of their members. When the
+/// counted. Texts of the catalogue are cut behind 199 bytes, those of zero-configuration groups behind 99, of stations
+/// behind 49, of access points at the width of their members. Then the exact profile prints them as stored: nothing is
+/// escaped. The modern one escapes them as RFC 8259 asks for, and prints U+FFFD for bytes that are no UTF-8. When the
 /// database cannot be opened or asked for a list that has begun, or memory runs out for an element, the object stays
 /// unfinished; a failure behind a row ends the list there. Thread-safe as far as the stream is.
 ///
@@ -1654,10 +1658,10 @@ ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
 /// Prints all application classes, each with its applications.
 /// @return no meaning
 /// @note Errors: those of GET_DB_SQLITE_SQL_INT(), which counts first, in front of the object; then "Webserver Error:
-///       %s" on standard output, within it. Closes descriptor 0 after the count, and again behind a list, whatever has
-///       taken that number meanwhile. A catalogue that cannot be opened for the count makes a short object; one that
-///       can be opened then and not for the list leaves the object unfinished without a word, and the descriptor is
-///       closed whose number is SQLite's result code, instead of descriptor 0 a second time.
+///       %s" on standard output, within it. A catalogue that cannot be opened for the count makes a short
+///       object; one that can be opened then and not for the list leaves the object unfinished without a word. The
+///       exact profile closes descriptor 0 after the count, and again behind a list, whatever has taken that number
+///       meanwhile; behind an unfinished object of that kind, the descriptor whose number is SQLite's result code.
 ROUTERDB_API int GetAppClassItemList(void);
 
 /// Prints one application class. The count is that of all classes.
@@ -1714,10 +1718,13 @@ ROUTERDB_API int GetWlanZeroCfgGroupList(void);
 
 /// Asks an access point for its stations with the program capwapmanage and prints them, with a line break after the
 /// first piece and, if the answer can be read, at the end. Takes a tenth of a second and more; calls sync.
-/// @param devIp  its address, put into shell commands as given: callers check it
+/// @param devIp  its address. The exact profile puts it into shell commands as given: callers check it. The modern one
+///               takes nothing but four decimal numbers with dots between them: for anything else it runs nothing,
+///               prints the short object, sets errno to EINVAL, and logs "stations not listed: no IPv4 address\n"
 /// @return no meaning
 /// @note Leaves "/var/stalist_<n>", n from 1 to 10 at random, and the trace "/tmp/sta_log". Two calls at the same
-///       moment may meet in one file.
+///       moment may meet in one file in the exact profile. The modern one starts the program without a shell, and its
+///       file is a new one each time that only the caller can read.
 ROUTERDB_API int GetApDevStaList(const char *devIp);
 
 /// @}
@@ -1778,7 +1785,9 @@ ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRec
 /// Asks the DHCP server to write its leases (SIGUSR1), waits a millisecond, and reads a binary lease file into a list.
 /// @param[in,out] head       must be null; receives the list, to be released with free_leaselist_sql()
 /// @param         leaseFile  path of the lease file
-/// @param         pidFile    path of the server's pid file; without it no signal is sent
+/// @param         pidFile    path of the server's pid file; without it no signal is sent. In the modern profile a file
+///                           counts if nobody but its owner may write it, and root owns it, or the caller the file and
+///                           the process
 /// @return the number of nodes; 0 if the lease file cannot be opened ("could not open input file" through perror).
 ///         Without memory the list ends early
 /// @note As thread-safe as add_addrserverlease_sql().
@@ -1789,9 +1798,9 @@ ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFi
 /// @param      mac        the address in upper case, with colons
 /// @param[out] hostname   room for 128 bytes; untouched when no line matches
 /// @param      leaseFile  path of the lease file
-/// @param      pidFile    path of the server's pid file
+/// @param      pidFile    path of the server's pid file, as for get_addrserver_leases_sql()
 /// @return 1 when the file was read, 0 if it cannot be opened ("could not open input file" through perror)
-/// @note Thread-safe. Each call leaves one stream of the lease file open.
+/// @note Thread-safe. In the exact profile each call leaves one stream of the lease file open.
 ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname, const char *leaseFile,
                                                 const char *pidFile);
 
