@@ -40,6 +40,7 @@ add_library(
     src/core/confinement.cpp
     src/core/connection.cpp
     src/core/doors.cpp
+    src/core/elf_note.cpp
     src/core/execute.cpp
     src/core/journal.cpp
     src/core/list_room.cpp
@@ -89,7 +90,8 @@ set_target_properties(
 target_include_directories(
     routerdb_objects
     PUBLIC ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
-target_compile_definitions(routerdb_objects PUBLIC ROUTERDB_PROFILE=${ROUTERDB_PROFILE})
+target_compile_definitions(routerdb_objects PUBLIC ROUTERDB_PROFILE=${ROUTERDB_PROFILE}
+                           PRIVATE ROUTERDB_VERSION="${PROJECT_VERSION}")
 target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads PRIVATE routerdb_compile_options)
 # Fortified calls have other names, and programs put their own functions in front of the plain ones. A compiler that
 # knows malloc makes calloc of it where the block is cleared.

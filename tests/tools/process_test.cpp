@@ -5,10 +5,13 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
 
 #include "support/database.h"
 #include "support/fake_service.h"
 #include "support/peer.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/service.h"
 #include "support/streams.h"
@@ -145,7 +148,34 @@ TEST(SqldOptions, explain_themselves) {
               "usage: routerdb-sqld [--help | --version]\n"
               "Answers the rule-table requests of librouterdb until SIGTERM.\n"
               "Messages go to the system log.\n");
-    EXPECT_EQ(run({"--version"}).output.substr(0, 14), "routerdb-sqld ");
+}
+
+constexpr const char *own_profile = support::build_profile.spares ? "modern" : "exact";
+constexpr const char *other_profile = support::build_profile.spares ? "exact" : "modern";
+
+std::string versions(const std::string &profile) {
+    return "routerdb-sqld " ROUTERDB_VERSION "\nlibrouterdb " + profile + " " ROUTERDB_VERSION "\n";
+}
+
+TEST(SqldVersion, says_which_library_it_runs_with) {
+    const Outcome version = run({"--version"});
+    EXPECT_EQ(version.status, 0);
+    EXPECT_EQ(version.output, versions(own_profile));
+    EXPECT_EQ(version.error, "");
+}
+
+TEST(SqldVersion, is_not_that_of_the_library_it_was_built_with) {
+    ASSERT_EQ(symlink(OTHER_LIBRARY, "/tmp/" LIBRARY_NAME), 0);
+    const char *const directories = std::getenv("LD_LIBRARY_PATH");
+    setenv("LD_LIBRARY_PATH", directories != nullptr ? ("/tmp:" + std::string(directories)).c_str() : "/tmp", 1);
+    EXPECT_EQ(run({"--version"}).output, versions(other_profile));
+}
+
+TEST(SqldVersion, that_cannot_be_printed_is_a_failure) {
+    Process process([] {
+        return std::freopen("/dev/full", "w", stdout) != nullptr && support::become(support::sqld({"--version"}));
+    });
+    EXPECT_EQ(process.wait(), 1);
 }
 
 TEST(SqldOptions, that_nobody_knows_are_refused) {

@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "server.h"
+#include "shared/library_note.h"
 
 namespace {
 
@@ -26,6 +27,14 @@ int run() {
     return 0;
 }
 
+/// Prints the version of the program, and what the library says that it runs with.
+int print_versions() {
+    const char *const note = tools::library_note();
+    const char *const library = note != nullptr ? note : "without a note";
+    const bool printed = std::printf("routerdb-sqld " ROUTERDB_VERSION "\nlibrouterdb %s\n", library) > 0;
+    return printed && std::fflush(stdout) == 0 ? 0 : 1;
+}
+
 }  // namespace
 
 int main(int argc, char **argv) {
@@ -36,7 +45,7 @@ int main(int argc, char **argv) {
         return std::fputs(usage, stdout) == EOF ? 1 : 0;
     }
     if (argc == 2 && std::strcmp(argv[1], "--version") == 0) {
-        return std::puts("routerdb-sqld " ROUTERDB_VERSION) == EOF ? 1 : 0;
+        return print_versions();
     }
     std::fputs(usage, stderr);
     return 2;
