@@ -100,11 +100,19 @@ target_compile_options(
     PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
             -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0 -fno-builtin-malloc)
 
+# What each profile is built with beyond that. The modern one notices when a stack is overrun, and no address in it can be
+# written once it is loaded. It is not fortified either.
+add_library(routerdb_exact_options INTERFACE)
+add_library(routerdb_modern_options INTERFACE)
+target_compile_options(routerdb_modern_options INTERFACE -fstack-protector-strong)
+target_link_options(routerdb_modern_options INTERFACE LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
+target_link_libraries(routerdb_objects PRIVATE routerdb_${ROUTERDB_PROFILE}_options)
+
 include(SmallBuild)
 
 add_library(routerdb SHARED)
 add_library(routerdb::routerdb ALIAS routerdb)
-target_link_libraries(routerdb PRIVATE routerdb_objects SQLite::SQLite3 Threads::Threads)
+target_link_libraries(routerdb PRIVATE routerdb_objects routerdb_${ROUTERDB_PROFILE}_options SQLite::SQLite3 Threads::Threads)
 target_include_directories(
     routerdb
     INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
