@@ -53,6 +53,7 @@ add_library(
     src/core/row.cpp
     src/core/shell.cpp
     src/core/statement.cpp
+    src/core/transaction.cpp
     src/dhcp/doors.cpp
     src/dhcp/host_name.cpp
     src/dhcp/lease_file.cpp

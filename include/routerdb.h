@@ -1404,6 +1404,8 @@ ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 ///             converted becomes empty
 /// @return the serial number as an int, or -1. Compare with -1 only: an address whose last octet is 128 or more gives a
 ///         negative number on success, and an empty address gives -1 although the row was written
+/// @note In the modern profile it is one transaction, tried again as a whole while the database is busy, with one
+/// lookup.
 /// @note Copies the database as DbSqlExec() does when the text of its update contains "insert".
 /// @note Errors: "not have enough mem" in the system log.
 ROUTERDB_API int DB_addinfo(DevInfo dev);

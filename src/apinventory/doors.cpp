@@ -43,7 +43,7 @@ int DB_findinfo2(DevInfo dev, unsigned long *sn) {
 
 int DB_findinfo(DevInfo dev, unsigned long *sn) {
     SharedConnection connection;
-    return find_or_make_way(dev, *sn, connection);
+    return find_or_make_way(dev, *sn, Road(connection));
 }
 
 int DB_addinfo(DevInfo dev) {

@@ -22,33 +22,12 @@ constexpr useconds_t between_attempts = 100;
 
 using Sql = StackText<512>;
 
-struct Matches {
-    bool succeeded;
-    unsigned int count;
-};
-
-Matches count_matches(const Text &sql, SharedConnection &connection) {
-    Matches found{false, 0};
-    found.succeeded = count(profiles::exec_char_int, sql, found.count, &connection) == 0;
-    return found;
-}
-
-int run(const Text &sql) {
-    return execute(profiles::exec_char, sql);
-}
+// What is there shows in whether there are rows, not in their 160 columns.
+constexpr const char *any_device =
+    build_profile.names_needed_columns ? "select 1 from DevInfo" : "select *  from DevInfo";
 
 void append_mac(Text &sql, const DevInfo &device) {
     sql.append_quoted(field_text(device.Dev_MAC), Quotes::doubled);
-}
-
-void append_mac_lookup(Text &sql, const DevInfo &device) {
-    sql.append("select Dev_Sn  from DevInfo where Dev_MAC=");
-    append_mac(sql, device);
-    sql.append(";");
-}
-
-void read_sn_by_mac(const DevInfo &device, unsigned long &sn, SharedConnection &connection) {
-    read_sn(LookupKey::mac, field_text(device.Dev_MAC), Quotes::doubled, sn, &connection);
 }
 
 /// Only the text of five pairs of zeros counts as no address; six pairs do not.
@@ -58,28 +37,28 @@ bool has_mac(const DevInfo &device) {
 }
 
 /// Deletes the row that has the serial number of a new access point: its device had the IP address before.
-void make_way(const DevInfo &device, unsigned long sn, SharedConnection &connection) {
+void make_way(const DevInfo &device, unsigned long sn, const Road &road) {
     if (!has_mac(device) || field_text(device.Dev_Ipaddress).empty()) {
         return;
     }
     Sql lookup;
-    lookup.append("select *  from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
-    const Matches found = count_matches(lookup, connection);
+    lookup.append(any_device).append(" where Dev_Sn=").append_quoted(sn).append(";");
+    const Road::Matches found = road.count(lookup);
     if (found.succeeded && found.count != 0) {
         Sql removal;
         removal.append("delete from DevInfo where Dev_Sn=").append_quoted(sn).append(";");
-        [[maybe_unused]] const int result = run(removal);
+        [[maybe_unused]] const int result = road.run(removal);
     }
 }
 
 /// Inserts the row of a new access point, which the report then fills.
-int insert_row(const DevInfo &device, unsigned long sn) {
-    if (has_mac(device)) {
+int insert_row(const DevInfo &device, unsigned long sn, const Road &road) {
+    if (has_mac(device) && !road.alone()) {  // somebody else may have inserted it since
         Sql removal;
         removal.append("delete from DevInfo where Dev_MAC=");
         append_mac(removal, device);
         removal.append(";");
-        [[maybe_unused]] const int result = run(removal);
+        [[maybe_unused]] const int result = road.run(removal);
     }
     Sql sql;
     sql.append("insert into DevInfo (Dev_Sn,Dev_Group,Dev_Name,Dev_MAC) values(").append_quoted(sn);
@@ -87,7 +66,34 @@ int insert_row(const DevInfo &device, unsigned long sn) {
     sql.append(",").append_quoted(field_text(device.Dev_Name), Quotes::doubled).append(",");
     append_mac(sql, device);
     sql.append(") ;");
-    return run(sql);
+    return road.run(sql);
+}
+
+/// Decides whether an access point is new or known, and writes what it reports.
+/// @param sql  has the last statement then
+/// @param sn   receives its serial number
+bool write_report(const DevInfo &device, Text &sql, unsigned long &sn, const Road &road) {
+    const int lookup = find_or_make_way(device, sn, road);
+    sql.clear();
+    sql.append(any_device).append(";");
+    const unsigned count = road.count(sql).count;
+    if (lookup == lookup_failed) {
+        return false;
+    }
+    if (lookup == is_new && (count >= ROUTERDB_MAX_DEVICES || insert_row(device, sn, road) < 0)) {
+        return false;
+    }
+    sql.clear();
+    append_report(sql, lookup == is_new ? Report::of_new : Report::of_known, device);
+    return road.run(sql) == 0;
+}
+
+/// Writes a report in one transaction.
+/// @return false where that is not to be, or fails; nothing is written or said then
+bool write_at_once(const DevInfo &device, Text &sql, unsigned long &sn, bool &written) {
+    return build_profile.registers_at_once && run_as_transaction(profiles::transaction, [&](Transaction &transaction) {
+               written = write_report(device, sql, sn, Road(transaction));
+           });
 }
 
 /// Takes the memory for a report.
@@ -101,45 +107,67 @@ bool take_memory(Text &sql) {
 
 }  // namespace
 
+Road::Matches Road::count(const Text &sql) const {
+    Matches found{false, 0};
+    unsigned long number = 0;
+    found.succeeded = transaction_ != nullptr
+                          ? transaction_->count(sql, found.count, number)
+                          : routerdb::count(profiles::exec_char_int, sql, found.count, readings_) == 0;
+    return found;
+}
+
+Road::Matches Road::find(const DevInfo &device, unsigned long &sn) const {
+    Sql lookup;
+    lookup.append("select Dev_Sn  from DevInfo where Dev_MAC=");
+    append_mac(lookup, device);
+    lookup.append(";");
+    if (transaction_ != nullptr) {
+        Matches found{false, 0};
+        found.succeeded = transaction_->count(lookup, found.count, sn);
+        return found;
+    }
+    const Matches found = count(lookup);
+    if (found.succeeded && found.count != 0) {
+        read_sn(LookupKey::mac, field_text(device.Dev_MAC), Quotes::doubled, sn, readings_);
+    }
+    return found;
+}
+
+int Road::run(const Text &sql) const {
+    if (transaction_ != nullptr) {
+        return transaction_->execute(sql) ? 0 : -1;
+    }
+    return execute(profiles::exec_char, sql);
+}
+
 int find_known(const DevInfo &device, unsigned long &sn) {
     SharedConnection connection;
     if (field_text(device.Dev_MAC).empty()) {
         return lookup_failed;
     }
-    Sql lookup;
-    append_mac_lookup(lookup, device);
-    Matches found{false, 0};
+    Road::Matches found{false, 0};
     for (int attempt = 0; attempt < attempts && found.count == 0; ++attempt) {
-        found = count_matches(lookup, connection);
+        found = Road(connection).find(device, sn);
         if (found.count == 0) {
             usleep(between_attempts);
         }
     }
-    if (found.count == 0 || !found.succeeded) {
-        return is_new;
-    }
-    read_sn_by_mac(device, sn, connection);
-    return is_known;
+    return found.count != 0 && found.succeeded ? is_known : is_new;
 }
 
-int find_or_make_way(const DevInfo &device, unsigned long &sn, SharedConnection &connection) {
-    Sql lookup;
-    append_mac_lookup(lookup, device);
+int find_or_make_way(const DevInfo &device, unsigned long &sn, const Road &road) {
+    const int last_attempt = road.alone() ? 1 : attempts;
     for (int attempt = 1;; ++attempt) {
         sn = address_in_network_order(field_text(device.Dev_Ipaddress));
-        const Matches found = count_matches(lookup, connection);
+        const Road::Matches found = road.find(device, sn);
         if (found.count != 0) {
-            if (!found.succeeded) {
-                return lookup_failed;
-            }
-            read_sn_by_mac(device, sn, connection);
-            return is_known;
+            return found.succeeded ? is_known : lookup_failed;
         }
-        if (attempt == attempts) {
+        if (attempt == last_attempt) {
             if (!found.succeeded) {
                 return lookup_failed;
             }
-            make_way(device, sn, connection);
+            make_way(device, sn, road);
             return is_new;
         }
         usleep(between_attempts);
@@ -152,17 +180,12 @@ int register_device(const DevInfo &device) {
         return -1;
     }
     unsigned long sn = 0;
-    SharedConnection connection;
-    const int lookup = find_or_make_way(device, sn, connection);
-    const int count = rows_in_table("DevInfo", &connection);
-    if (lookup == lookup_failed || count < 0) {
-        return -1;
+    bool written = false;
+    if (!write_at_once(device, sql, sn, written)) {
+        SharedConnection connection;
+        written = write_report(device, sql, sn, Road(connection));
     }
-    if (lookup == is_new && (count >= ROUTERDB_MAX_DEVICES || insert_row(device, sn) < 0)) {
-        return -1;
-    }
-    append_report(sql, lookup == is_new ? Report::of_new : Report::of_known, device);
-    if (run(sql) < 0) {
+    if (!written) {
         return -1;
     }
     notify(Event::added, sn);
@@ -177,14 +200,14 @@ void save_device(const DevInfo &device) {
     StackText<1> sql;
     if (take_memory(sql)) {
         append_report(sql, Report::saved, device);
-        [[maybe_unused]] const int result = run(sql);
+        [[maybe_unused]] const int result = execute(profiles::exec_char, sql);
     }
 }
 
 int update_device(const DevInfo &device) {
     StackText<16384> sql;
     append_configuration(sql, device);
-    return run(sql);
+    return execute(profiles::exec_char, sql);
 }
 
 }  // namespace routerdb

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/shared_connection.h"
+#include "core/transaction.h"
 #include "routerdb.h"
 
 namespace routerdb {
@@ -15,10 +16,40 @@ enum : int { lookup_failed = -1, is_new = 0, is_known = 1 };
 /// @param sn  receives the serial number of a known one
 int find_known(const DevInfo &device, unsigned long &sn);
 
+/// How the statements of a registration are run: each by itself, the readings on the connection of their call, or all
+/// of them in one transaction.
+class Road {
+public:
+    explicit Road(SharedConnection &readings) : readings_(&readings) {}
+    explicit Road(Transaction &transaction) : transaction_(&transaction) {}
+
+    /// Whether nobody else writes meanwhile.
+    bool alone() const { return transaction_ != nullptr; }
+
+    /// What came of a query.
+    struct Matches {
+        bool succeeded;
+        unsigned count;
+    };
+
+    /// Counts the rows of a query.
+    Matches count(const Text &sql) const;
+
+    /// Looks an access point up. A known one's serial number is read.
+    Matches find(const DevInfo &device, unsigned long &sn) const;
+
+    /// Runs a statement.
+    /// @return 0 or -1
+    int run(const Text &sql) const;
+
+private:
+    SharedConnection *readings_ = nullptr;
+    Transaction *transaction_ = nullptr;
+};
+
 /// Looks an access point up and, if it is new, removes the row of another device that had its IP address before.
-/// @param sn          receives its serial number, be it known or new
-/// @param connection  of the call that the lookup is part of
-int find_or_make_way(const DevInfo &device, unsigned long &sn, SharedConnection &connection);
+/// @param sn  receives its serial number, be it known or new
+int find_or_make_way(const DevInfo &device, unsigned long &sn, const Road &road);
 
 /// Registers an access point.
 /// @return its serial number as an int, or -1

@@ -32,20 +32,28 @@ void tune_for_writing(sqlite3 *db) {
     }
 }
 
-/// An attempt that was busy part way has left its transaction open: the next one could not begin it again, and whoever
-/// it waits for may be waiting for it.
-void leave_transaction(sqlite3 *db) {
-    if (sqlite3_get_autocommit(db) == 0) {
-        sqlite3_exec(db, "rollback;", nullptr, nullptr, nullptr);
-    }
-}
-
 /// Callers rely on the plain text search: "SELECT" does not count, and the word inside a value does.
 bool looks_like_a_query(const char *sql) {
     return std::strstr(sql, "select") != nullptr;
 }
 
 }  // namespace
+
+bool open_as(Access &access, const ExecuteProfile &profile) {
+    if (!access.open()) {
+        return false;
+    }
+    if (profile.pragmas == Pragmas::write_tuning) {
+        tune_for_writing(access.db());
+    }
+    return true;
+}
+
+void leave_transaction(sqlite3 *db) {
+    if (sqlite3_get_autocommit(db) == 0) {
+        sqlite3_exec(db, "rollback;", nullptr, nullptr, nullptr);
+    }
+}
 
 int execute(Access &access, const char *sql) {
     sqlite3 *const db = access.db();
@@ -71,13 +79,7 @@ int execute(const ExecuteProfile &profile, SqlView sql) {
         access.call().fail(ENOMEM);
         return -1;
     }
-    if (!access.open()) {
-        return -1;
-    }
-    if (profile.pragmas == Pragmas::write_tuning) {
-        tune_for_writing(access.db());
-    }
-    return execute(access, sql.text());
+    return open_as(access, profile) ? execute(access, sql.text()) : -1;
 }
 
 int execute_with_copy(const char *sql) {

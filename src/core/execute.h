@@ -16,6 +16,13 @@ struct ExecuteProfile {
     constexpr ExecuteProfile for_callers() const { return {access.for_callers(), pragmas}; }
 };
 
+/// Takes what the profile names, opens the database, and sets what the profile wants set.
+[[nodiscard]] bool open_as(Access &access, const ExecuteProfile &profile);
+
+/// An attempt that was busy part way has left its transaction open: the next one could not begin it again, and whoever
+/// it waits for may be waiting for it.
+void leave_transaction(sqlite3 *db);
+
 /// Executes SQL on an open connection, retrying the whole text while the database is busy, without what a transaction
 /// of the busy attempt did. A failure is written to standard output.
 /// @return 0 or -1

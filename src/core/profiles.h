@@ -17,6 +17,10 @@ inline constexpr ExecuteProfile guarded_execution{guarded.abandoning_failed_hand
 inline constexpr ExecuteProfile exec_char{guarded.under(Guard::mutex_and_lock_file).sleeping_times(100),
                                           Pragmas::write_tuning};
 
+/// The transaction of a registration. It says nothing: where it fails, DB_EXEC_SQL_CHAR does the same and says it.
+inline constexpr ExecuteProfile transaction{unguarded.under(Guard::mutex_and_lock_file).sleeping_times(100),
+                                            Pragmas::write_tuning};
+
 /// DB_EXEC_SQL_CHAR_INT
 inline constexpr ReadProfile exec_char_int = unguarded.sleeping_from(FirstDelay::microseconds_150)
                                                  .when_busy(Stream::system_log)

@@ -19,7 +19,9 @@ constexpr char mac[] = "00:1a:2b:3c:4d:5e";
 constexpr unsigned long sn_of_address = 335653056;  // of 192.168.1.20
 constexpr char lookup[] = "sqlite3_prepare_v2 select Dev_Sn  from DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';";
 constexpr char lookup_of_sn[] = "sqlite3_prepare_v2 select Dev_Sn from  DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';";
-constexpr char lookup_of_holder[] = "sqlite3_prepare_v2 select *  from DevInfo where Dev_Sn='335653056';";
+constexpr const char *lookup_of_holder = support::build_profile.names_needed_columns
+                                             ? "sqlite3_prepare_v2 select 1 from DevInfo where Dev_Sn='335653056';"
+                                             : "sqlite3_prepare_v2 select *  from DevInfo where Dev_Sn='335653056';";
 
 DevInfo device(const std::string &mac_address = mac, const std::string &address = "192.168.1.20") {
     DevInfo device{};

@@ -29,6 +29,14 @@ constexpr char copy[] =
     "system cp -f /etc/config/systemconf/database/myrouter.db /etc/config/systemconf/database/myrouter.db "
     ">/dev/null 2>&1 &";
 constexpr char removal[] = "delete from DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';";
+constexpr char lookup[] = "sqlite3_prepare_v2 select Dev_Sn  from DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';";
+constexpr const char *lookup_of_number = support::build_profile.names_needed_columns
+                                             ? "sqlite3_prepare_v2 select 1 from DevInfo where Dev_Sn='335653056';"
+                                             : "sqlite3_prepare_v2 select *  from DevInfo where Dev_Sn='335653056';";
+constexpr const char *count = support::build_profile.names_needed_columns
+                                  ? "sqlite3_prepare_v2 select 1 from DevInfo;"
+                                  : "sqlite3_prepare_v2 select *  from DevInfo;";
+constexpr bool at_once = support::build_profile.registers_at_once;
 constexpr char insertion[] =
     "insert into DevInfo (Dev_Sn,Dev_Group,Dev_Name,Dev_MAC) values('335653056','c1','c2','00:1a:2b:3c:4d:5e') ;";
 
@@ -40,8 +48,16 @@ public:
     Lines steps() const { return calls({"sqlite3_prepare_v2", "sqlite3_exec", "usleep", "system", "syslog"}); }
     Lines commands() const { return calls({"system"}); }
 
-    /// Plans a failure of write number n, from 1; each write has three settings before it.
+    /// Plans that a registration is no transaction.
+    void fail_transaction() {
+        if (at_once) {
+            answer("sqlite3_open", {SQLITE_CANTOPEN});
+        }
+    }
+
+    /// Plans a failure of write number n, from 1, each of which is on its own; three settings come before it.
     void fail_write(int n) {
+        fail_transaction();
         for (int i = 1; i < 4 * n; ++i) {
             answer("sqlite3_exec", {really});
         }
@@ -51,6 +67,10 @@ public:
 
 void insert_device(const std::string &number, const std::string &mac_address) {
     insert(devices, {{0, number}, {8, mac_address}});
+}
+
+void append(Lines &lines, const Lines &more) {
+    lines.insert(lines.end(), more.begin(), more.end());
 }
 
 void append_write(Lines &lines, const std::string &sql) {
@@ -77,31 +97,58 @@ Lines commands_with(const std::string &name, const std::string &text) {
     return observer.commands();
 }
 
+/// The steps of a new one, each on its own, and in one transaction.
+Lines steps_apart() {
+    Lines steps{lookup};
+    for (int i = 1; i < 16; ++i) {
+        append(steps, {"usleep 100", lookup});
+    }
+    append(steps, {lookup_of_number, count});
+    append_write(steps, removal);
+    append_write(steps, insertion);
+    append_write(steps, statements::registration_of_new());
+    steps.emplace_back(event);
+    return steps;
+}
+
+Lines steps_in_transaction() {
+    return {"sqlite3_exec begin immediate;",
+            lookup,
+            lookup_of_number,
+            count,
+            std::string("sqlite3_exec ") + insertion,
+            "sqlite3_exec " + statements::registration_of_new(),
+            "sqlite3_exec commit;",
+            event};
+}
+
+Lines steps_at_once() {
+    Lines steps = statements::write_of("");
+    steps.pop_back();
+    append(steps, steps_in_transaction());
+    return steps;
+}
+
 TEST(Registration, of_a_new_one_has_a_fixed_order) {
     const Observer observer;
     EXPECT_EQ(DB_addinfo(sample_device()), sn);
-    const std::string lookup = "sqlite3_prepare_v2 select Dev_Sn  from DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';";
-    Lines expected{lookup};
-    for (int i = 1; i < 16; ++i) {
-        expected.insert(expected.end(), {"usleep 100", lookup});
-    }
-    expected.insert(expected.end(), {"sqlite3_prepare_v2 select *  from DevInfo where Dev_Sn='335653056';",
-                                     "sqlite3_prepare_v2 select *  from DevInfo;"});
-    append_write(expected, removal);
-    append_write(expected, insertion);
-    append_write(expected, statements::registration_of_new());
-    expected.emplace_back(event);
-    EXPECT_EQ(observer.steps(), expected);
+    EXPECT_EQ(observer.steps(), at_once ? steps_at_once() : steps_apart());
 }
 
 TEST(Registration, of_a_known_one_has_a_fixed_order) {
     insert_device("5", mac);
     const Observer observer;
     EXPECT_EQ(DB_addinfo(sample_device()), 5);
-    Lines expected{"sqlite3_prepare_v2 select Dev_Sn  from DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';",
-                   "sqlite3_prepare_v2 select Dev_Sn from  DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';",
-                   "sqlite3_prepare_v2 select *  from DevInfo;"};
-    append_write(expected, statements::registration_of_known());
+    Lines expected;
+    if (at_once) {
+        append_write(expected, "begin immediate;");
+        append(expected,
+               {lookup, count, "sqlite3_exec " + statements::registration_of_known(), "sqlite3_exec commit;"});
+    } else {
+        append(expected,
+               {lookup, "sqlite3_prepare_v2 select Dev_Sn from  DevInfo where Dev_MAC='00:1a:2b:3c:4d:5e';", count});
+        append_write(expected, statements::registration_of_known());
+    }
     expected.emplace_back(event_of_known);
     EXPECT_EQ(observer.steps(), expected);
 }
@@ -111,9 +158,9 @@ TEST(Registration, writes_under_mutex_and_lock_and_sends_the_event_without) {
     Holdings holdings(observer);
     DB_addinfo(sample_device("0"));
     Lines expected{"open lock file: mutex"};
-    for (int write = 0; write < 3; ++write) {
-        expected.insert(expected.end(), {"sqlite3_open /etc/config/systemconf/database/myrouter.db: mutex and lock",
-                                         "close lock file: mutex"});
+    for (int write = 0; write < (at_once ? 1 : 3); ++write) {
+        append(expected,
+               {"sqlite3_open /etc/config/systemconf/database/myrouter.db: mutex and lock", "close lock file: mutex"});
     }
     expected.push_back(std::string(event) + ": nothing");
     EXPECT_EQ(holdings.changes(), expected);
@@ -126,10 +173,14 @@ TEST(Registration, doubles_apostrophes_in_every_statement) {
     put(device, "Dev_Name", "'n");
     const Observer observer;
     EXPECT_EQ(DB_addinfo(device), sn);
-    EXPECT_EQ(observer.calls({"sqlite3_exec delete", "sqlite3_exec insert"}),
-              (Lines{"sqlite3_exec delete from DevInfo where Dev_MAC='m''';",
-                     "sqlite3_exec insert into DevInfo (Dev_Sn,Dev_Group,Dev_Name,Dev_MAC) "
-                     "values('335653056','g''','''n','m''') ;"}));
+    Lines expected;
+    if (!at_once) {
+        expected.emplace_back("sqlite3_exec delete from DevInfo where Dev_MAC='m''';");
+    }
+    expected.emplace_back(
+        "sqlite3_exec insert into DevInfo (Dev_Sn,Dev_Group,Dev_Name,Dev_MAC) "
+        "values('335653056','g''','''n','m''') ;");
+    EXPECT_EQ(observer.calls({"sqlite3_exec delete", "sqlite3_exec insert"}), expected);
     EXPECT_EQ(support::Database().rows("select Dev_MAC, Dev_Group, Dev_Name from DevInfo;"), Lines{"m'|g'|'n"});
 }
 
@@ -198,6 +249,7 @@ TEST(Registration, a_table_that_cannot_be_counted_counts_as_empty) {
         insert_device(std::to_string(i), std::to_string(i));
     }
     Observer observer;
+    observer.fail_transaction();
     support::fail_opening(observer, 18);
     EXPECT_EQ(DB_addinfo(sample_device()), sn);
     EXPECT_EQ(get_devinfo_count(), 21);

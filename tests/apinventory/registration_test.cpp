@@ -6,6 +6,7 @@
 #include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
 #include "support/database.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 
 namespace {
@@ -44,11 +45,19 @@ Lines rows() {
     return support::Database().rows("select Dev_Sn, Dev_MAC, Dev_Name from DevInfo order by Dev_Sn;");
 }
 
-/// Registers an access point. When its lookups are over, other rows appear.
+constexpr bool at_once = support::build_profile.registers_at_once;
+constexpr const char *count = support::build_profile.names_needed_columns
+                                  ? "sqlite3_prepare_v2 select 1 from DevInfo;"
+                                  : "sqlite3_prepare_v2 select *  from DevInfo;";
+
+/// Registers an access point. When its lookups are over, other rows appear, which takes that it is no transaction.
 int register_late(const DevInfo &reported, const std::function<void()> &appear) {
     Recorder recorder;
+    if (at_once) {
+        recorder.answer("sqlite3_open", {SQLITE_CANTOPEN});
+    }
     recorder.watch([&](const std::string &line) {
-        if (line == "sqlite3_prepare_v2 select *  from DevInfo;") {
+        if (line == count) {
             appear();
         }
     });
@@ -131,7 +140,7 @@ TEST(DbAddinfo, refuses_the_twenty_first_access_point) {
     const Lines before = rows();
     const Recorder recorder;
     EXPECT_EQ(DB_addinfo(device(mac, "192.168.1.20")), -1);
-    EXPECT_EQ(recorder.calls({"sqlite3_exec", "system"}), Lines());
+    EXPECT_EQ(recorder.calls({"sqlite3_exec delete", "sqlite3_exec insert", "sqlite3_exec update", "system"}), Lines());
     EXPECT_EQ(rows(), before);
 }
 
@@ -199,9 +208,11 @@ TEST(DbAddinfo, six_pairs_of_zeros_are_an_address) {
     const Recorder recorder;
     EXPECT_EQ(DB_addinfo(device("00:00:00:00:00:00", "192.168.1.20")), sn_of_address);
     EXPECT_EQ(rows(), Lines{"335653056|00:00:00:00:00:00|reported"});
-    EXPECT_EQ(recorder.calls({"sqlite3_exec delete"}),
-              (Lines{"sqlite3_exec delete from DevInfo where Dev_Sn='335653056';",
-                     "sqlite3_exec delete from DevInfo where Dev_MAC='00:00:00:00:00:00';"}));
+    Lines expected{"sqlite3_exec delete from DevInfo where Dev_Sn='335653056';"};
+    if (!at_once) {
+        expected.emplace_back("sqlite3_exec delete from DevInfo where Dev_MAC='00:00:00:00:00:00';");
+    }
+    EXPECT_EQ(recorder.calls({"sqlite3_exec delete"}), expected);
 }
 
 TEST(DbAddinfo, a_mac_address_in_two_rows_updates_both_under_the_number_0) {

@@ -21,6 +21,13 @@ namespace profiles {
 namespace {
 
 using support::Recorder;
+using Words = std::initializer_list<std::string_view>;
+
+// What one profile closes, or leaves to the program, is not among them.
+const Words everything_seen = {"open lock", "lock", "unlock", "close lock", "syslog", "system", "sqlite3_exec"};
+
+/// Of calls whose writes are one transaction in one profile: they lock and write in other steps.
+const Words all_but_writes = {"syslog", "system"};
 
 /// Makes calls and collects their outcomes.
 class Caller {
@@ -39,7 +46,9 @@ public:
 private:
     /// Makes one call.
     /// @param action  returns the call's result and its records as bytes
-    void call(const std::string &name, const std::function<std::string()> &action);
+    void call(const std::string &name, const std::function<std::string()> &action, Words noted = everything_seen);
+
+    void list_access_points(int convert);
 
     template <typename List>
     void build(int (*builder)(List *list, const char *sql), const char *table);
@@ -58,15 +67,14 @@ std::string without_escapes(std::string text) {
     return text;
 }
 
-void Caller::call(const std::string &name, const std::function<std::string()> &action) {
+void Caller::call(const std::string &name, const std::function<std::string()> &action, Words noted) {
     Recorder recorder;
     recorder.keep_commands_from_running();
     support::Streams streams;
     std::string seen = action();
     const auto said = streams.take();
     seen += "\n-- output --\n" + without_escapes(said.output) + "\n-- errors --\n" + said.error + "\n-- calls --\n";
-    for (const std::string &line :
-         recorder.calls({"open lock", "lock", "unlock", "close lock", "syslog", "system", "sqlite3_exec"})) {
+    for (const std::string &line : recorder.calls(noted)) {
         seen += line + "\n";
     }
     outcomes.push_back({name, seen});
@@ -92,6 +100,18 @@ DevInfo Caller::device() {
     return device;
 }
 
+void Caller::list_access_points(int convert) {
+    call("GetApDevList", [&] {
+        static ApDevList list;
+        std::string seen = std::to_string(FUNCTION(library_, GetApDevList)(&list, convert));
+        for (unsigned i = 0; i < list.count; ++i) {
+            seen += bytes_of(*list.devices[i]);
+        }
+        FUNCTION(library_, FreeApDevList)(&list);
+        return seen;
+    });
+}
+
 void Caller::read_access_points() {
     for (const int convert : {0, 1}) {
         call("DB_getinfo", [&] {
@@ -99,15 +119,7 @@ void Caller::read_access_points() {
             const int found = FUNCTION(library_, DB_getinfo)(&record, random_() % 4, convert);
             return std::to_string(found) + bytes_of(record);
         });
-        call("GetApDevList", [&] {
-            static ApDevList list;
-            std::string seen = std::to_string(FUNCTION(library_, GetApDevList)(&list, convert));
-            for (unsigned i = 0; i < list.count; ++i) {
-                seen += bytes_of(*list.devices[i]);
-            }
-            FUNCTION(library_, FreeApDevList)(&list);
-            return seen;
-        });
+        list_access_points(convert);
     }
     call("get_devinfo_count", [&] { return std::to_string(FUNCTION(library_, get_devinfo_count)()); });
     call("GetApDevList_count", [&] { return std::to_string(FUNCTION(library_, GetApDevList_count)()); });
@@ -125,7 +137,9 @@ void Caller::register_access_points() {
             const int result = FUNCTION(library_, DB_findinfo)(sought, &sn);
             return std::to_string(result) + " " + std::to_string(sn);
         });
-        call("DB_addinfo", [&] { return std::to_string(FUNCTION(library_, DB_addinfo)(device())); });
+        call(
+            "DB_addinfo", [&] { return std::to_string(FUNCTION(library_, DB_addinfo)(device())); }, all_but_writes);
+        list_access_points(0);
         call("DB_UpdateInfo", [&] { return std::to_string(FUNCTION(library_, DB_UpdateInfo)(device())); });
         call("DB_saveinfo", [&] {
             FUNCTION(library_, DB_saveinfo)(&sought);

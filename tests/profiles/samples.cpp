@@ -97,7 +97,7 @@ const std::vector<Call> &calls() {
         {"DB_savezerocfgwlangroupinfo", [] { return std::to_string(DB_savezerocfgwlangroupinfo({}, 0)); }, 2, 2, 1},
         // 16 lookups, that of the holder of the address, whose row is deleted, and for a registration the count
         {"DB_findinfo", find_stranger, 1, 17, 1},
-        {"DB_addinfo", [] { return std::to_string(DB_addinfo(stranger())); }, 4, 18, 1},
+        {"DB_addinfo", [] { return std::to_string(DB_addinfo(stranger())); }, 4, 18, 1, 3},
         {"GetUrlFilterItemListInServer",
          [] { return build(GetUrlFilterItemListInServer, "select * from filter_url;"); }, 0, 1, 1},
         {"GetMacFilterItemListInServer",

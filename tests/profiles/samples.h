@@ -19,6 +19,7 @@ struct Call : support::Named {
     std::size_t writes;              // each on a connection of its own
     std::size_t readings;            // connections for them where each has its own
     std::size_t shared_connections;  // for them where they share one to each database
+    std::size_t writes_at_once = 0;  // on one connection with all readings, where the profile registers at once
 };
 
 /// All of them. They do not depend on each other.
