@@ -47,14 +47,17 @@ void insert_row(const DevInfo &device, unsigned long sn) {
                         device.Dev_Group, device.Dev_Name, device.Dev_MAC));
 }
 
-void report(const DevInfo &device) {
+void report(const DevInfo &device, const char *group) {
     sqlite3_str *const sql = sqlite3_str_new(nullptr);
     sqlite3_str_appendall(sql, "update DevInfo set ");
     for_each_reported(
         device, [sql](const char *column, const char *value) { sqlite3_str_appendf(sql, " %s='%q',", column, value); });
-    sqlite3_str_appendf(sql, " Dev_Wlan_GroupId='0', Dev_Status='1',  Dev_Upgrade_Status='0'   where Dev_MAC='%q';",
-                        device.Dev_MAC);
+    sqlite3_str_appendf(sql, "%s Dev_Status='1',  Dev_Upgrade_Status='0'   where Dev_MAC='%q';", group, device.Dev_MAC);
     execute_and_free(sqlite3_str_finish(sql));
+}
+
+void announce() {
+    [[maybe_unused]] const int told = system("/bin/send_event 5 4 add#218212544 >/dev/null 2>&1 &");
 }
 
 }  // namespace
@@ -77,6 +80,10 @@ void register_device() {
     const DevInfo &device = desk.device;
     const unsigned long sn = inet_addr(device.Dev_Ipaddress);
     if (is_known(device)) {
+        count_rows_and_free(sqlite3_mprintf("select Dev_Sn from  DevInfo where Dev_MAC='%q';", device.Dev_MAC));
+        count_rows("select *  from DevInfo;");
+        report(device, "");
+        announce();
         return;
     }
     const int in_the_way = count_rows_and_free(sqlite3_mprintf("select *  from DevInfo where Dev_Sn='%lu';", sn));
@@ -84,8 +91,8 @@ void register_device() {
         return;
     }
     insert_row(device, sn);
-    report(device);
-    [[maybe_unused]] const int told = system("/bin/send_event 5 4 add#218212544 >/dev/null 2>&1 &");
+    report(device, " Dev_Wlan_GroupId='0',");
+    announce();
 }
 
 }  // namespace bench::bare

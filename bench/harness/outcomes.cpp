@@ -129,9 +129,13 @@ void restore_for_update(Variant variant) {
     std::strcpy(desk.device.Dev_Wlan_Channel, "6");
 }
 
-void restore_for_registration(Variant variant) {
+void restore_for_report(Variant variant) {
     restore(variant);
     bare::get_device_converted();
+}
+
+void restore_for_registration(Variant variant) {
+    restore_for_report(variant);
     sqlite3 *db = nullptr;
     sqlite3_open(paths::main_database, &db);
     sqlite3_exec(db, "delete from DevInfo where Dev_Sn='218212544';", nullptr, nullptr, nullptr);

@@ -37,6 +37,9 @@ void restore(Variant variant);
 /// The same, and puts a changed record of the known access point into `desk`.
 void restore_for_update(Variant variant);
 
+/// The same, and puts the record of the known access point into `desk`, as it would report itself.
+void restore_for_report(Variant variant);
+
 /// The same, and deletes the known access point, whose record `desk` has as it would report itself.
 void restore_for_registration(Variant variant);
 

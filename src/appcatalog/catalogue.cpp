@@ -37,14 +37,26 @@ Catalogue::Entry Catalogue::of_application(int class_id, std::string_view featur
     return Entry(*this, class_id, feature);
 }
 
-Catalogue::Class *Catalogue::known_class(int id) {
-    return classes_.find([id](const Class &known) { return known.id == id; });
+Catalogue::Class *Catalogue::known_class(int id) const {
+    return classes_.find(static_cast<std::uint32_t>(id), [id](const Class &known) { return known.id == id; });
+}
+
+const Catalogue::Application *Catalogue::known_application(const Class &owner, std::string_view feature) {
+    return owner.applications.find(key_of(feature),
+                                   [feature](const Application &known) { return known.texts[0] == feature; });
 }
 
 void Catalogue::remember_class(int id, const char *name, const char *name_en) {
-    if (Class *const known = classes_.add({view_of(name), view_of(name_en)})) {
+    if (Class *const known = classes_.add(static_cast<std::uint32_t>(id), {view_of(name), view_of(name_en)})) {
         known->id = id;
     }
+}
+
+/// Of applications with the same feature the first one counts.
+bool Catalogue::remember_application(Class &owner, const Row &row) {
+    const std::string_view feature = row.text(0);
+    return known_application(owner, feature) != nullptr ||
+           owner.applications.add(key_of(feature), {feature, row.text(1), row.text(2)}) != nullptr;
 }
 
 /// @return both names, null ones for an application that is not there; null for one that has to be looked up
@@ -59,8 +71,7 @@ const char *const *Catalogue::known_names(int class_id, std::string_view feature
     if (owner->state == State::not_knowable) {
         return nullptr;
     }
-    const Application *const found =
-        owner->applications.find([feature](const Application &known) { return known.texts[0] == feature; });
+    const Application *const found = known_application(*owner, feature);
     return found != nullptr ? found->texts + 1 : no_names;
 }
 
@@ -75,7 +86,7 @@ bool Catalogue::read_applications(Class &owner) {
     }
     while (reading.next_row()) {
         const Row row = reading.row();
-        if (!row.is_text(0) || owner.applications.add({row.text(0), row.text(1), row.text(2)}) == nullptr) {
+        if (!row.is_text(0) || !remember_application(owner, row)) {
             return false;
         }
     }

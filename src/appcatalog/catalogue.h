@@ -30,16 +30,18 @@ private:
         int id;
         State state;           // of the applications
         const char *texts[2];  // name, name in English; null for a class that is not there
-        Remembered<Application> applications;
+        RememberedByKey<Application> applications;
     };
 
-    Class *known_class(int id);
+    Class *known_class(int id) const;
     void remember_class(int id, const char *name, const char *name_en);
     const char *const *known_names(int class_id, std::string_view feature);
     bool read_applications(Class &owner);
+    static bool remember_application(Class &owner, const Row &row);
+    static const Application *known_application(const Class &owner, std::string_view feature);
 
     SharedConnection connection_;
-    Remembered<Class> classes_;
+    RememberedByKey<Class> classes_;
 };
 
 /// The two names of an entry, there as long as this and the catalogue live.

@@ -64,17 +64,24 @@ void NameJoiner::join(Joined column, int class_id, char *out) {
         return join_names(column, class_id, out, db_);
     }
     out[0] = '\0';
+    Class *const owner = known_class(class_id);
+    if (owner == nullptr) {
+        return;
+    }
     std::size_t length = 0;
     // Ends at the first name that does not fit.
-    applications_.find([&](const Application &application) {
-        return application.class_id == class_id &&
-               !append_name(out, length, application.texts[static_cast<unsigned>(column)]);
+    owner->applications.find([&](const Application &application) {
+        return !append_name(out, length, application.texts[static_cast<unsigned>(column)]);
     });
+}
+
+NameJoiner::Class *NameJoiner::known_class(int id) const {
+    return classes_.find(static_cast<std::uint32_t>(id), [id](const Class &known) { return known.id == id; });
 }
 
 /// @return whether all of them are there, their classes as numbers: others compare in ways of their own
 bool NameJoiner::read_applications() {
-    if (!applications_.enabled) {
+    if (!classes_.enabled) {
         return false;
     }
     Backoff backoff(FirstDelay::microseconds_50);
@@ -96,12 +103,16 @@ bool NameJoiner::remember(const Row &row) {
     if (!row.is_int(0)) {
         return false;
     }
-    Application *const entry =
-        applications_.add({catalogue_text(row, 1), catalogue_text(row, 2), catalogue_text(row, 3)});
-    if (entry != nullptr) {
-        entry->class_id = row.number(0);
+    const int id = row.number(0);
+    Class *owner = known_class(id);
+    if (owner == nullptr) {
+        owner = classes_.add(static_cast<std::uint32_t>(id));
+        if (owner == nullptr) {
+            return false;
+        }
+        owner->id = id;
     }
-    return entry != nullptr;
+    return owner->applications.add({catalogue_text(row, 1), catalogue_text(row, 2), catalogue_text(row, 3)}) != nullptr;
 }
 
 }  // namespace routerdb

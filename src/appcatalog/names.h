@@ -29,17 +29,21 @@ public:
 
 private:
     struct Application {
-        int class_id;
         const char *texts[joined_columns];
+    };
+    struct Class {
+        int id;
+        Remembered<Application> applications;
     };
     enum class State : std::uint8_t { not_read, known, not_knowable };
 
     bool read_applications();
     bool remember(const Row &row);
+    Class *known_class(int id) const;
 
     sqlite3 *db_;
     State state_ = State::not_read;
-    Remembered<Application> applications_;
+    RememberedByKey<Class> classes_;
 };
 
 }  // namespace routerdb

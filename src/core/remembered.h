@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 #include <string_view>
@@ -92,5 +93,59 @@ private:
     Node *first_ = nullptr;
     Node **end_ = &first_;
 };
+
+/// The same, found by a key: a search passes few other entries, however many there are. It looks at one bit of the key
+/// after the other, from the lowest, so that ids may be keys as they are, and texts are hashed.
+template <typename Entry>
+class RememberedByKey {
+public:
+    static constexpr bool enabled = Remembered<Entry>::enabled;
+
+    /// The first entry that matches among those with the key, and some others; null without one.
+    template <typename Matches>
+    Entry *find(std::uint32_t key, Matches matches) const {
+        Branch *branch = root_;
+        while (branch != nullptr && !matches(*branch)) {
+            branch = branch->next[key & 1U];
+            key >>= 1U;
+        }
+        return branch;
+    }
+
+    /// Make entries as Remembered does.
+    /// @return null without memory
+    Entry *add(std::uint32_t key) { return put(key, entries_.add()); }
+
+    template <std::size_t count>
+    Entry *add(std::uint32_t key, const std::string_view (&texts)[count]) {
+        return put(key, entries_.add(texts));
+    }
+
+private:
+    struct Branch : Entry {
+        Branch *next[2];
+    };
+
+    Entry *put(std::uint32_t key, Branch *added) {
+        Branch **place = &root_;
+        for (; *place != nullptr; key >>= 1U) {
+            place = &(*place)->next[key & 1U];
+        }
+        *place = added;
+        return added;
+    }
+
+    Remembered<Branch> entries_;
+    Branch *root_ = nullptr;
+};
+
+/// A text as a key.
+constexpr std::uint32_t key_of(std::string_view text) {
+    std::uint32_t key = 2166136261U;  // FNV-1a
+    for (const char letter : text) {
+        key = (key ^ static_cast<unsigned char>(letter)) * 16777619U;
+    }
+    return key;
+}
 
 }  // namespace routerdb

@@ -19,7 +19,7 @@ constexpr char leases[] = "/var/dhcp.leases";
 
 /// The calls that remember, and how many blocks they take for it.
 const std::map<std::string, int> remembering{
-    {"GetAppClassItemList", 3},           // applications
+    {"GetAppClassItemList", 5},           // two classes, three applications
     {"GetUrlFilterItemListInServer", 1},  // a time group
     {"GetMacFilterItemListInServer", 2},  // leases
     {"GetBehaviorItemListInServer", 9},   // both groups, leases, two classes, three applications

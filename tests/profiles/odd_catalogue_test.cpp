@@ -54,6 +54,24 @@ TEST_F(OddCatalogue, numbers_in_a_column_without_a_type_belong_to_no_class) {
     EXPECT_EQ(names_of("3:f1"), "C:text");
 }
 
+TEST_F(OddCatalogue, of_applications_with_one_feature_the_first_one_counts) {
+    for (const char *name : {"first", "second", "third"}) {
+        add("3", name, "'f1'");
+    }
+    EXPECT_EQ(names_of("3:f1?f1"), "C:first?first");
+    EXPECT_EQ(joined_names(), "first/second/third/");
+}
+
+TEST_F(OddCatalogue, applications_of_classes_in_turn_keep_their_order) {
+    for (const char *name : {"c", "a", "b"}) {
+        add("3", name, std::string("'f") + name + "'");
+        add("4", std::string("not ") + name, "''");
+        add("7", std::string("nor ") + name, "''");
+    }
+    EXPECT_EQ(joined_names(), "c/a/b/");
+    EXPECT_EQ(names_of("3:fb?fc"), "C:b?c");
+}
+
 TEST_F(OddCatalogue, texts_in_a_column_of_texts_belong_to_the_class_with_these_digits) {
     retype("text", "text");
     for (const char *class_id : {"'3'", "'03'", "' 3'", "'3.0'", "3"}) {

@@ -122,8 +122,8 @@ TEST(Condition, that_is_not_plain_sends_nothing_where_conditions_are_checked) {
         EXPECT_EQ(requests, std::vector<std::string>{plain});
     } else {
         EXPECT_EQ(log, std::vector<std::string>{});
-        EXPECT_EQ(requests, (std::vector<std::string>{"2 2 32 delete from filter_url where 1;",
-                                                      "2 2 42 delete from filter_url where id=1 or 1=1;", plain}));
+        EXPECT_EQ(requests, (std::vector<std::string>{"2 2 31 delete from filter_url where 1;",
+                                                      "2 2 41 delete from filter_url where id=1 or 1=1;", plain}));
     }
 }
 
