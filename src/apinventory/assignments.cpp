@@ -1,6 +1,7 @@
 #include "apinventory/assignments.h"
 
 #include "apinventory/numbers.h"
+#include "core/call_errno.h"
 #include "core/enum_order.h"
 
 namespace routerdb {
@@ -109,6 +110,7 @@ void Assignments::append_converted(std::string_view ssid) const {
     char in[sizeof(DevWlanEntry::Ssid) + 1];
     copy_cut(ssid, in, sizeof(in));
     char out[ROUTERDB_CONVERSION_ROOM];
+    const CallErrno untold;
     // Deliberate: an SSID that cannot be converted is written empty.
     const bool converted = convert(*converter_, in, ssid.size(), out, sizeof(out)) == 0;
     sql_.append_quoted(converted ? out : "", quotes_);

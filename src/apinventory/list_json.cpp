@@ -115,6 +115,9 @@ void print_rows(Reading &reading, const PageRequest &request, int matches, const
     EndText end;
     append_end(end, page_numbers(request, matches, list.count()), totals);
     list.close_in_one_piece(end.c_str());
+    if (!list.complete()) {
+        reading.call().fail(ENOMEM);
+    }
 }
 
 }  // namespace

@@ -100,6 +100,8 @@ bool write_at_once(const DevInfo &device, Text &sql, unsigned long &sn, bool &wr
 bool take_memory(Text &sql) {
     const bool taken = sql.reserve(report_size);
     if (!taken) {
+        CallErrno call;
+        call.fail(ENOMEM);
         syslog(LOG_ERR, "not have enough mem");
     }
     return taken;

@@ -59,6 +59,9 @@ void print_rows(Reading &reading) {
         list.print(reading.row());
     }
     list.close(list.count());
+    if (!list.complete()) {
+        reading.call().fail(ENOMEM);
+    }
 }
 
 }  // namespace

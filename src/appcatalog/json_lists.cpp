@@ -46,6 +46,9 @@ void print_rows(const ListSpec &spec, json::Keys keys, Reading &reading, const c
         list.print(reading.row(), given);
     }
     list.close(spec.count == Count::of_table ? table_count : list.count(), spec.closing_blank);
+    if (!list.complete()) {
+        reading.call().fail(ENOMEM);
+    }
 }
 
 void append_query(Text &sql, const char *query, bool by_number, const char *argument, const ListSpec &spec) {

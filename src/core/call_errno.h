@@ -11,28 +11,30 @@ namespace routerdb {
 /// another one end before it, and it does not know of them: whoever wants to hand a failure on says so.
 class CallErrno {
 public:
-    CallErrno() : before_(errno) {}
+    CallErrno() : before_(tells ? errno : 0) {}
     CallErrno(const CallErrno &) = delete;
     CallErrno &operator=(const CallErrno &) = delete;
     ~CallErrno() {
-        if (build_profile.tells_failures) {
+        if (tells) {
             errno = reason_ != 0 ? reason_ : before_;
         }
     }
 
     /// The first reason counts.
     void fail(int reason) {
-        if (reason_ == 0) {
+        if (tells && reason_ == 0) {
             reason_ = reason;
         }
     }
 
 private:
+    static constexpr bool tells = build_profile.tells_failures;
+
     int before_;
     int reason_ = 0;
 };
 
 /// The reason that a result code of SQLite stands for.
-int errno_of(int sqlite_code);
+[[gnu::const]] int errno_of(int sqlite_code);
 
 }  // namespace routerdb

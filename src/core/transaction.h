@@ -37,6 +37,7 @@ private:
 /// @return whether what it did is there; if not, nothing of it is
 template <typename Body>
 [[nodiscard]] bool run_as_transaction(const ExecuteProfile &profile, Body body) {
+    const CallErrno untold;  // whoever does it in another way then tells
     Access access(profile.access);
     if (!open_as(access, profile)) {
         return false;

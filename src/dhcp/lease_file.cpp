@@ -57,14 +57,6 @@ void ask_server_to_write(const char *pid_file) {
     usleep(time_to_write);
 }
 
-FILE *open_for_reading(const char *path) {
-    FILE *stream = std::fopen(path, "r");
-    if (stream == nullptr) {
-        std::perror("could not open input file");
-    }
-    return stream;
-}
-
 }  // namespace
 
 int read_pid(const char *path) {
@@ -81,7 +73,11 @@ void hold_open(const char *path) {
 
 LeaseFile::LeaseFile(const char *path, const char *pid_file) : stream_(nullptr) {
     ask_server_to_write(pid_file);
-    stream_ = open_for_reading(path);
+    stream_ = std::fopen(path, "r");
+    if (stream_ == nullptr) {
+        call_.fail(errno);
+        std::perror("could not open input file");
+    }
 }
 
 LeaseFile::~LeaseFile() {

@@ -3,6 +3,8 @@
 
 #include <cstdio>
 
+#include "core/call_errno.h"
+
 namespace routerdb {
 
 /// The number on the first line of a file; -1 if it cannot be opened.
@@ -26,6 +28,7 @@ public:
     FILE *stream() const { return stream_; }
 
 private:
+    CallErrno call_;
     FILE *stream_;
 };
 

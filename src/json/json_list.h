@@ -96,6 +96,9 @@ public:
     /// Prints an element all of whose values are given.
     void print(const std::string_view *given) { print(Row(nullptr), given); }
 
+    /// Whether memory has sufficed so far.
+    bool complete() const { return text_.complete(); }
+
     /// Elements so far.
     int count() const { return count_; }
 

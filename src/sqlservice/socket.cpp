@@ -17,7 +17,7 @@ namespace routerdb {
 
 namespace {
 
-constexpr std::int64_t patience_ms = 10'000;
+constexpr int patience_ms = 10'000;
 
 std::int64_t milliseconds() {
     timespec now{};
@@ -59,12 +59,12 @@ bool Socket::arm(int option) {
     if (spent < at_once) {
         return true;
     }
-    const std::int64_t left = patience_ms - spent;
-    if (left <= 0) {
+    if (spent >= patience_ms) {
         errno = EAGAIN;
         return false;
     }
-    const timeval time{static_cast<time_t>(left / 1000), static_cast<suseconds_t>(left % 1000 * 1000)};
+    const int left = patience_ms - static_cast<int>(spent);  // 32-bit processors divide it by themselves
+    const timeval time{left / 1000, left % 1000 * 1000};
     setsockopt(fd_, SOL_SOCKET, option, &time, sizeof(time));
     return true;
 }

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstring>
 #include <functional>
 
 #include "routerdb.h"
@@ -150,6 +151,41 @@ TEST(ErrnoOfAList, tells_that_more_rows_are_there_than_it_takes) {
                   std::vector<std::string>{
                       "syslog 3 DevInfo has more rows than a list of 1000 takes, the rest is left out\n"});
     }
+}
+
+/// What a call leaves that finds E2BIG there, or E2BIG where failures are not told so.
+int left_by(const std::function<void()> &call) {
+    int reason = 0;
+    Recorder recorder;
+    recorder.keep_commands_from_running();
+    support::streams_of([&] {
+        errno = E2BIG;
+        call();
+        reason = errno;
+    });
+    return support::build_profile.tells_failures ? reason : E2BIG;
+}
+
+TEST(ErrnoOfLeases, tells_of_a_file_that_is_not_there) {
+    char hostname[128];
+    int leases = 0;
+    LeaseNode *head = nullptr;
+    const int missing = support::build_profile.tells_failures ? ENOENT : E2BIG;
+    EXPECT_EQ(left_by([&] { get_hostname_by_mac_from_lease("06", hostname, "/var/none", "/var/none"); }), missing);
+    EXPECT_EQ(left_by([&] { leases = get_addrserver_leases_sql(&head, "/var/none", "/var/none"); }), missing);
+    EXPECT_EQ(leases, 0);
+    support::write_file("/var/leases", "1 06 10.0.0.1 host\n");
+    EXPECT_EQ(left_by([&] { get_hostname_by_mac_from_lease("06", hostname, "/var/leases", "/var/none"); }), E2BIG);
+    EXPECT_STREQ(hostname, "host");
+}
+
+TEST(ErrnoOfARegistration, does_not_tell_of_an_ssid_that_is_no_gb2312) {
+    DevInfo device{};
+    std::strcpy(device.Dev_MAC, "00:11:22:33:44:55");
+    std::strcpy(device.Dev_Ipaddress, "10.0.0.1");
+    std::strcpy(device.Dev_Wlan_Radio_Num, "2");
+    std::strcpy(device.wlan[1].Ssid, "\xff\xff");
+    EXPECT_EQ(left_by([&] { EXPECT_EQ(DB_addinfo(device), 16777226); }), E2BIG);
 }
 
 }  // namespace
