@@ -2,6 +2,8 @@
 
 #include <strings.h>
 
+#include <cstring>
+
 namespace routerdb {
 
 namespace {
@@ -57,17 +59,13 @@ public:
     }
 
     bool take_comparison() {
-        if (take('=')) {
-            take('=');
-            return true;
+        constexpr char comparisons[][3] = {"==", "=", "!=", "<>", "<=", "<", ">=", ">"};  // the longer ones first
+        for (const char *comparison : comparisons) {
+            if (begins_with(comparison)) {
+                return advance(std::strlen(comparison));
+            }
         }
-        if (take('!')) {
-            return take('=');
-        }
-        if (take('<')) {
-            return take('>') || take('=') || true;
-        }
-        return take('>') && (take('=') || true);
+        return false;
     }
 
     /// 'it''s', 17, -1
@@ -84,6 +82,10 @@ private:
         while (!rest_.empty() && is_blank(rest_.front())) {
             rest_.remove_prefix(1);
         }
+    }
+
+    bool begins_with(std::string_view text) const {
+        return rest_.size() >= text.size() && std::memcmp(rest_.data(), text.data(), text.size()) == 0;
     }
 
     std::string_view next_name() const {
