@@ -11,7 +11,6 @@
 namespace {
 
 using routerdb::key_of;
-using routerdb::Remembered;
 using routerdb::RememberedByKey;
 
 struct Entry {

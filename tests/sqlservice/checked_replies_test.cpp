@@ -17,7 +17,6 @@
 
 namespace {
 
-using support::Conversation;
 using support::Exchange;
 using support::FakeService;
 using support::words;
@@ -30,6 +29,9 @@ struct Platform {
 };
 
 thread_local Platform *platform;  // of the caller; the service has the real one
+
+constexpr std::size_t longest_reply = 1048576;
+constexpr std::size_t longest_scalar = 65536;
 
 constexpr bool checked = support::build_profile.checks_replies;
 
@@ -73,15 +75,15 @@ TEST(CheckedReply, that_is_one_leaves_errno_alone) {
 
 TEST(CheckedReply, of_more_than_a_mebibyte_is_none) {
     Platform plain;
-    EXPECT_EQ(exchange_on(plain, support::reply_of(std::string(1024 * 1024, 'x'))).result, 0);
-    expect_checked(exchange_on(plain, support::reply_of(std::string(1024 * 1024 + 1, 'x'))), EPROTO,
+    EXPECT_EQ(exchange_on(plain, support::reply_of(std::string(longest_reply, 'x'))).result, 0);
+    expect_checked(exchange_on(plain, support::reply_of(std::string(longest_reply + 1, 'x'))), EPROTO,
                    "recv header from sql socket server fail: Protocol error\n");
 }
 
 TEST(CheckedReply, to_a_question_of_more_than_64_kibibytes_is_none) {
     Platform plain;
-    EXPECT_EQ(exchange_on(plain, support::reply_of(std::string(64 * 1024, ' ')), ROUTERDB_TABLE_SCALAR).result, 0);
-    expect_checked(exchange_on(plain, support::reply_of(std::string(64 * 1024 + 1, ' ')), ROUTERDB_TABLE_SCALAR),
+    EXPECT_EQ(exchange_on(plain, support::reply_of(std::string(longest_scalar, ' ')), ROUTERDB_TABLE_SCALAR).result, 0);
+    expect_checked(exchange_on(plain, support::reply_of(std::string(longest_scalar + 1, ' ')), ROUTERDB_TABLE_SCALAR),
                    EPROTO, "recv header from sql socket server fail: Protocol error\n");
 }
 
