@@ -64,7 +64,7 @@ bool Socket::arm(int option) {
         return false;
     }
     const int left = patience_ms - static_cast<int>(spent);  // 32-bit processors divide it by themselves
-    const timeval time{left / 1000, left % 1000 * 1000};
+    const timeval time{left / 1000, left % 1000 * 1000L};
     setsockopt(fd_, SOL_SOCKET, option, &time, sizeof(time));
     return true;
 }

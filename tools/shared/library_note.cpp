@@ -47,6 +47,7 @@ int find_in_file(dl_phdr_info *file, std::size_t /*size*/, void *found) {
         if (segment.p_type != PT_NOTE) {
             continue;
         }
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the platform has addresses as numbers here
         const auto *const first = reinterpret_cast<const char *>(file->dlpi_addr + segment.p_vaddr);
         if (const char *const text = find_note(first, segment.p_memsz)) {
             *static_cast<const char **>(found) = text;
