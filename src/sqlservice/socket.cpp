@@ -53,7 +53,7 @@ bool Socket::create() {
 /// The time-outs count for one call each. Where replies are checked they count for all calls together: one that comes
 /// later than at once has what is left.
 /// @return false when nothing is left
-bool Socket::arm(int option) {
+bool Socket::arm() {
     constexpr std::int64_t at_once = 100;
     const std::int64_t spent = build_profile.checks_replies ? milliseconds() - begun_ : 0;
     if (spent < at_once) {
@@ -65,7 +65,7 @@ bool Socket::arm(int option) {
     }
     const int left = patience_ms - static_cast<int>(spent);  // 32-bit processors divide it by themselves
     const timeval time{left / 1000, left % 1000 * 1000L};
-    setsockopt(fd_, SOL_SOCKET, option, &time, sizeof(time));
+    setsockopt(fd_, SOL_SOCKET, SO_RCVTIMEO, &time, sizeof(time));
     return true;
 }
 
@@ -96,7 +96,7 @@ bool Socket::connect() {
 }
 
 bool Socket::send(const void *data, std::size_t size) {
-    const ssize_t sent = arm(SO_SNDTIMEO) ? ::send(fd_, data, size, 0) : -1;
+    const ssize_t sent = ::send(fd_, data, size, 0);
     if (!build_profile.checks_replies || sent == -1) {
         return sent != -1;
     }
@@ -105,7 +105,7 @@ bool Socket::send(const void *data, std::size_t size) {
 }
 
 ssize_t Socket::receive(void *data, std::size_t size) {
-    return arm(SO_RCVTIMEO) ? recv(fd_, data, size, 0) : -1;
+    return arm() ? recv(fd_, data, size, 0) : -1;
 }
 
 }  // namespace routerdb

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] ssize_t receive(void *data, std::size_t size);
 
 private:
-    bool arm(int option);
+    bool arm();
 
     int fd_ = -1;
     std::int64_t begun_ = 0;  // milliseconds of a clock that nobody sets
