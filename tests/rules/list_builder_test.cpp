@@ -1,6 +1,5 @@
 // The list builders: what they call, wait for, say and leave.
 #include <dlfcn.h>
-#include <gmock/gmock-matchers.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -70,7 +69,8 @@ TEST_P(Builder, more_rows_than_a_list_holds_are_cut_where_lists_are_capped) {
         EXPECT_EQ(reason, EOVERFLOW);
         const Lines log = recorder.calls({"syslog"});
         ASSERT_EQ(log.size(), 1U);
-        EXPECT_THAT(log[0], testing::EndsWith(" has more rows than a list of 128 takes, the rest is left out\n"));
+        const std::size_t name_end = log[0].find(' ', std::string("syslog 3 ").size());
+        EXPECT_EQ(log[0].substr(name_end), " has more rows than a list of 128 takes, the rest is left out\n");
     }
 }
 
