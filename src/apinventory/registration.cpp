@@ -112,9 +112,8 @@ bool take_memory(Text &sql) {
 Road::Matches Road::count(const Text &sql) const {
     Matches found{false, 0};
     unsigned long number = 0;
-    found.succeeded = transaction_ != nullptr
-                          ? transaction_->count(sql, found.count, number)
-                          : routerdb::count(profiles::exec_char_int, sql, found.count, readings_) == 0;
+    found.succeeded = alone() ? transaction()->count(sql, found.count, number)
+                              : routerdb::count(profiles::exec_char_int, sql, found.count, readings_) == 0;
     return found;
 }
 
@@ -123,9 +122,9 @@ Road::Matches Road::find(const DevInfo &device, unsigned long &sn) const {
     lookup.append("select Dev_Sn  from DevInfo where Dev_MAC=");
     append_mac(lookup, device);
     lookup.append(";");
-    if (transaction_ != nullptr) {
+    if (alone()) {
         Matches found{false, 0};
-        found.succeeded = transaction_->count(lookup, found.count, sn);
+        found.succeeded = transaction()->count(lookup, found.count, sn);
         return found;
     }
     const Matches found = count(lookup);
@@ -136,8 +135,8 @@ Road::Matches Road::find(const DevInfo &device, unsigned long &sn) const {
 }
 
 int Road::run(const Text &sql) const {
-    if (transaction_ != nullptr) {
-        return transaction_->execute(sql) ? 0 : -1;
+    if (alone()) {
+        return transaction()->execute(sql) ? 0 : -1;
     }
     return execute(profiles::exec_char, sql);
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "build_profile.h"
 #include "core/shared_connection.h"
 #include "core/transaction.h"
 #include "routerdb.h"
@@ -24,7 +25,7 @@ public:
     explicit Road(Transaction &transaction) : transaction_(&transaction) {}
 
     /// Whether nobody else writes meanwhile.
-    bool alone() const { return transaction_ != nullptr; }
+    bool alone() const { return transaction() != nullptr; }
 
     /// What came of a query.
     struct Matches {
@@ -43,6 +44,9 @@ public:
     int run(const Text &sql) const;
 
 private:
+    /// Null where registrations are written statement by statement.
+    Transaction *transaction() const { return build_profile.registers_at_once ? transaction_ : nullptr; }
+
     SharedConnection *readings_ = nullptr;
     Transaction *transaction_ = nullptr;
 };

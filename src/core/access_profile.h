@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "build_profile.h"
 #include "core/backoff.h"
 #include "core/confinement.h"
 #include "core/connection.h"
@@ -78,9 +79,20 @@ constexpr ReadProfile AccessProfile::when_not_prepared(Message told) const {
 
 namespace profiles {
 
-/// A profile of the library's own texts, for callers': `for_callers<exec_char>`.
 template <const auto &profile>
-inline constexpr auto for_callers = profile.for_callers();
+inline constexpr auto copy_for_callers = profile.for_callers();
+
+/// A profile of the library's own texts, for callers': `for_callers<exec_char>`. It is the same one where texts are not
+/// confined.
+template <const auto &profile>
+inline constexpr const auto &for_callers = []() -> const auto & {
+    if constexpr (build_profile.confines_texts) {
+        return copy_for_callers<profile>;
+    } else {
+        return profile;
+    }
+}
+();
 
 /// What most readers do: no lock, and not a word.
 inline constexpr AccessProfile unguarded{};
