@@ -54,8 +54,17 @@ struct BuildProfile {
     /// A list takes as many records as it has room for, whatever the database or the service has.
     bool caps_lists = careful;
 
-    /// A reply that ends early, is too long, comes too late or from a stranger is a failure.
+    /// A service that runs as a stranger is not asked.
+    bool checks_service = careful;
+
+    /// A request of which only a part could be sent is a failure.
+    bool checks_sends = careful;
+
+    /// A reply that ends early, or is too long, is a failure.
     bool checks_replies = careful;
+
+    /// Ten seconds are for a request and its reply together, instead of for each call.
+    bool limits_exchange = careful;
 
     /// A call that fails says why in errno, and one that does not leaves it alone.
     bool tells_failures = careful;

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "appcatalog/catalogue_text.h"
+
 namespace routerdb {
 
 namespace {
@@ -12,7 +14,7 @@ constexpr ReadProfile entries =
     unguarded.on(Database::catalogue).when_not_opened(error_on_output).when_not_prepared(error_on_output);
 
 // Nothing is said here: an application that is not known afterwards is looked up by itself, and that lookup says it.
-constexpr ReadProfile applications_of_class = unguarded.on(Database::catalogue).when_not_prepared(no_message);
+constexpr ReadProfile all_applications = unguarded.on(Database::catalogue).when_not_prepared(no_message);
 
 /// The names of what is known not to be there.
 constexpr const char *no_names[2] = {nullptr, nullptr};
@@ -20,6 +22,11 @@ constexpr const char *no_names[2] = {nullptr, nullptr};
 /// Whether comparing its bytes finds a feature as the statement does: a quote in it would be part of the statement.
 bool is_plain(std::string_view feature) {
     return std::memchr(feature.data(), '\'', feature.size()) == nullptr;
+}
+
+/// The same feature may be in many classes.
+std::uint32_t key_of(int class_id, std::string_view feature) {
+    return routerdb::key_of(feature) ^ static_cast<std::uint32_t>(class_id);
 }
 
 /// A text that may not be there.
@@ -37,13 +44,14 @@ Catalogue::Entry Catalogue::of_application(int class_id, std::string_view featur
     return Entry(*this, class_id, feature);
 }
 
-Catalogue::Class *Catalogue::known_class(int id) const {
+const Catalogue::Class *Catalogue::known_class(int id) const {
     return classes_.find(static_cast<std::uint32_t>(id), [id](const Class &known) { return known.id == id; });
 }
 
-const Catalogue::Application *Catalogue::known_application(const Class &owner, std::string_view feature) {
-    return owner.applications.find(key_of(feature),
-                                   [feature](const Application &known) { return known.texts[0] == feature; });
+const Catalogue::Application *Catalogue::known_application(int class_id, std::string_view feature) const {
+    return applications_.find(key_of(class_id, feature), [class_id, feature](const Application &known) {
+        return known.class_id == class_id && known.texts[0] == feature;
+    });
 }
 
 void Catalogue::remember_class(int id, const char *name, const char *name_en) {
@@ -53,40 +61,46 @@ void Catalogue::remember_class(int id, const char *name, const char *name_en) {
 }
 
 /// Of applications with the same feature the first one counts.
-bool Catalogue::remember_application(Class &owner, const Row &row) {
-    const std::string_view feature = row.text(0);
-    return known_application(owner, feature) != nullptr ||
-           owner.applications.add(key_of(feature), {feature, row.text(1), row.text(2)}) != nullptr;
+bool Catalogue::remember_application(const Row &row) {
+    const int class_id = row.number(0);
+    const std::string_view feature = row.text(3);
+    if (known_application(class_id, feature) != nullptr) {
+        return true;
+    }
+    Application *const added = applications_.add(key_of(class_id, feature), {feature, row.text(1), row.text(2)});
+    if (added != nullptr) {
+        added->class_id = class_id;
+    }
+    return added != nullptr;
 }
 
 /// @return both names, null ones for an application that is not there; null for one that has to be looked up
 const char *const *Catalogue::known_names(int class_id, std::string_view feature) {
-    Class *const owner = known_class(class_id);
-    if (owner == nullptr || !is_plain(feature)) {
+    // Who asks for one application alone has not asked for its class.
+    if (known_class(class_id) == nullptr || !is_plain(feature)) {
         return nullptr;
     }
-    if (owner->state == State::not_read) {
-        owner->state = read_applications(*owner) ? State::known : State::not_knowable;
+    if (state_ == State::not_read) {
+        state_ = read_applications() ? State::known : State::not_knowable;
     }
-    if (owner->state == State::not_knowable) {
+    if (state_ == State::not_knowable) {
         return nullptr;
     }
-    const Application *const found = known_application(*owner, feature);
+    const Application *const found = known_application(class_id, feature);
     return found != nullptr ? found->texts + 1 : no_names;
 }
 
-/// @return whether all of them are there, their features as texts: others compare in ways of their own
-bool Catalogue::read_applications(Class &owner) {
+/// @return whether all of them are there, their classes as numbers and their features as texts: others compare in ways
+///         of their own
+bool Catalogue::read_applications() {
     const CallErrno untold;  // the lookup by itself tells
-    StackText<96> sql;
-    sql.append("select Features,Name,Name_En from App_Info where Class_Id=").append_quoted(long{owner.id}).append(";");
-    Reading reading(applications_of_class, &connection_);
-    if (reading.start(sql) != Start::ready) {
+    Reading reading(all_applications, &connection_);
+    if (reading.start(every_application) != Start::ready) {
         return false;
     }
     while (reading.next_row()) {
         const Row row = reading.row();
-        if (!row.is_text(0) || !remember_application(owner, row)) {
+        if (!row.is_int(0) || !row.is_text(3) || !remember_application(row)) {
             return false;
         }
     }

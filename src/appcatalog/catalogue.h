@@ -11,8 +11,8 @@
 namespace routerdb {
 
 /// The catalogue during one call: its connection, and what has been read of it where the build profile remembers
-/// lookups. The applications of a class are read at once when the first of them is asked for: a list of rules asks for
-/// most of them.
+/// lookups. The applications are read at once when the first of them is asked for: there is no index, so that looking
+/// one up passes all of them.
 class Catalogue {
 public:
     class Entry;
@@ -22,26 +22,27 @@ public:
     Entry of_application(int class_id, std::string_view feature);
 
 private:
+    struct Class {
+        int id;
+        const char *texts[2];  // name, name in English; null for a class that is not there
+    };
     struct Application {
+        int class_id;
         const char *texts[3];  // feature, name, name in English
     };
     enum class State : std::uint8_t { not_read, known, not_knowable };
-    struct Class {
-        int id;
-        State state;           // of the applications
-        const char *texts[2];  // name, name in English; null for a class that is not there
-        RememberedByKey<Application> applications;
-    };
 
-    Class *known_class(int id) const;
+    const Class *known_class(int id) const;
     void remember_class(int id, const char *name, const char *name_en);
     const char *const *known_names(int class_id, std::string_view feature);
-    bool read_applications(Class &owner);
-    static bool remember_application(Class &owner, const Row &row);
-    static const Application *known_application(const Class &owner, std::string_view feature);
+    bool read_applications();
+    bool remember_application(const Row &row);
+    const Application *known_application(int class_id, std::string_view feature) const;
 
     SharedConnection connection_;
     RememberedByKey<Class> classes_;
+    RememberedByKey<Application> applications_;
+    State state_ = State::not_read;  // of the applications
 };
 
 /// The two names of an entry, there as long as this and the catalogue live.

@@ -1,4 +1,4 @@
-// Texts of the application catalogue.
+// What is read of the application catalogue.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,11 @@
 #include "text/text.h"
 
 namespace routerdb {
+
+/// All applications with their classes. The condition leaves out what no class's number would equal as the text that it
+/// is where the applications of one class are asked for.
+inline constexpr char every_application[] =
+    "select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;";
 
 /// Callers have never seen more bytes of a text.
 inline constexpr std::uint8_t longest_catalogue_text = 199;

@@ -86,9 +86,7 @@ bool NameJoiner::read_applications() {
     }
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
-    // The condition leaves out what no class's number would equal as the text that it is in the statement above.
-    if (!statement.prepare(db_, "select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;",
-                           backoff, no_message)) {
+    if (!statement.prepare(db_, every_application, backoff, no_message)) {
         return false;
     }
     while (statement.next_row(backoff)) {

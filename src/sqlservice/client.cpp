@@ -57,8 +57,8 @@ private:
     int receive_data();
     bool receive_all(char *data);
     bool announces_too_much() const;
+    static bool is_protocol_error();
     int fail(Step step);
-    int fail(Step step, int reason);
 
     CallErrno call_;
     Socket socket_;
@@ -67,6 +67,14 @@ private:
     const RecordArea *area_;
 };
 
+/// Whether a flaw of a reply counts: errno says EPROTO then. Otherwise it stays what it was, which the reports show.
+bool Exchange::is_protocol_error() {
+    if (build_profile.checks_replies) {
+        errno = EPROTO;
+    }
+    return build_profile.checks_replies;
+}
+
 /// Each failure is reported twice, with the system's reason on standard error.
 int Exchange::fail(Step step) {
     call_.fail(errno == EAGAIN ? ETIMEDOUT : errno);  // what a time-out is for callers
@@ -74,11 +82,6 @@ int Exchange::fail(Step step) {
     std::perror(failure);
     syslog(LOG_ERR, "%s!\n", failure);
     return -1;
-}
-
-int Exchange::fail(Step step, int reason) {
-    errno = reason;
-    return fail(step);
 }
 
 /// Connects and sends the request.
@@ -124,11 +127,10 @@ bool Exchange::receive_all(char *data) {
         if (count < 0) {
             return false;
         }
-        if (count == 0 && build_profile.checks_replies) {
-            errno = EPROTO;
-            return false;
-        }
         if (count == 0) {
+            if (is_protocol_error()) {
+                return false;
+            }
             std::memset(data + received, 0, missing);
             break;
         }
@@ -144,19 +146,14 @@ int Exchange::receive_data() {
         return fail(Step::allocate);
     }
     if (!receive_all(static_cast<char *>(data))) {
-        const int reason = errno;
         release(data, area_);
-        return fail(Step::receive_data, reason);
+        return fail(Step::receive_data);
     }
     reply_.data = data;
     return 0;
 }
 
-/// Whether what is announced is no reply.
 bool Exchange::announces_too_much() const {
-    if (!build_profile.checks_replies) {
-        return false;
-    }
     const std::int32_t longest = request_.table_id == ROUTERDB_TABLE_SCALAR ? longest_scalar : longest_reply;
     return reply_.size < 0 || reply_.size > longest;
 }
@@ -164,11 +161,10 @@ bool Exchange::announces_too_much() const {
 int Exchange::receive_reply() {
     reply_ = {};
     const ssize_t received = socket_.receive(&reply_, wire::header_size);
-    if (received != static_cast<ssize_t>(wire::header_size)) {
-        return received < 0 ? fail(Step::receive_header) : fail(Step::receive_header, EPROTO);
-    }
-    if (announces_too_much()) {
-        return fail(Step::receive_header, EPROTO);
+    const bool whole = received == static_cast<ssize_t>(wire::header_size);
+    const bool flawed = received >= 0 && (!whole || announces_too_much()) && is_protocol_error();
+    if (flawed || !whole) {
+        return fail(Step::receive_header);
     }
     if (reply_.size >= 1) {
         return receive_data();

@@ -19,9 +19,10 @@ namespace {
 
 constexpr int patience_ms = 10'000;
 
+/// Of a clock that nobody sets, where it is asked for.
 std::int64_t milliseconds() {
     timespec now{};
-    if (build_profile.checks_replies) {
+    if (build_profile.limits_exchange) {
         clock_gettime(CLOCK_MONOTONIC, &now);
     }
     return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1'000'000;
@@ -50,12 +51,13 @@ bool Socket::create() {
     return true;
 }
 
-/// The time-outs count for one call each. Where replies are checked they count for all calls together: one that comes
-/// later than at once has what is left.
+/// The time-outs count for one call each. Where the build profile limits the exchange they count for all calls
+/// together: one that comes later than at once has what is left.
+/// @param time_out  SO_SNDTIMEO or SO_RCVTIMEO
 /// @return false when nothing is left
-bool Socket::arm() {
+bool Socket::limit(int time_out) {
     constexpr std::int64_t at_once = 100;
-    const std::int64_t spent = build_profile.checks_replies ? milliseconds() - begun_ : 0;
+    const std::int64_t spent = milliseconds() - begun_;
     if (spent < at_once) {
         return true;
     }
@@ -65,12 +67,12 @@ bool Socket::arm() {
     }
     const int left = patience_ms - static_cast<int>(spent);  // 32-bit processors divide it by themselves
     const timeval time{left / 1000, left % 1000 * 1000L};
-    setsockopt(fd_, SOL_SOCKET, SO_RCVTIMEO, &time, sizeof(time));
+    setsockopt(fd_, SOL_SOCKET, time_out, &time, sizeof(time));
     return true;
 }
 
 bool Socket::serves_this_caller() const {
-    if (!build_profile.checks_replies) {
+    if (!build_profile.checks_service) {
         return true;
     }
     ucred peer{};
@@ -92,12 +94,13 @@ bool Socket::connect() {
     constexpr std::size_t path_length = sizeof(paths::service_socket) - 1;
     constexpr socklen_t length = offsetof(sockaddr_un, sun_path) + path_length;
     std::memcpy(address.sun_path, paths::service_socket, path_length);
-    return ::connect(fd_, reinterpret_cast<const sockaddr *>(&address), length) != -1;
+    // What follows is sent at once, or waits for the service with the text: the limit before both is enough.
+    return ::connect(fd_, reinterpret_cast<const sockaddr *>(&address), length) != -1 && limit(SO_SNDTIMEO);
 }
 
 bool Socket::send(const void *data, std::size_t size) {
     const ssize_t sent = ::send(fd_, data, size, 0);
-    if (!build_profile.checks_replies || sent == -1) {
+    if (!build_profile.checks_sends || sent == -1) {
         return sent != -1;
     }
     errno = EIO;  // for what could not be sent whole
@@ -105,7 +108,7 @@ bool Socket::send(const void *data, std::size_t size) {
 }
 
 ssize_t Socket::receive(void *data, std::size_t size) {
-    return arm() ? recv(fd_, data, size, 0) : -1;
+    return limit(SO_RCVTIMEO) ? recv(fd_, data, size, 0) : -1;
 }
 
 }  // namespace routerdb

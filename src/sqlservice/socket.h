@@ -26,7 +26,7 @@ public:
     /// or the owner of the main database. errno says EACCES otherwise.
     bool serves_this_caller() const;
 
-    /// One send; where replies are not checked, a short one counts as success. The caller holds SIGPIPE back.
+    /// One send; where sends are not checked, a short one counts as success. The caller holds SIGPIPE back.
     [[nodiscard]] bool send(const void *data, std::size_t size);
 
     /// One receive.
@@ -34,10 +34,10 @@ public:
     [[nodiscard]] ssize_t receive(void *data, std::size_t size);
 
 private:
-    bool arm();
+    bool limit(int time_out);
 
     int fd_ = -1;
-    std::int64_t begun_ = 0;  // milliseconds of a clock that nobody sets
+    std::int64_t begun_ = 0;
 };
 
 }  // namespace routerdb

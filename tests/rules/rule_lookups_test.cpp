@@ -98,7 +98,7 @@ TEST(BehaviorBuilder, looks_up_groups_then_the_host_then_names) {
     }
     expected.emplace_back(
         build_profile.remembers_lookups
-            ? "sqlite3_prepare_v2 select Features,Name,Name_En from App_Info where Class_Id='3';"
+            ? "sqlite3_prepare_v2 select Class_Id,Name,Name_En,Features from App_Info where Class_Id=''||Class_Id;"
             : "sqlite3_prepare_v2 select Name,Name_En from App_Info where Class_Id='3' and Features='f1';");
     expected.insert(expected.end(), {"sqlite3_close", "sqlite3_close", "unlock", "close lock file"});
     EXPECT_EQ(recorder.calls({"open lock", "close lock", "lock", "unlock", "sqlite3_open", "sqlite3_prepare",

@@ -33,7 +33,7 @@ thread_local Platform *platform;  // of the caller; the service has the real one
 constexpr std::size_t longest_reply = 1048576;
 constexpr std::size_t longest_scalar = 65536;
 
-constexpr bool checked = support::build_profile.checks_replies;
+using support::build_profile;
 
 /// One exchange on a platform.
 struct Outcome {
@@ -58,7 +58,8 @@ Outcome exchange_on(Platform &there, const std::string &reply, std::uint32_t tab
     return outcome;
 }
 
-void expect_checked(const Outcome &outcome, int reason, const char *message) {
+/// Expects a failure where the build profile checks, and success elsewhere.
+void expect_checked(bool checked, const Outcome &outcome, int reason, const char *message) {
     EXPECT_EQ(outcome.result, checked ? -1 : 0);
     EXPECT_EQ(outcome.error, checked ? message : "");
     if (checked) {
@@ -76,23 +77,25 @@ TEST(CheckedReply, that_is_one_leaves_errno_alone) {
 TEST(CheckedReply, of_more_than_a_mebibyte_is_none) {
     Platform plain;
     EXPECT_EQ(exchange_on(plain, support::reply_of(std::string(longest_reply, 'x'))).result, 0);
-    expect_checked(exchange_on(plain, support::reply_of(std::string(longest_reply + 1, 'x'))), EPROTO,
+    expect_checked(build_profile.checks_replies,
+                   exchange_on(plain, support::reply_of(std::string(longest_reply + 1, 'x'))), EPROTO,
                    "recv header from sql socket server fail: Protocol error\n");
 }
 
 TEST(CheckedReply, to_a_question_of_more_than_64_kibibytes_is_none) {
     Platform plain;
     EXPECT_EQ(exchange_on(plain, support::reply_of(std::string(longest_scalar, ' ')), ROUTERDB_TABLE_SCALAR).result, 0);
-    expect_checked(exchange_on(plain, support::reply_of(std::string(longest_scalar + 1, ' ')), ROUTERDB_TABLE_SCALAR),
+    expect_checked(build_profile.checks_replies,
+                   exchange_on(plain, support::reply_of(std::string(longest_scalar + 1, ' ')), ROUTERDB_TABLE_SCALAR),
                    EPROTO, "recv header from sql socket server fail: Protocol error\n");
 }
 
 TEST(CheckedReply, that_announces_2_gibibytes_costs_no_memory) {
-    if (!checked) {
+    if (!build_profile.checks_replies) {
         return;
     }
     Platform plain;
-    expect_checked(exchange_on(plain, words({0, 0, 0x7fffffff})), EPROTO,
+    expect_checked(build_profile.checks_replies, exchange_on(plain, words({0, 0, 0x7fffffff})), EPROTO,
                    "recv header from sql socket server fail: Protocol error\n");
 }
 
@@ -100,7 +103,7 @@ TEST(CheckedReply, breaks_off_inside_its_header_with_a_reason) {
     Platform plain;
     const Outcome outcome = exchange_on(plain, "short");
     EXPECT_EQ(outcome.result, -1);
-    if (checked) {
+    if (build_profile.checks_replies) {
         EXPECT_EQ(outcome.reason, EPROTO);
     }
 }
@@ -108,7 +111,7 @@ TEST(CheckedReply, breaks_off_inside_its_header_with_a_reason) {
 TEST(CheckedReply, of_a_stranger_is_not_asked_for) {
     Platform strange;
     strange.peer = 4711;
-    expect_checked(exchange_on(strange, support::reply_of("data")), EACCES,
+    expect_checked(build_profile.checks_service, exchange_on(strange, support::reply_of("data")), EACCES,
                    "cannot connect sql socket client: Permission denied\n");
 }
 
@@ -122,16 +125,24 @@ TEST(CheckedReply, of_the_owner_of_the_database_is_taken) {
 
 TEST(CheckedReply, has_ten_seconds_in_all) {
     Platform slow;
-    slow.clock = {{100, 0}, {104, 500'000'000}, {109, 0}};
+    slow.clock = {{100, 0}, {100, 0}, {104, 500'000'000}, {109, 0}};
     const Outcome outcome = exchange_on(slow, support::reply_of("data"));
     EXPECT_EQ(outcome.result, 0);
-    EXPECT_EQ(slow.receive_timeouts, (checked ? std::vector<long>{10'000, 5'500, 1'000} : std::vector<long>{10'000}));
+    EXPECT_EQ(slow.receive_timeouts,
+              (build_profile.limits_exchange ? std::vector<long>{10'000, 5'500, 1'000} : std::vector<long>{10'000}));
+}
+
+TEST(CheckedReply, is_not_asked_for_when_connecting_has_taken_the_time) {
+    Platform slow;
+    slow.clock = {{100, 0}, {110, 0}};
+    expect_checked(build_profile.limits_exchange, exchange_on(slow, support::reply_of("data")), ETIMEDOUT,
+                   "cannot connect sql socket client: Resource temporarily unavailable\n");
 }
 
 TEST(CheckedReply, that_takes_longer_is_none) {
     Platform slow;
-    slow.clock = {{100, 0}, {100, 0}, {110, 0}};
-    expect_checked(exchange_on(slow, support::reply_of("data")), ETIMEDOUT,
+    slow.clock = {{100, 0}, {100, 0}, {100, 0}, {110, 0}};
+    expect_checked(build_profile.limits_exchange, exchange_on(slow, support::reply_of("data")), ETIMEDOUT,
                    "recv data from sql socket server fail: Resource temporarily unavailable\n");
 }
 

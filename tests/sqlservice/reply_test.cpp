@@ -167,7 +167,7 @@ TEST(SqlclientCmd, reads_the_size_again_after_each_piece) {
     EXPECT_EQ(recorder.calls({"recv"}), (Lines{"recv 12 0", "recv 10 0"}));
 }
 
-TEST(SqlclientCmd, short_sends_are_neither_detected_nor_repeated_unless_replies_are_checked) {
+TEST(SqlclientCmd, short_sends_are_neither_detected_nor_repeated_unless_sends_are_checked) {
     for (const int n : {1, 2}) {
         const FakeService service(
             Conversation{{support::reply_of("data")}, n == 1 ? Hearing::none : Hearing::header_only});
@@ -176,8 +176,8 @@ TEST(SqlclientCmd, short_sends_are_neither_detected_nor_repeated_unless_replies_
         WrappedCalls calls;
         calls.shorten_send(n, 5);
         errno = 0;
-        EXPECT_EQ(exchange.send(), support::build_profile.checks_replies ? -1 : 0);
-        if (support::build_profile.checks_replies) {
+        EXPECT_EQ(exchange.send(), support::build_profile.checks_sends ? -1 : 0);
+        if (support::build_profile.checks_sends) {
             EXPECT_EQ(errno, EIO);
             EXPECT_EQ(recorder.calls({"send"}), (n == 1 ? Lines{"send 5 0"} : Lines{"send 12 0", "send 5 0"}));
             continue;
