@@ -8,9 +8,12 @@
 #include <string_view>
 
 #include "build_profile.h"
-#include "text/text.h"
 
 namespace routerdb {
+
+/// The bytes that copies of texts take, and the copies. A text that has no address takes one byte and has no copy.
+std::size_t room_for(const std::string_view *texts, std::size_t count);
+void copy_texts(const std::string_view *texts, std::size_t count, char *place, const char **copies);
 
 /// Entries on the heap, in the order in which they came, gone with the call. A lookup that failed is not to be
 /// remembered: the next one may succeed. Where the build profile does not remember lookups it is always empty.
@@ -53,22 +56,9 @@ public:
     /// @return null without memory
     template <std::size_t count>
     Entry *add(const std::string_view (&texts)[count]) {
-        std::size_t room = 0;
-        for (const std::string_view text : texts) {
-            room += text.size() + 1;
-        }
-        Entry *const entry = make(room);
-        if (entry == nullptr) {
-            return nullptr;
-        }
-        char *place = reinterpret_cast<char *>(entry + 1);
-        for (std::size_t index = 0; index < count; ++index) {
-            const std::string_view text = texts[index];
-            if (text.data() != nullptr) {
-                copy_cut(text, place, text.size() + 1);
-                entry->texts[index] = place;
-            }
-            place += text.size() + 1;
+        Entry *const entry = make(room_for(texts, count));
+        if (entry != nullptr) {
+            copy_texts(texts, count, reinterpret_cast<char *>(entry + 1), entry->texts);
         }
         return entry;
     }

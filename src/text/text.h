@@ -86,10 +86,10 @@ private:
 template <std::size_t size>
 class StackText : public Text {
 public:
-    StackText() : Text(buffer_, size) {}
+    StackText() : Text(reinterpret_cast<char *>(buffer_), size) {}
 
 private:
-    char buffer_[size];
+    unsigned char buffer_[size];  // behind link-time optimisation GCC does not guard functions with arrays of char
 };
 
 /// A statement: 2560 bytes hold most of them.
