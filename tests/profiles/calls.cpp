@@ -1,20 +1,15 @@
 #include "profiles/calls.h"
 
-#include <dlfcn.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstring>
 #include <functional>
-#include <stdexcept>
 
 #include "profiles/random_databases.h"
 #include "routerdb.h"
 #include "support/recorder.h"
 #include "support/streams.h"
-
-// The exported function of a library that has a name.
-#define FUNCTION(library, name) (library).get<decltype(name)>(#name)
 
 namespace profiles {
 
@@ -103,11 +98,11 @@ DevInfo Caller::device() {
 void Caller::list_access_points(int convert) {
     call("GetApDevList", [&] {
         static ApDevList list;
-        std::string seen = std::to_string(FUNCTION(library_, GetApDevList)(&list, convert));
+        std::string seen = std::to_string(LIBRARY_FUNCTION(library_, GetApDevList)(&list, convert));
         for (unsigned i = 0; i < list.count; ++i) {
             seen += bytes_of(*list.devices[i]);
         }
-        FUNCTION(library_, FreeApDevList)(&list);
+        LIBRARY_FUNCTION(library_, FreeApDevList)(&list);
         return seen;
     });
 }
@@ -116,13 +111,13 @@ void Caller::read_access_points() {
     for (const int convert : {0, 1}) {
         call("DB_getinfo", [&] {
             DevInfo record{};
-            const int found = FUNCTION(library_, DB_getinfo)(&record, random_() % 4, convert);
+            const int found = LIBRARY_FUNCTION(library_, DB_getinfo)(&record, random_() % 4, convert);
             return std::to_string(found) + bytes_of(record);
         });
         list_access_points(convert);
     }
-    call("get_devinfo_count", [&] { return std::to_string(FUNCTION(library_, get_devinfo_count)()); });
-    call("GetApDevList_count", [&] { return std::to_string(FUNCTION(library_, GetApDevList_count)()); });
+    call("get_devinfo_count", [&] { return std::to_string(LIBRARY_FUNCTION(library_, get_devinfo_count)()); });
+    call("GetApDevList_count", [&] { return std::to_string(LIBRARY_FUNCTION(library_, GetApDevList_count)()); });
 }
 
 void Caller::register_access_points() {
@@ -130,19 +125,20 @@ void Caller::register_access_points() {
         const DevInfo sought = device();
         unsigned long sn = 9;
         call("DB_findinfo2", [&] {
-            const int result = FUNCTION(library_, DB_findinfo2)(sought, &sn);
+            const int result = LIBRARY_FUNCTION(library_, DB_findinfo2)(sought, &sn);
             return std::to_string(result) + " " + std::to_string(sn);
         });
         call("DB_findinfo", [&] {
-            const int result = FUNCTION(library_, DB_findinfo)(sought, &sn);
+            const int result = LIBRARY_FUNCTION(library_, DB_findinfo)(sought, &sn);
             return std::to_string(result) + " " + std::to_string(sn);
         });
         call(
-            "DB_addinfo", [&] { return std::to_string(FUNCTION(library_, DB_addinfo)(device())); }, all_but_writes);
+            "DB_addinfo", [&] { return std::to_string(LIBRARY_FUNCTION(library_, DB_addinfo)(device())); },
+            all_but_writes);
         list_access_points(0);
-        call("DB_UpdateInfo", [&] { return std::to_string(FUNCTION(library_, DB_UpdateInfo)(device())); });
+        call("DB_UpdateInfo", [&] { return std::to_string(LIBRARY_FUNCTION(library_, DB_UpdateInfo)(device())); });
         call("DB_saveinfo", [&] {
-            FUNCTION(library_, DB_saveinfo)(&sought);
+            LIBRARY_FUNCTION(library_, DB_saveinfo)(&sought);
             return std::string();
         });
     }
@@ -153,34 +149,35 @@ void Caller::read_groups() {
         DevInfo group{};
         const auto both = [&group](int result) { return std::to_string(result) + bytes_of(group); };
         call("DB_getwlangroupinfoByindex",
-             [&] { return both(FUNCTION(library_, DB_getwlangroupinfoByindex)(&group, number())); });
+             [&] { return both(LIBRARY_FUNCTION(library_, DB_getwlangroupinfoByindex)(&group, number())); });
         call("DB_getwlanzerocfggroupinfo",
-             [&] { return both(FUNCTION(library_, DB_getwlanzerocfggroupinfo)(&group)); });
+             [&] { return both(LIBRARY_FUNCTION(library_, DB_getwlanzerocfggroupinfo)(&group)); });
         call("DB_getwlanzerocfggroupinfoByindex",
-             [&] { return both(FUNCTION(library_, DB_getwlanzerocfggroupinfoByindex)(&group, number())); });
+             [&] { return both(LIBRARY_FUNCTION(library_, DB_getwlanzerocfggroupinfoByindex)(&group, number())); });
         call("GetWlanZeroCfgGroupInfo", [&] {
-            return both(FUNCTION(library_, GetWlanZeroCfgGroupInfo)(&group, std::to_string(number()).c_str()));
+            return both(LIBRARY_FUNCTION(library_, GetWlanZeroCfgGroupInfo)(&group, std::to_string(number()).c_str()));
         });
         call("DB_savezerocfgwlangroupinfo",
-             [&] { return both(FUNCTION(library_, DB_savezerocfgwlangroupinfo)(device(), number())); });
+             [&] { return both(LIBRARY_FUNCTION(library_, DB_savezerocfgwlangroupinfo)(device(), number())); });
     }
 }
 
 void Caller::print_lists() {
     for (int n = 0; n < 6; ++n) {
         call("GetApDevList_cgi", [&] {
-            const int result = FUNCTION(library_, GetApDevList_cgi)(number(), number(), number(), number(), "1", "A",
-                                                                    static_cast<int>(random_() % 6));
+            const int result = LIBRARY_FUNCTION(library_, GetApDevList_cgi)(number(), number(), number(), number(), "1",
+                                                                            "A", static_cast<int>(random_() % 6));
             return std::to_string(result);
         });
     }
     const std::string id = std::to_string(number());
-    call("GetWlanZeroCfgGroupList", [&] { return std::to_string(FUNCTION(library_, GetWlanZeroCfgGroupList)()); });
-    call("GetAppClassItemList", [&] { return std::to_string(FUNCTION(library_, GetAppClassItemList)()); });
-    call("GetAppClassItem", [&] { return std::to_string(FUNCTION(library_, GetAppClassItem)(id.c_str())); });
-    call("GetAppInfoItem", [&] { return std::to_string(FUNCTION(library_, GetAppInfoItem)(id.c_str())); });
+    call("GetWlanZeroCfgGroupList",
+         [&] { return std::to_string(LIBRARY_FUNCTION(library_, GetWlanZeroCfgGroupList)()); });
+    call("GetAppClassItemList", [&] { return std::to_string(LIBRARY_FUNCTION(library_, GetAppClassItemList)()); });
+    call("GetAppClassItem", [&] { return std::to_string(LIBRARY_FUNCTION(library_, GetAppClassItem)(id.c_str())); });
+    call("GetAppInfoItem", [&] { return std::to_string(LIBRARY_FUNCTION(library_, GetAppInfoItem)(id.c_str())); });
     call("GetAppInfoItemListByClassid",
-         [&] { return std::to_string(FUNCTION(library_, GetAppInfoItemListByClassid)(id.c_str())); });
+         [&] { return std::to_string(LIBRARY_FUNCTION(library_, GetAppInfoItemListByClassid)(id.c_str())); });
 }
 
 template <typename List>
@@ -193,13 +190,13 @@ void Caller::build(int (*builder)(List *list, const char *sql), const char *tabl
 }
 
 void Caller::build_lists() {
-    build(FUNCTION(library_, GetBehaviorItemListInServer), "behavior_rule");
-    build(FUNCTION(library_, GetUrlFilterItemListInServer), "filter_url");
-    build(FUNCTION(library_, GetMacFilterItemListInServer), "filter_mac");
-    build(FUNCTION(library_, GetIpFilterItemListInServer), "filter_ipport");
-    build(FUNCTION(library_, GetQosItemListInServer), "qos_rule");
-    build(FUNCTION(library_, GetTimeGroupItemListInServer), "user_timegroup");
-    build(FUNCTION(library_, GetDhcpStaticItemListInServer), "dhcpserverstaticbind");
+    build(LIBRARY_FUNCTION(library_, GetBehaviorItemListInServer), "behavior_rule");
+    build(LIBRARY_FUNCTION(library_, GetUrlFilterItemListInServer), "filter_url");
+    build(LIBRARY_FUNCTION(library_, GetMacFilterItemListInServer), "filter_mac");
+    build(LIBRARY_FUNCTION(library_, GetIpFilterItemListInServer), "filter_ipport");
+    build(LIBRARY_FUNCTION(library_, GetQosItemListInServer), "qos_rule");
+    build(LIBRARY_FUNCTION(library_, GetTimeGroupItemListInServer), "user_timegroup");
+    build(LIBRARY_FUNCTION(library_, GetDhcpStaticItemListInServer), "dhcpserverstaticbind");
 }
 
 void Caller::look_names_up() {
@@ -207,27 +204,13 @@ void Caller::look_names_up() {
         call("GetBehaviorItemInfoTypeName " + behavior, [&] {
             char names[16384] = "";
             char names_en[16384] = "";
-            FUNCTION(library_, GetBehaviorItemInfoTypeName)(behavior.c_str(), names, names_en);
+            LIBRARY_FUNCTION(library_, GetBehaviorItemInfoTypeName)(behavior.c_str(), names, names_en);
             return std::string(names) + "|" + names_en;
         });
     }
 }
 
 }  // namespace
-
-Library::Library(const char *path) : handle_(dlopen(path, RTLD_NOW | RTLD_LOCAL)) {
-    if (handle_ == nullptr) {
-        throw std::runtime_error(dlerror());
-    }
-}
-
-void *Library::find(const char *name) const {
-    void *const function = dlsym(handle_, name);
-    if (function == nullptr) {
-        throw std::runtime_error(dlerror());
-    }
-    return function;
-}
 
 std::vector<Outcome> make_calls(const Library &library, std::mt19937 &random) {
     Caller caller(library, random);

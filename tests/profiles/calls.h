@@ -1,28 +1,13 @@
-// One library of several, and calls of all its functions that a profile may make in a way of its own.
+// Calls of all functions that a profile may make in a way of its own.
 #pragma once
 
 #include <random>
 #include <string>
 #include <vector>
 
+#include "profiles/library.h"
+
 namespace profiles {
-
-/// A library that is loaded by its path.
-class Library {
-public:
-    explicit Library(const char *path);
-
-    /// An exported function; throws std::runtime_error without it.
-    template <typename Function>
-    Function *get(const char *name) const {
-        return reinterpret_cast<Function *>(find(name));
-    }
-
-private:
-    void *find(const char *name) const;
-
-    void *handle_;
-};
 
 /// A call, and all that its caller sees of it: result, records, output, messages, locks, writes and commands.
 struct Outcome {
