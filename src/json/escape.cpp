@@ -18,15 +18,6 @@ bool is_plain(unsigned byte) {
     return byte >= ' ' && byte < 0x80 && byte != '"' && byte != '\\';
 }
 
-/// How many plain characters a text begins with.
-std::size_t plain_run(std::string_view text) {
-    std::size_t size = 0;
-    while (is_plain(byte_at(text, size))) {
-        ++size;
-    }
-    return size;
-}
-
 /// The bytes of a character that begins with `lead`; 0 where none does.
 std::size_t character_size(unsigned lead) {
     if (lead < 0xc2 || lead > 0xf4) {  // 0xc0 and 0xc1 would begin what is ASCII
@@ -51,6 +42,23 @@ std::size_t bytes_there(std::string_view text, std::size_t size) {
     return there;
 }
 
+/// How many bytes a text begins with that go out as they are: plain ones, and characters that are there as a whole.
+std::size_t run_as_it_is(std::string_view text) {
+    std::size_t size = 0;
+    while (true) {
+        const unsigned byte = byte_at(text, size);
+        if (is_plain(byte)) {
+            ++size;
+            continue;
+        }
+        const std::size_t wide = character_size(byte);
+        if (wide == 0 || bytes_there({text.data() + size, text.size() - size}, wide) != wide) {
+            return size;
+        }
+        size += wide;
+    }
+}
+
 void append_escape(Text &text, char character) {
     constexpr char named[] = {'"', '\\', '\b', '\f', '\n', '\r', '\t'};
     constexpr char names[] = {'"', '\\', 'b', 'f', 'n', 'r', 't'};
@@ -64,28 +72,27 @@ void append_escape(Text &text, char character) {
     }
 }
 
-/// Appends what a text begins with, which is not plain.
-/// @return how many bytes it has
-std::size_t append_first(Text &text, std::string_view value) {
-    if (byte_at(value, 0) < 0x80) {
+/// Appends something in the place of what a text begins with.
+/// @return in the place of how many bytes
+std::size_t append_substitute(Text &text, std::string_view value) {
+    const unsigned byte = byte_at(value, 0);
+    if (byte < 0x80) {
         append_escape(text, value[0]);
         return 1;
     }
-    const std::size_t size = character_size(byte_at(value, 0));
-    const std::size_t there = bytes_there(value, size);
-    text.append(there == size ? std::string_view(value.data(), size) : std::string_view(replacement));
-    return there;
+    text.append(replacement);
+    return bytes_there(value, character_size(byte));
 }
 
 }  // namespace
 
 void append_escaped(Text &text, std::string_view value) {
     while (!value.empty()) {
-        const std::size_t plain = plain_run(value);
-        text.append({value.data(), plain});
-        value.remove_prefix(plain);
+        const std::size_t run = run_as_it_is(value);
+        text.append({value.data(), run});
+        value.remove_prefix(run);
         if (!value.empty()) {
-            value.remove_prefix(append_first(text, value));
+            value.remove_prefix(append_substitute(text, value));
         }
     }
 }
