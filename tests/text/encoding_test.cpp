@@ -6,6 +6,7 @@
 
 #include "routerdb.h"
 #include "support/deliberate_leak.h"
+#include "support/named.h"
 #include "support/profile.h"
 #include "support/recorder.h"
 
@@ -48,15 +49,6 @@ std::string repeated(const std::string &piece, int count) {
     return text;
 }
 
-/// The converters of a conversion that succeeds and of one that does not.
-Lines calls_of_success_and_failure(const std::string &open_call) {
-    Lines calls{open_call, "iconv_close", open_call};
-    if (build_profile.closes_its_own) {
-        calls.emplace_back("iconv_close");
-    }
-    return calls;
-}
-
 TEST(Utf8ToGb2312, converts) {
     expect(utf8togb2312, utf8, 0, gb2312);
     expect(utf8togb2312, "plain", 0, "plain");
@@ -89,31 +81,6 @@ TEST(Utf8ToGb2312, writes_up_to_2048_bytes_whatever_the_size_of_the_buffer) {
     const Conversion too_long = convert(utf8togb2312, longest + "yz", 2050, 10);
     EXPECT_EQ(too_long.result, -1);
     EXPECT_EQ(too_long.bytes.substr(0, 2049), longest + "~");
-}
-
-TEST(Utf8ToGb2312, closes_its_converter_after_a_failure_as_the_profile_says) {
-    const support::DeliberateLeak converter;
-    Recorder recorder;
-    expect(utf8togb2312, utf8, 0, gb2312);
-    EXPECT_EQ(recorder.calls(), (Lines{"iconv_open gb2312 utf-8", "iconv_close"}));
-    expect(utf8togb2312, "\xff", -1, "");
-    EXPECT_EQ(recorder.calls(), calls_of_success_and_failure("iconv_open gb2312 utf-8"));
-}
-
-TEST(Utf8ToGb2312, logs_a_null_converter_and_touches_nothing) {
-    Recorder recorder;
-    recorder.answer("iconv_open", {0});
-    const Conversion conversion = convert(utf8togb2312, utf8, std::strlen(utf8));
-    EXPECT_EQ(conversion.result, -1);
-    EXPECT_EQ(conversion.text, repeated("~", room));
-    EXPECT_EQ(recorder.calls(), (Lines{"iconv_open gb2312 utf-8", "syslog 3 error1\n"}));
-}
-
-TEST(Utf8ToGb2312, a_missing_conversion_is_a_silent_failure) {
-    Recorder recorder;
-    recorder.answer("iconv_open", {-1});
-    expect(utf8togb2312, utf8, -1, "");
-    EXPECT_EQ(recorder.calls(), Lines{"iconv_open gb2312 utf-8"});
 }
 
 TEST(Gb2312ToUtf8, converts) {
@@ -156,29 +123,60 @@ TEST(Gb2312ToUtf8, writes_up_to_2048_bytes_whatever_the_size_of_the_buffer) {
     EXPECT_EQ(convert(gb2312toutf8, repeated("x", 2049), 2049, 10).result, -1);
 }
 
-TEST(Gb2312ToUtf8, closes_its_converter_after_a_failure_as_the_profile_says) {
+/// A direction: its calls, and what becomes of texts.
+struct Direction : support::Named {
+    Function function;
+    std::string open_call;
+    std::string message;  // without a converter
+    std::string in;
+    std::string out;
+    std::string out_of_failure;  // of the text "\xff"
+    std::string out_of_missing;  // of `in` where there is no such conversion
+};
+
+class EachDirection : public testing::TestWithParam<Direction> {};
+
+TEST_P(EachDirection, closes_its_converter_after_a_failure_as_the_profile_says) {
+    const Direction &direction = GetParam();
+    const std::string &open_call = direction.open_call;
     const support::DeliberateLeak converter;
     Recorder recorder;
-    expect(gb2312toutf8, gb2312, 0, utf8);
-    EXPECT_EQ(recorder.calls(), (Lines{"iconv_open utf-8 gb2312", "iconv_close"}));
-    expect(gb2312toutf8, "\xff", -1, "\xff");
-    EXPECT_EQ(recorder.calls(), calls_of_success_and_failure("iconv_open utf-8 gb2312"));
+    expect(direction.function, direction.in, 0, direction.out);
+    EXPECT_EQ(recorder.calls(), (Lines{open_call, "iconv_close"}));
+    expect(direction.function, "\xff", -1, direction.out_of_failure);
+    EXPECT_EQ(recorder.calls(),
+              (build_profile.closes_its_own ? Lines{open_call, "iconv_close", open_call, "iconv_close"}
+                                            : Lines{open_call, "iconv_close", open_call}));
 }
 
-TEST(Gb2312ToUtf8, logs_a_null_converter_and_touches_nothing) {
+TEST_P(EachDirection, logs_a_null_converter_and_touches_nothing) {
     Recorder recorder;
     recorder.answer("iconv_open", {0});
-    const Conversion conversion = convert(gb2312toutf8, gb2312, std::strlen(gb2312));
+    const Conversion conversion = convert(GetParam().function, GetParam().in, GetParam().in.size());
     EXPECT_EQ(conversion.result, -1);
     EXPECT_EQ(conversion.text, repeated("~", room));
-    EXPECT_EQ(recorder.calls(), (Lines{"iconv_open utf-8 gb2312", "syslog 3 gb2312toutf8 error1\n"}));
+    EXPECT_EQ(recorder.calls(), (Lines{GetParam().open_call, GetParam().message}));
 }
 
-TEST(Gb2312ToUtf8, a_missing_conversion_gives_the_input_back_silently) {
+TEST_P(EachDirection, fails_silently_where_there_is_no_such_conversion) {
     Recorder recorder;
     recorder.answer("iconv_open", {-1});
-    expect(gb2312toutf8, gb2312, -1, gb2312);
-    EXPECT_EQ(recorder.calls(), Lines{"iconv_open utf-8 gb2312"});
+    expect(GetParam().function, GetParam().in, -1, GetParam().out_of_missing);
+    EXPECT_EQ(recorder.calls(), Lines{GetParam().open_call});
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Of, EachDirection,
+    testing::Values(
+        Direction{{"Utf8ToGb2312"}, utf8togb2312, "iconv_open gb2312 utf-8", "syslog 3 error1\n", utf8, gb2312, "", ""},
+        Direction{{"Gb2312ToUtf8"},
+                  gb2312toutf8,
+                  "iconv_open utf-8 gb2312",
+                  "syslog 3 gb2312toutf8 error1\n",
+                  gb2312,
+                  utf8,
+                  "\xff",
+                  gb2312}),
+    testing::PrintToStringParamName());
 
 }  // namespace
