@@ -4,6 +4,7 @@
 
 #include "apinventory/numbers.h"
 #include "apinventory/parts.h"
+#include "core/call_errno.h"
 
 namespace routerdb {
 
@@ -74,6 +75,7 @@ bool differs(const DevInfo &device, const DevInfo &group, Table of_group) {
 
 bool differs_from_group(const DevInfo &device, const DevInfo &group) {
     if (number_in(field_text(device.Dev_Wlan_GroupId)) != number_in(field_text(group.Dev_Wlan_GroupId))) {
+        const CallErrno untold;  // what becomes of the output is not looked at
         std::printf("%s %d\n", "CompareDevInfoWithGroupInfo", 6054);
         return true;
     }

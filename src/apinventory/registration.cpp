@@ -69,6 +69,15 @@ int insert_row(const DevInfo &device, unsigned long sn, const Road &road) {
     return road.run(sql);
 }
 
+/// Whether so many access points leave no place for another one, which is a failure.
+bool is_full(unsigned count) {
+    const bool full = count >= ROUTERDB_MAX_DEVICES;
+    if (full) {
+        leave_errno(EOVERFLOW);
+    }
+    return full;
+}
+
 /// Decides whether an access point is new or known, and writes what it reports.
 /// @param sql  has the last statement then
 /// @param sn   receives its serial number
@@ -80,7 +89,7 @@ bool write_report(const DevInfo &device, Text &sql, unsigned long &sn, const Roa
     if (lookup == lookup_failed) {
         return false;
     }
-    if (lookup == is_new && (count >= ROUTERDB_MAX_DEVICES || insert_row(device, sn, road) < 0)) {
+    if (lookup == is_new && (is_full(count) || insert_row(device, sn, road) < 0)) {
         return false;
     }
     sql.clear();
@@ -91,18 +100,22 @@ bool write_report(const DevInfo &device, Text &sql, unsigned long &sn, const Roa
 /// Writes a report in one transaction.
 /// @return false where that is not to be, or fails; nothing is written or said then
 bool write_at_once(const DevInfo &device, Text &sql, unsigned long &sn, bool &written) {
-    return build_profile.registers_at_once && run_as_transaction(profiles::transaction, [&](Transaction &transaction) {
-               written = write_report(device, sql, sn, Road(transaction));
-           });
+    const bool ended_well =
+        build_profile.registers_at_once && run_as_transaction(profiles::transaction, [&](Transaction &transaction) {
+            written = write_report(device, sql, sn, Road(transaction));
+        });
+    if (ended_well && !written) {
+        leave_errno(EOVERFLOW);  // the table is full, which the transaction keeps to itself
+    }
+    return ended_well;
 }
 
 /// Takes the memory for a report.
 bool take_memory(Text &sql) {
     const bool taken = sql.reserve(report_size);
     if (!taken) {
-        CallErrno call;
-        call.fail(ENOMEM);
         syslog(LOG_ERR, "not have enough mem");
+        leave_errno(ENOMEM);
     }
     return taken;
 }
@@ -144,13 +157,14 @@ int Road::run(const Text &sql) const {
 int find_known(const DevInfo &device, unsigned long &sn) {
     SharedConnection connection;
     if (field_text(device.Dev_MAC).empty()) {
+        leave_errno(EINVAL);
         return lookup_failed;
     }
     Road::Matches found{false, 0};
     for (int attempt = 0; attempt < attempts && found.count == 0; ++attempt) {
         found = Road(connection).find(device, sn);
         if (found.count == 0) {
-            usleep(between_attempts);
+            sleep_untold(between_attempts);
         }
     }
     return found.count != 0 && found.succeeded ? is_known : is_new;
@@ -171,7 +185,7 @@ int find_or_make_way(const DevInfo &device, unsigned long &sn, const Road &road)
             make_way(device, sn, road);
             return is_new;
         }
-        usleep(between_attempts);
+        sleep_untold(between_attempts);
     }
 }
 

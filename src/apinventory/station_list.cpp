@@ -4,14 +4,15 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include "apinventory/station_program.h"
+#include "core/call_errno.h"
 #include "core/paths.h"
 #include "core/random.h"
 #include "core/shell.h"
 #include "json/json_list.h"
+#include "text/number.h"
 #include "text/text.h"
 
 namespace routerdb {
@@ -64,8 +65,7 @@ void print_lines(FILE *file) {
     while (std::fgets(line, sizeof(line), file) != nullptr) {
         if (parse(line, station)) {
             StackText<12> signal;
-            // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0
-            signal.append(long{std::atoi(station.signal)});
+            signal.append(long{to_number(station.signal)});
             const std::string_view given[] = {station.mac, station.time, signal.view()};
             list.print(given);
         }
@@ -92,7 +92,7 @@ void print_stations(const char *device_address) {
     StationAnswer answer(device_address, path.c_str());
     sync();
     constexpr useconds_t until_written = 100'000;
-    usleep(until_written);
+    sleep_untold(until_written);
     run_in_shell(trace_command_size, "cat %s >%s", path.c_str(), paths::station_trace);
     json::print(opening);
     if (FILE *const lines = answer.open()) {

@@ -10,6 +10,7 @@
 #include <cerrno>
 
 #include "build_profile.h"
+#include "core/call_errno.h"
 #include "core/shell.h"
 #include "text/text.h"
 
@@ -32,10 +33,12 @@ int make_anew(const char *path) {
 
 /// Runs the program without a shell.
 /// @param output  descriptor that it writes to
-void run(const char *device_address, int output) {
+/// @return 0, or why it could not be started
+int run(const char *device_address, int output) {
     posix_spawn_file_actions_t actions;
-    if (posix_spawn_file_actions_init(&actions) != 0) {
-        return;
+    int failure = posix_spawn_file_actions_init(&actions);
+    if (failure != 0) {
+        return failure;
     }
     StackText<32> address;
     address.append("-a").append(device_address);
@@ -43,12 +46,14 @@ void run(const char *device_address, int output) {
     char command[] = "-c";
     char *const arguments[] = {program, command, const_cast<char *>(address.c_str()), nullptr};
     pid_t process = 0;
-    if (posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO) == 0 &&
-        posix_spawnp(&process, program, &actions, nullptr, arguments, environ) == 0) {
-        while (waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
-        }
+    failure = posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
+    if (failure == 0) {
+        failure = posix_spawnp(&process, program, &actions, nullptr, arguments, environ);
+    }
+    while (failure == 0 && waitpid(process, nullptr, 0) < 0 && errno == EINTR) {
     }
     posix_spawn_file_actions_destroy(&actions);
+    return failure;
 }
 
 }  // namespace
@@ -67,13 +72,16 @@ StationAnswer::StationAnswer(const char *device_address, const char *path) : pat
         run_in_shell(tool_command_size, "capwapmanage -c -a%s >%s", device_address, path);
         return;
     }
+    CallErrno call;
     const int fd = make_anew(path);
     if (fd < 0) {
+        call.fail(errno);
         return;
     }
-    run(device_address, fd);
+    call.fail(run(device_address, fd));
     stream_ = fdopen(fd, "r");
     if (stream_ == nullptr) {
+        call.fail(errno);
         close(fd);
     }
 }

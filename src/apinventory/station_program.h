@@ -12,7 +12,7 @@ bool takes_address(const char *device_address);
 /// What the program has written.
 class StationAnswer {
 public:
-    /// Runs the program and waits for its end.
+    /// Runs the program and waits for its end. Where no shell runs it, errno tells why it could not be run.
     /// @param path  of the file, which is made anew and stays
     StationAnswer(const char *device_address, const char *path);
     StationAnswer(const StationAnswer &) = delete;

@@ -1,11 +1,10 @@
 #include "apinventory/status.h"
 
-#include <cstdlib>
-
 #include "apinventory/notify.h"
 #include "core/execute.h"
 #include "core/profiles.h"
 #include "core/query.h"
+#include "text/number.h"
 #include "text/text.h"
 
 namespace routerdb {
@@ -38,7 +37,7 @@ int count_rows(const Text &sql, SharedConnection *shared = nullptr) {
 void set_status(LookupKey key, const char *value, const char *status) {
     Sql sql;
     sql.append("update DevInfo set Dev_Status=").append_quoted(status);
-    if (std::atoi(status) == 0) {  // NOLINT(cert-err34-c): a text that is no number counts as offline
+    if (to_number(status) == 0) {
         sql.append(",Dev_Wlan_Sta_Num='0',Dev_Wlan_Sta_Num_sec='0'");
     }
     sql.append("  where ").append(column_of(key)).append("=").append_quoted(value).append(";");

@@ -1,7 +1,6 @@
 #include "apinventory/zero_config.h"
 
 #include <cstdio>
-#include <cstdlib>
 
 #include "apinventory/assignments.h"
 #include "apinventory/groups.h"
@@ -97,7 +96,7 @@ void fill_with_defaults(DevInfo &group) {
 }
 
 int read_or_start_zero_config(DevInfo &group, const char *id_text) {
-    const int id = std::atoi(id_text);  // NOLINT(cert-err34-c): a text that is no number counts as 0
+    const int id = to_number(id_text);
     if (id != 0) {
         return read_zero_config(group, id);
     }

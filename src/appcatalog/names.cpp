@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "appcatalog/catalogue_text.h"
+#include "core/call_errno.h"
 #include "core/enum_order.h"
 #include "core/statement.h"
 #include "routerdb.h"
@@ -43,9 +44,11 @@ void join_names(Joined column, int class_id, char *out, sqlite3 *db) {
     StackText<80> sql;
     sql.append("select ").append(columns[static_cast<unsigned>(column)].name);
     sql.append(" from App_Info where Class_Id=").append_quoted(long{class_id}).append(";");
+    CallErrno call;
     Backoff backoff(FirstDelay::microseconds_50);
     Statement statement;
     if (!statement.prepare(db, sql.c_str(), backoff, webserver_on_output)) {
+        call.fail(errno_of(statement.code()));
         return;
     }
     bool more = statement.next_row(backoff);  // while it waits, what stood there stays
@@ -53,6 +56,9 @@ void join_names(Joined column, int class_id, char *out, sqlite3 *db) {
     std::size_t length = 0;
     while (more) {
         more = append_name(out, length, catalogue_text(statement.row(), 0)) && statement.next_row(backoff);
+    }
+    if (!statement.ended_well()) {
+        call.fail(errno_of(statement.code()));
     }
 }
 

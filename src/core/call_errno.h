@@ -1,6 +1,8 @@
 // What a call leaves in errno.
 #pragma once
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <type_traits>
 
@@ -17,7 +19,7 @@ public:
     KeptErrno &operator=(const KeptErrno &) = delete;
     ~KeptErrno() { errno = reason_ != 0 ? reason_ : before_; }
 
-    /// The first reason counts.
+    /// The first reason counts; 0 is none.
     void fail(int reason) {
         if (reason_ == 0) {
             reason_ = reason;
@@ -36,7 +38,20 @@ struct [[maybe_unused]] ForgottenErrno {
 
 using CallErrno = std::conditional_t<build_profile.tells_failures, KeptErrno, ForgottenErrno>;
 
+/// Where failures are told: the reason of a call that ends with it.
+inline void leave_errno(int reason) {
+    if (build_profile.tells_failures) {
+        errno = reason;
+    }
+}
+
 /// The reason that a result code of SQLite stands for.
 [[gnu::const]] int errno_of(int sqlite_code);
+
+/// Sleeps where nothing is kept: a signal that ends it is no failure.
+inline void sleep_untold(useconds_t time) {
+    const CallErrno untold;
+    usleep(time);
+}
 
 }  // namespace routerdb

@@ -5,9 +5,9 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 
 #include "build_profile.h"
+#include "text/number.h"
 #include "text/text.h"
 
 namespace routerdb {
@@ -19,7 +19,7 @@ int take_pid(FILE *stream) {
     char line[100] = "";
     const char *read = std::fgets(line, sizeof(line), stream);
     std::fclose(stream);
-    return read != nullptr ? std::atoi(line) : 0;  // NOLINT(cert-err34-c): no number is no process
+    return read != nullptr ? to_number(line) : 0;
 }
 
 /// Whether a process runs as a user.

@@ -27,6 +27,9 @@ public:
     bool is_open() const { return stream_ != nullptr; }
     FILE *stream() const { return stream_; }
 
+    /// Whoever reads the file says here that it was in vain.
+    CallErrno &call() { return call_; }
+
 private:
     CallErrno call_;
     FILE *stream_;

@@ -59,7 +59,7 @@ void fill_node(LeaseNode *mac_ip_list, const LeaseRecord *lease) {
 }
 
 int read_leases(LeaseNode *&head, const char *lease_file, const char *pid_file) {
-    const LeaseFile file(lease_file, pid_file);
+    LeaseFile file(lease_file, pid_file);
     char header[8];
     if (!file.is_open() || std::fread(header, sizeof(header), 1, file.stream()) != 1) {
         return 0;
@@ -73,6 +73,7 @@ int read_leases(LeaseNode *&head, const char *lease_file, const char *pid_file) 
         }
         auto *node = static_cast<LeaseNode *>(new_block(sizeof(LeaseNode)));
         if (node == nullptr) {
+            file.call().fail(ENOMEM);
             break;
         }
         fill_node(node, &lease);

@@ -1,9 +1,10 @@
 #include "rules/behavior_names.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <string_view>
 #include <utility>
+
+#include "text/number.h"
 
 namespace routerdb {
 
@@ -62,8 +63,7 @@ void Writer::write_group(std::string_view group) {
     if (group.data() == nullptr) {
         return;
     }
-    // NOLINTNEXTLINE(cert-err34-c): a text that is no number counts as 0; the separator, which is no digit, ends it
-    const int class_id = std::atoi(id.data());
+    const int class_id = to_number(id.data());  // the separator, which is no digit, ends it
     write_class(class_id);
     bool first = true;
     while (!group.empty()) {

@@ -17,7 +17,11 @@ namespace routerdb {
 namespace {
 
 Reply request(std::uint8_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area = nullptr) {
-    return table_id == no_table ? Reply() : send(table_id, operation, statement, area);
+    if (table_id != no_table) {
+        return send(table_id, operation, statement, area);
+    }
+    leave_errno(EINVAL);
+    return {};
 }
 
 /// Sends a statement whose reply says nothing.
@@ -27,9 +31,8 @@ void execute(std::uint8_t table_id, const Text &statement) {
 
 /// A condition that means other rows than it names is not sent.
 void refuse(const RuleTable &table) {
-    CallErrno call;
     syslog(LOG_ERR, "delete from %s refused: its condition does more than compare columns with values\n", table.name);
-    call.fail(EINVAL);
+    leave_errno(EINVAL);
 }
 
 /// Records of a reply that a list takes. There is no end to them where the build profile does not cap lists: the

@@ -182,8 +182,7 @@ int exchange(const SqlRequest &request, SqlReply &reply, const RecordArea *area)
 Reply send(std::uint32_t table_id, std::uint32_t operation, const Text &statement, const RecordArea *area) {
     SqlReply reply{};
     if (!statement.complete()) {
-        CallErrno call;
-        call.fail(ENOMEM);
+        leave_errno(ENOMEM);
     } else {
         const SqlRequest request{table_id, operation, static_cast<std::uint32_t>(statement.length()),
                                  statement.c_str()};

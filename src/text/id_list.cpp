@@ -1,10 +1,10 @@
 #include "text/id_list.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 #include "routerdb.h"
+#include "text/number.h"
 
 namespace routerdb {
 
@@ -12,10 +12,6 @@ namespace {
 
 constexpr char column_names[][13] = {"id", "ipgroup_id", "timegroup_id"};
 constexpr int column_count = sizeof(column_names) / sizeof(column_names[0]);
-
-int to_number(const char *text) {
-    return std::atoi(text);  // NOLINT(cert-err34-c): a field that is no number counts as 0
-}
 
 }  // namespace
 

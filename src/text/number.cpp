@@ -1,7 +1,10 @@
 #include "text/number.h"
 
 #include <cctype>
+#include <cerrno>
 #include <cstdlib>
+
+#include "build_profile.h"
 
 namespace routerdb {
 
@@ -12,6 +15,15 @@ bool is_digit(char character) {
 }
 
 }  // namespace
+
+int to_number(const char *text) {
+    const int before = errno;
+    const int number = std::atoi(text);  // NOLINT(cert-err34-c): a text that is no number counts as 0
+    if (build_profile.tells_failures) {
+        errno = before;
+    }
+    return number;
+}
 
 int number_in(std::string_view text) {
     // atoi wants a terminator: it gets a copy without the blanks and zeros of which there may be any number. One more
@@ -35,7 +47,7 @@ int number_in(std::string_view text) {
         take_first();
     }
     copy[length] = '\0';
-    return std::atoi(copy);  // NOLINT(cert-err34-c): a text that is no number counts as 0
+    return to_number(copy);
 }
 
 }  // namespace routerdb

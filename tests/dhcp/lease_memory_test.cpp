@@ -6,6 +6,7 @@
 
 #include "dhcp/leases.h"
 #include "support/database.h"
+#include "support/left_errno.h"
 #include "support/wrapped_calls.h"
 
 namespace {
@@ -58,7 +59,8 @@ TEST(LeaseMemory, that_runs_out_ends_the_list_with_the_nodes_made_so_far) {
         WrappedCalls calls;
         calls.fail("malloc", n, ENOMEM);
         LeaseNode *head = nullptr;
-        EXPECT_EQ(get_addrserver_leases_sql(&head, leases::binary_file, "/var/no.pid"), n - 1);
+        support::expect_errno(
+            ENOMEM, [&] { EXPECT_EQ(get_addrserver_leases_sql(&head, leases::binary_file, "/var/no.pid"), n - 1); });
         EXPECT_TRUE(calls.failed());
         EXPECT_EQ(leases::texts(head), Lines(whole.begin(), whole.begin() + (n - 1)));
         free_leaselist_sql(&head);
@@ -82,7 +84,9 @@ TEST(LeaseBuffer, is_a_block_of_zero_bytes) {
 TEST(LeaseBuffer, is_null_without_memory) {
     WrappedCalls calls;
     calls.fail("malloc", 1, ENOMEM);
+    errno = 0;
     EXPECT_EQ(get_buffer_sql(10), nullptr);
+    EXPECT_EQ(errno, ENOMEM) << "in either profile";
     EXPECT_TRUE(calls.failed());
 }
 

@@ -8,6 +8,7 @@
 #include "json/printed.h"
 #include "routerdb.h"
 #include "support/database.h"
+#include "support/left_errno.h"
 #include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
@@ -128,12 +129,26 @@ TEST(StationCommands, for_anything_but_an_ipv4_address_are_not_run) {
                                 "10.0.0.256", "10.0.0.-1", "0x0a.0.0.1", "10.0.0.1/24", "::1", "::ffff:10.0.0.1", "-a",
                                 "../../etc/passwd", "10.1", "167772161", "router.lan"}) {
         Recorder recorder;
-        errno = 0;
         printed::expect_complete(printed::by([address] { GetApDevStaList(address); }),
                                  "{\"DevStalist\":\n{\"count\":\"0\"}}");
-        EXPECT_EQ(errno, EINVAL) << address;
-        EXPECT_EQ(recorder.calls(), Lines{refusal}) << address;
+        support::expect_errno(EINVAL, [address] { GetApDevStaList(address); });
+        EXPECT_EQ(recorder.calls(), Lines(2, refusal)) << address;
     }
+}
+
+TEST(StationCommands, that_cannot_be_started_are_told_in_errno) {
+    ASSERT_EQ(mkdir("/var/stations", 0755), 0);
+    support::write_file("/var/stations/10.0.0.1", "m+t+99999999999999999999\n");
+    support::expect_errno(support::found_errno, [] { GetApDevStaList("10.0.0.1"); });
+    ASSERT_EQ(setenv("PATH", "/nowhere", 1), 0);
+    support::expect_errno(ENOENT, [] { GetApDevStaList("10.0.0.1"); });
+}
+
+TEST(StationCommands, whose_file_cannot_be_made_are_told_in_errno) {
+    Recorder recorder;
+    recorder.answer("draw", {0});
+    ASSERT_EQ(mkdir("/var/stalist_1", 0755), 0);
+    support::expect_errno(EEXIST, [] { GetApDevStaList("10.0.0.1"); });
 }
 
 TEST(StationCommands, for_every_ipv4_address_are_run) {
