@@ -36,10 +36,13 @@
 ///     does the same for callers and data that mean well and refuses the rest. What they say of modern holds there
 ///     alone.
 /// 12. errno, in modern. A call that failed leaves the reason there, also where its result tells nothing, and one that
-///     did not leaves what was there: set it to 0 before, as for strtol. EINVAL for what is refused, EOVERFLOW and
-///     ENOSPC for what does not fit, EPROTO for a reply that is none, ETIMEDOUT for what took too long, EACCES for a
-///     service or a file that may not be used, ENOMEM, EIO for the rest; ECONNREFUSED, ENOENT and their like as the
-///     system gave them. That nothing is found is no failure.
+///     did not leaves what was there: set it to 0 before, as for strtol. The last remark on each function says which
+///     reasons there are. EINVAL stands for what is refused, EOVERFLOW for more or longer than fits, ENOSPC for a disk
+///     that is full, EPROTO for a reply that is none, ETIMEDOUT for what took too long, EACCES for a service that may
+///     not be asked and a database that may not be written, be it to undo what a killed writer left, EIO for the rest,
+///     such as a database that cannot be opened and a statement that fails; ENOENT, ECONNREFUSED and their like come as
+///     the system gave them. That nothing is found is no failure, nor is what becomes of messages, of output and of
+///     commands. In exact errno means nothing where a remark does not say so.
 /// 13. Texts of callers, in modern. They attach no file with a name, VACUUM INTO included, and do not edit the schema
 ///     directly; functions and virtual tables that only a file's own schema calls are not run unless they are harmless.
 ///     The library's own readings read tables, not views of the same name.
@@ -87,8 +90,9 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 /// @param offset  first byte, relative to `whence`
 /// @param whence  SEEK_SET, SEEK_CUR or SEEK_END
 /// @param len     length in bytes; 0 means up to the end of the file, however long it grows
-/// @return the result of fcntl, with errno as it left it: -1 and EINTR when a signal ended the wait of F_SETLKW
+/// @return the result of fcntl: -1, with EINTR in errno, when a signal ended the wait of F_SETLKW
 /// @note Thread-safe; the lock belongs to the process.
+/// @remark errno, in exact too: as fcntl left it
 ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int whence, routerdb_off_t len);
 
 /// Opens the database lock file, which must exist, and waits for a write lock on the whole of it, without limit and
@@ -96,12 +100,14 @@ ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int 
 /// @return the lock handle, a descriptor to be given to free_db_lock(); -1 if the file cannot be opened, after
 ///         "cannot open %s!\n" on standard error
 /// @note Any thread may call it, yet two threads of one process do not exclude each other.
+/// @remark errno: what open gave for the lock file, such as ENOENT
 ROUTERDB_API int get_db_lock(void);
 
 /// Releases a lock handle and closes it.
 /// @param fd  a handle from get_db_lock()
 /// @return 0
 /// @note Thread-safe. It releases every other lock that the process holds on the lock file.
+/// @remark errno, in exact too: as fcntl and close left it, such as EBADF for a descriptor that is not open
 ROUTERDB_API int free_db_lock(int fd);
 
 /// Executes SQL on the main database under the lock file and discards any rows.
@@ -117,6 +123,8 @@ ROUTERDB_API int free_db_lock(int fd);
 ///       cmdline, Error: %s\n" on standard output. The first delay is random, 51 to 150 microseconds. A connection
 ///       that SQLite could not open stays allocated in the exact profile.
 /// @note Does not take db_mutex: threads of one process must take turns.
+/// @remark errno: what open gave for the lock file, such as ENOENT; EINVAL for a text that attaches a named file;
+///         EOVERFLOW for a text or a value that is too long for SQLite; EACCES, ENOSPC, ENOMEM, EIO
 ROUTERDB_API int DbSqlExec(char *sql);
 
 /// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first. The copy is on
@@ -129,6 +137,7 @@ ROUTERDB_API int DbSqlExec(char *sql);
 ///         error)
 /// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns. A caller that is killed
 ///       alone loses the lock while the "cp" that it started goes on.
+/// @remark errno: as get_db_lock()
 ROUTERDB_API int backup_sqlite_db(void);
 
 /// Copies the backup over the main database. Without a backup the main database stays as it is. The restored database
@@ -139,6 +148,7 @@ ROUTERDB_API int backup_sqlite_db(void);
 /// and part the other: a call of reset_sqlite_db() mends it.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
+/// @remark errno: as get_db_lock()
 ROUTERDB_API int restore_sqlite_db(void);
 
 /// Replaces the main database with the factory copy on the read-only file system. The new database is on disk when the
@@ -148,6 +158,7 @@ ROUTERDB_API int restore_sqlite_db(void);
 /// main database, or part of one: another call mends it.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
+/// @remark errno: as get_db_lock()
 ROUTERDB_API int reset_sqlite_db(void);
 
 /// @}
@@ -165,6 +176,7 @@ ROUTERDB_API int reset_sqlite_db(void);
 /// @note Errors: as DbSqlExec(). The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds
 ///       for the first one, 500 more for each next one.
 /// @note Excludes the other threads that call it, and other processes.
+/// @remark errno: as DbSqlExec()
 ROUTERDB_API int DB_EXEC_SQL_CHAR(const char *sql);
 
 /// Counts the rows of a query on the main database.
@@ -175,6 +187,7 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR(const char *sql);
 ///       there also "sql busy/locked cmdline, Error: %s\n" after each sleep. First sleep 155 microseconds. A
 ///       connection that SQLite could not open stays allocated in the exact profile.
 /// @note Thread-safe; takes no lock.
+/// @remark errno: as DbSqlExec() but for the lock file, and ETIMEDOUT for a database that is busy behind a row
 ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
 
 /// Reads a number from a query on the main database. Row k is read at its column k, both counted from 0, and the
@@ -186,6 +199,7 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_INT(const char *sql, unsigned int *count);
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
 ///       First sleep 55 microseconds.
 /// @note Thread-safe; takes no lock.
+/// @remark errno: as DB_EXEC_SQL_CHAR_INT()
 ROUTERDB_API int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value);
 
 /// Reads the first column of a query on the main database as text; the last row wins in which it is not NULL.
@@ -195,6 +209,7 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_LONG(const char *sql, unsigned long *value);
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds.
 /// @note Thread-safe; takes no lock.
+/// @remark errno: as DB_EXEC_SQL_CHAR_INT()
 ROUTERDB_API int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out);
 
 /// Adds up numbers from a query on the main database, under the lock file. Row k is read at its column k, both
@@ -204,11 +219,13 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out);
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
 ///       cmdline, Error: (null)\n" on standard output. Random first delay.
 /// @note Takes the lock file, not db_mutex: a thread that returns drops the lock of the others.
+/// @remark errno: as DbSqlExec(), and ETIMEDOUT for a database that is busy behind a row
 ROUTERDB_API int GET_DB_SQL_INT_COUNT(const char *sql);
 
 /// Counts the rows of a query on the main database, under the lock file.
 /// @param sql  the query
 /// @return the number of rows; -1, messages and locks as GET_DB_SQL_INT_COUNT()
+/// @remark errno: as GET_DB_SQL_INT_COUNT()
 ROUTERDB_API int GET_DB_SQL_INT(const char *sql);
 
 /// Reads the first column of the first row of a query on the main database as a number.
@@ -217,17 +234,20 @@ ROUTERDB_API int GET_DB_SQL_INT(const char *sql);
 ///         the exact profile the connection stays allocated) or the query cannot be prepared ("Error: %s" on standard
 ///         output)
 /// @note Random first delay. Thread-safe; takes no lock.
+/// @remark errno: as DbSqlExec() but for the lock file
 ROUTERDB_API int GET_DB_SQL_INT_COUNT_ROUTE(const char *sql);
 
 /// As GET_DB_SQL_INT_COUNT_ROUTE(), on the application catalogue.
 /// @param sql  the query
 /// @return as GET_DB_SQL_INT_COUNT_ROUTE()
+/// @remark errno: as GET_DB_SQL_INT_COUNT_ROUTE()
 ROUTERDB_API int GET_DB_SQL_INT_COUNT_DPI(const char *sql);
 
 /// As GET_DB_SQL_INT_COUNT_DPI(), and closes descriptor 0 in the exact profile before it returns, whatever the
 /// result. A program that still wants its standard input reads it first.
 /// @param sql  the query
 /// @return as GET_DB_SQL_INT_COUNT_ROUTE()
+/// @remark errno: as GET_DB_SQL_INT_COUNT_ROUTE()
 ROUTERDB_API int GET_DB_SQLITE_SQL_INT(const char *sql);
 
 /// Reads the first column of the first row of a query as text, on the caller's connection.
@@ -236,6 +256,8 @@ ROUTERDB_API int GET_DB_SQLITE_SQL_INT(const char *sql);
 /// @param      db   an open connection, left open
 /// @return 0; all bits set if the query cannot be prepared ("Webserver Error: %s" on standard output)
 /// @note Random first delay. As thread-safe as the connection.
+/// @remark errno: EINVAL for what the authorizer of the connection refuses; EOVERFLOW for a text or a value that is too
+///         long for SQLite; EACCES, ENOSPC, ENOMEM, EIO
 ROUTERDB_API unsigned int GET_DB_SQLITE_SQL_STR_N(const char *sql, char *out, sqlite3 *db);
 
 /// @}
@@ -258,6 +280,7 @@ enum {
 /// @param[out]    ids   room for ROUTERDB_MAX_IDS numbers
 /// @return the number of identifiers stored, 0 to ROUTERDB_MAX_IDS; those behind are not read
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API int muti_id_convert_int_array(char *text, int *ids);
 
 /// Appends a condition such as "id='3' or id='7'" for the identifiers of a list. Nothing is appended for a list
@@ -268,6 +291,7 @@ ROUTERDB_API int muti_id_convert_int_array(char *text, int *ids);
 /// @param         column  ROUTERDB_COLUMN_ID, _IPGROUP_ID or _TIMEGROUP_ID; nothing is appended for another value
 /// @return the length of `out` afterwards, in bytes
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API size_t generate_db_params(char *text, char *out, unsigned int size, int column);
 
 /// @}
@@ -288,6 +312,7 @@ ROUTERDB_API size_t generate_db_params(char *text, char *out, unsigned int size,
 ///         conversion stays allocated
 /// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
 ///       A null converter is logged as "error1\n", `out` then being untouched. Thread-safe.
+/// @remark errno, in exact too: as iconv_open or iconv left it, such as EILSEQ, EINVAL or E2BIG
 ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t outlen);
 
 /// Converts GB2312 to UTF-8.
@@ -302,6 +327,7 @@ ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t ou
 ///         conversion stays allocated
 /// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
 ///       A null converter is logged as "gb2312toutf8 error1\n", `out` then being untouched. Thread-safe.
+/// @remark errno, in exact too: as utf8togb2312()
 ROUTERDB_API int gb2312toutf8(const char *in, size_t inlen, char *out, size_t outlen);
 
 /// Turns a time of day into a number, 745 for "07:45".
@@ -309,6 +335,7 @@ ROUTERDB_API int gb2312toutf8(const char *in, size_t inlen, char *out, size_t ou
 /// @return the number that atoi reads in HHMM: it skips leading blanks (" 7:45" gives 745), takes a sign, and stops at
 ///         the first other character that is not a digit ("9:30" gives 9)
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API int change_time_to_int(const char *hhmm);
 
 /// Compares two times of day of the form HH:MM.
@@ -316,6 +343,7 @@ ROUTERDB_API int change_time_to_int(const char *hhmm);
 /// @param b  a time of day
 /// @return 1 if `a` is later than `b`, else 0
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API int check_time_one_day(const char *a, const char *b);
 
 /// @}
@@ -351,9 +379,9 @@ typedef struct SqlReply {
 /// the announced size whose missing part is zero, and the call succeeds all the same.
 ///
 /// In modern the 10 seconds count for the whole exchange, and these are failures: a request that could not be sent
-/// whole (EIO), a service that runs as neither root, nor the caller's user, nor the owner of the main database (EACCES,
-/// before anything is sent), a reply that ends early, announces less than nothing, more than 1 MiB, or more than 64 KiB
-/// for ROUTERDB_TABLE_SCALAR (EPROTO).
+/// whole, a service that runs as neither root, nor the caller's user, nor the owner of the main database (to which
+/// nothing is sent), a reply that ends early, announces less than nothing, more than 1 MiB, or more than 64 KiB for
+/// ROUTERDB_TABLE_SCALAR.
 /// @param      request  the request; only read
 /// @param[out] reply    untouched while the request is on its way; cleared before the reply is read
 /// @return 0, and the caller releases reply->data with free; -1 on failure, nothing being allocated
@@ -362,6 +390,8 @@ typedef struct SqlReply {
 ///       "send data to sql socket server fail", "recv header from sql socket server fail", "sql client malloc data
 ///       buffer fail", "recv data from sql socket server fail". SIGPIPE is held back from the caller.
 /// @note Thread-safe: each call has its own connection.
+/// @remark errno: what the system gave, such as ENOENT, ECONNREFUSED or EINTR; EACCES for a service that runs as a
+///         stranger; EIO for a request that could not be sent whole; EPROTO for a reply that is none; ETIMEDOUT, ENOMEM
 ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
 
 /// @}
@@ -371,9 +401,8 @@ ROUTERDB_API int sqlclient_cmd(const SqlRequest *request, SqlReply *reply);
 /// list is a count and that many records, as many as the query has rows or the reply has records. Its buffer has room
 /// for ROUTERDB_LIST_CAPACITY of them, and in exact lists are not cut: one row more is written past the buffer, and
 /// crashes the caller or worse. Whoever adds rows keeps the table within that size; no function refuses one. In modern
-/// the list ends with its room: errno is EOVERFLOW then, and the system log names the table. Members marked
-/// "derived" are filled by the list builders and never written to a table. What a record says beyond its times and
-/// groups is carried and not acted on.
+/// the list ends with its room, and the system log names the table. Members marked "derived" are filled by the list
+/// builders and never written to a table. What a record says beyond its times and groups is carried and not acted on.
 /// @{
 
 /// Table ids, the first word of each request.
@@ -720,8 +749,8 @@ typedef struct DomainIpItemList {
 /// has no meaning. A query without rows, and a failure before the first one, leaves the list cleared; a failure behind
 /// a row ends the list there. Columns are read by position, where a comment does not say by name. Messages, unless
 /// said otherwise: "cannot open %s!\n" (lock file) and "Error: %s" on standard output. A lookup that fails writes the
-/// message of its own function and leaves its members clear. Random first delay. Threads of one process must take
-/// turns, since a builder that returns drops the process's lock.
+/// message of its own function and leaves its members clear; of the lookups errno tells of those of groups alone.
+/// Random first delay. Threads of one process must take turns, since a builder that returns drops the process's lock.
 /// @{
 
 /// Builds the list of static DHCP bindings.
@@ -730,12 +759,14 @@ typedef struct DomainIpItemList {
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql
 ///       cmdline, Error: %s\n" on standard output.
+/// @remark errno: as GET_DB_SQL_INT_COUNT(), and EOVERFLOW for more rows than fit
 ROUTERDB_API int GetDhcpStaticItemListInServer(DhcpStaticItemList *list, const char *sql);
 
 /// Builds the list of URL filters. Looks the referenced time groups up.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from filter_url order by Id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const char *sql);
 
 /// Builds the list of MAC filters. Looks up the referenced time groups, and each host name
@@ -745,6 +776,7 @@ ROUTERDB_API int GetUrlFilterItemListInServer(UrlFilterItemList *list, const cha
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql
 ///       cmdline, Error: %s\n" on standard output.
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetMacFilterItemListInServer(MacFilterItemList *list, const char *sql);
 
 /// Builds the list of IP and port filters. Looks the referenced time groups and IP groups up; the
@@ -752,42 +784,49 @@ ROUTERDB_API int GetMacFilterItemListInServer(MacFilterItemList *list, const cha
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from filter_ipport order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetIpFilterItemListInServer(IpFilterItemList *list, const char *sql);
 
 /// Builds the list of time groups.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from user_timegroup order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetTimeGroupItemListInServer(TimeGroupItemList *list, const char *sql);
 
 /// Builds the list of IP groups. Columns are found by name.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from user_ipgroup order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetIpGroupItemListInServer(IpGroupItemList *list, const char *sql);
 
 /// Builds the list of entries of the smart-QoS white list. Columns are found by name.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from smartqos_whitelist order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetSmartQosItemListInServer(SmartQosItemList *list, const char *sql);
 
 /// Builds the list of user URLs. Columns are found by name.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from user_urlinfo order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetUserUrlItemListInServer(UserUrlItemList *list, const char *sql);
 
 /// Builds the list of family members.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from famliymember order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetFamliyMemberItemListInServer(FamliyMemberItemList *list, const char *sql);
 
 /// Builds the list of port forwardings.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from forword_ipport order by Id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetPortFwItemListInServer(PortFwItemList *list, const char *sql);
 
 /// Builds the list of QoS rules. Columns are found by name. Looks the referenced time groups and IP groups up; the
@@ -795,6 +834,7 @@ ROUTERDB_API int GetPortFwItemListInServer(PortFwItemList *list, const char *sql
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from qos_rule order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetQosItemListInServer(QosItemList *list, const char *sql);
 
 /// Builds the list of behaviour rules. Columns are found by name. Looks up the referenced time groups and IP groups
@@ -803,24 +843,28 @@ ROUTERDB_API int GetQosItemListInServer(QosItemList *list, const char *sql);
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from behavior_rule order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetBehaviorItemListInServer(BehaviorItemList *list, const char *sql);
 
 /// Builds the list of entries of a Wi-Fi access list. The query names the list: any of the three will do.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, such as "select * from wifi0acl order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int Get2GAclItemListInServer(AclItemList *list, const char *sql);
 
 /// Builds the list of entries of a Wi-Fi access list. The query names the list: any of the three will do.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, such as "select * from wifi0acl order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int Get5GAclItemListInServer(AclItemList *list, const char *sql);
 
 /// Builds the list of domain-to-IP entries.
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from domain_ip order by id;"
 /// @return no meaning
+/// @remark errno: as GetDhcpStaticItemListInServer()
 ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char *sql);
 
 /// @}
@@ -828,21 +872,23 @@ ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char 
 ///
 /// Each sends one statement to the SQL service with sqlclient_cmd(), or several where it asks for a clash first. The
 /// messages of sqlclient_cmd() are the only report: when the service cannot be reached a list comes back empty, a
-/// record cleared, and a change has no effect; in modern errno tells that from an empty table. Members beyond the
-/// table's own columns are not read. Thread-safe.
+/// record cleared, and a change has no effect; in modern errno tells that from an empty table. What the service made of
+/// a statement neither tells. Members beyond the table's own columns are not read. Thread-safe.
 ///
 /// Conditions are SQL, such as generate_db_params() makes. In modern they compare columns with texts between quotes or
-/// with integers, also in "in" lists, joined by "or" and "and", with parentheses. Anything else, "1" included, is not
-/// sent: errno is EINVAL, and the system log names the table.
+/// with integers, also in "in" lists, joined by "or" and "and", with parentheses. Anything else, "1" included, is
+/// refused: it is not sent, and the system log names the table.
 /// @{
 
 /// Lists all static DHCP bindings in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetDhcpStaticItemList(DhcpStaticItemList *list);
 
 /// Reads one static DHCP binding.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetDhcpStaticItem(int id, DhcpStaticItem *item);
 
 /// Inserts a static DHCP binding unless its addresses are taken. Two clients that add the same address at the same
@@ -850,6 +896,7 @@ ROUTERDB_API void GetDhcpStaticItem(int id, DhcpStaticItem *item);
 /// @param item  the values; `id` is not read
 /// @return 0 when the row was sent, also if the service could not be reached; 1 when the IP address is taken, 2 when
 ///         the MAC address is
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API int AddDhcpStaticItem(const DhcpStaticItem *item);
 
 /// Writes every column of one static DHCP binding unless another row has its addresses. Of several rows with an
@@ -857,252 +904,311 @@ ROUTERDB_API int AddDhcpStaticItem(const DhcpStaticItem *item);
 /// @param item  the values; `id` names the row
 /// @return 0 when the row was sent, also if the service could not be reached; 1 when another row has the IP address, 2
 ///         when another one has the MAC address
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API int ModifyDhcpStaticItem(const DhcpStaticItem *item);
 
 /// Deletes static DHCP bindings.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelDhcpStaticItem(const char *condition);
 
 /// Lists all URL filters in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetUrlFilterItemList(UrlFilterItemList *list);
 
 /// Reads one URL filter.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetUrlFilterItem(int id, UrlFilterItem *item);
 
 /// Inserts a URL filter. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddUrlFilterItem(const UrlFilterItem *item);
 
 /// Writes every column of one URL filter.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyUrlFilterItem(const UrlFilterItem *item);
 
 /// Deletes URL filters.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelUrlFilterItem(const char *condition);
 
 /// Deletes URL filters, exactly as DelUrlFilterItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+/// @remark errno: as DelUrlFilterItem()
 ROUTERDB_API void DelUrlFilterItemById(const char *condition, int kind);
 
 /// Lists all MAC filters in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetMacFilterItemList(MacFilterItemList *list);
 
 /// Reads one MAC filter.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetMacFilterItem(int id, MacFilterItem *item);
 
 /// Inserts a MAC filter. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddMacFilterItem(const MacFilterItem *item);
 
 /// Writes every column of one MAC filter.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyMacFilterItem(const MacFilterItem *item);
 
 /// Deletes MAC filters.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelMacFilterItem(const char *condition);
 
 /// Deletes all MAC filters.
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void DelMacFilterItemAll(void);
 
 /// Deletes MAC filters, exactly as DelMacFilterItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+/// @remark errno: as DelMacFilterItem()
 ROUTERDB_API void DelMacFilterItemById(const char *condition, int kind);
 
 /// Lists all IP and port filters in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetIpFilterItemList(IpFilterItemList *list);
 
 /// Reads one IP and port filter.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetIpFilterItem(int id, IpFilterItem *item);
 
 /// Inserts an IP and port filter. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddIpFilterItem(const IpFilterItem *item);
 
 /// Writes every column of one IP and port filter.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyIpFilterItem(const IpFilterItem *item);
 
 /// Deletes IP and port filters.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelIpFilterItem(const char *condition);
 
 /// Deletes IP and port filters, exactly as DelIpFilterItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+/// @remark errno: as DelIpFilterItem()
 ROUTERDB_API void DelIpFilterItemById(const char *condition, int kind);
 
 /// Lists all time groups in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetTimeGroupItemList(TimeGroupItemList *list);
 
 /// Reads one time group.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetTimeGroupItem(int id, TimeGroupItem *item);
 
 /// Inserts a time group. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddTimeGroupItem(const TimeGroupItem *item);
 
 /// Writes every column of one time group.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyTimeGroupItem(const TimeGroupItem *item);
 
 /// Deletes time groups.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelTimeGroupItem(const char *condition);
 
 /// Lists all IP groups in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetIpGroupItemList(IpGroupItemList *list);
 
 /// Reads one IP group.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetIpGroupItem(int id, IpGroupItem *item);
 
 /// Inserts an IP group. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddIpGroupItem(const IpGroupItem *item);
 
 /// Writes every column of one IP group.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyIpGroupItem(const IpGroupItem *item);
 
 /// Deletes IP groups.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelIpGroupItem(const char *condition);
 
 /// Lists all entries of the smart-QoS white list in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetSmartQosItemList(SmartQosItemList *list);
 
 /// Reads one entry of the smart-QoS white list.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetSmartQosItem(int id, SmartQosItem *item);
 
 /// Inserts an entry of the smart-QoS white list. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddSmartQosItem(const SmartQosItem *item);
 
 /// Writes every column of one entry of the smart-QoS white list.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifySmartQosItem(const SmartQosItem *item);
 
 /// Deletes one entry of the smart-QoS white list.
 /// @param id  its id
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void DelSmartQosItem(int id);
 
 /// Lists all user URLs in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetUserUrlItemList(UserUrlItemList *list);
 
 /// Reads one user URL.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetUserUrlItem(int id, UserUrlItem *item);
 
 /// Inserts a user URL. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddUserUrlItem(const UserUrlItem *item);
 
 /// Writes every column of one user URL.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyUserUrlItem(const UserUrlItem *item);
 
 /// Deletes one user URL.
 /// @param id  its id
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void DelUserUrlItem(int id);
 
 /// Lists all family members in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetFamliyMemberItemList(FamliyMemberItemList *list);
 
 /// Reads one family member.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetFamliyMemberItem(int id, FamliyMemberItem *item);
 
 /// Inserts a family member. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddFamliyMemberItem(const FamliyMemberItem *item);
 
 /// Writes every column of one family member.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyFamliyMemberItem(const FamliyMemberItem *item);
 
 /// Deletes family members.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelFamliyMemberItem(const char *condition);
 
 /// Lists all port forwardings in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetPortFwItemList(PortFwItemList *list);
 
 /// Reads one port forwarding.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetPortFwItem(int id, PortFwItem *item);
 
 /// Inserts a port forwarding. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddPortFwItem(const PortFwItem *item);
 
 /// Writes every column of one port forwarding.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyPortFwItem(const PortFwItem *item);
 
 /// Deletes port forwardings.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelPortFwItem(const char *condition);
 
 /// Lists all QoS rules in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetQosItemList(QosItemList *list);
 
 /// Reads one QoS rule.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetQosItem(int id, QosItem *item);
 
 /// Inserts a QoS rule. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddQosItem(const QosItem *item);
 
 /// Writes every column of one QoS rule.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyQosItem(const QosItem *item);
 
 /// Deletes QoS rules.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelQosItem(const char *condition);
 
 /// Deletes QoS rules, exactly as DelQosItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+/// @remark errno: as DelQosItem()
 ROUTERDB_API void DelQosItemById(const char *condition, int kind);
 
 /// Lists all behaviour rules in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetBehaviorItemList(BehaviorItemList *list);
 
 /// Reads one behaviour rule.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetBehaviorItem(int id, BehaviorItem *item);
 
 /// Inserts a behaviour rule. The table chooses the id.
@@ -1110,76 +1216,92 @@ ROUTERDB_API void GetBehaviorItem(int id, BehaviorItem *item);
 /// @note Writes "pinfo->behavior_info:%s" to the system log first, at LOG_INFO. In the exact profile it does so
 ///       under the identity "AddBehaviortem", with openlog and closelog of its own: the caller's identity and options
 ///       are gone afterwards, until it calls openlog again. The column `behavior_type` becomes 0.
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddBehaviortem(const BehaviorItem *item);
 
 /// Writes every column of one behaviour rule.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyBehaviorItem(const BehaviorItem *item);
 
 /// Deletes behaviour rules.
 /// @param condition  an SQL condition
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelBehaviorItem(const char *condition);
 
 /// Deletes behaviour rules, exactly as DelBehaviorItem() does.
 /// @param condition  an SQL condition
 /// @param kind       1 or 2, for conditions on IP groups or time groups; it changes nothing
+/// @remark errno: as DelBehaviorItem()
 ROUTERDB_API void DelBehaviorItemById(const char *condition, int kind);
 
 /// Lists all entries of a Wi-Fi access list in order of their ids.
 /// @param[out] list    filled whole: count, that many records, zero behind
 /// @param      number  of the access list, 0 to 2; with another one nothing is sent and the list is cleared
+/// @remark errno: as sqlclient_cmd(), EINVAL for another number, and EOVERFLOW for more records than fit
 ROUTERDB_API void GetAclItemList(AclItemList *list, int number);
 
 /// Reads one entry of a Wi-Fi access list.
 /// @param      id      its id
 /// @param[out] item    filled; cleared when there is no such row
 /// @param      number  of the access list, 0 to 2; with another one nothing is sent and the record is cleared
+/// @remark errno: as sqlclient_cmd(), and EINVAL for another number
 ROUTERDB_API void GetAclItem(int id, AclItem *item, int number);
 
 /// Inserts an entry into a Wi-Fi access list. The table chooses the id.
 /// @param item    the values; `id` is not read
 /// @param number  of the access list, 0 to 2; with another one nothing is sent
+/// @remark errno: as sqlclient_cmd(), and EINVAL for another number
 ROUTERDB_API void AddAclItem(const AclItem *item, int number);
 
 /// Writes every column of one entry of a Wi-Fi access list.
 /// @param item    the values; `id` names the row
 /// @param number  of the access list, 0 to 2; with another one nothing is sent
+/// @remark errno: as sqlclient_cmd(), and EINVAL for another number
 ROUTERDB_API void ModifyAclItem(const AclItem *item, int number);
 
 /// Deletes entries of a Wi-Fi access list.
 /// @param condition  an SQL condition
 /// @param number     of the access list, 0 to 2; with another one nothing is sent
+/// @remark errno: as sqlclient_cmd(), and EINVAL for another number and for a condition that is refused
 ROUTERDB_API void DelAclItem(const char *condition, int number);
 
 /// Deletes all entries of a Wi-Fi access list.
 /// @param number  of the access list, 0 to 2; with another one nothing is sent
+/// @remark errno: as sqlclient_cmd(), and EINVAL for another number
 ROUTERDB_API void DelAclItemAll(int number);
 
 /// Deletes the entries of a MAC address from a Wi-Fi access list.
 /// @param mac     the address, as the table has it
 /// @param number  of the access list, 0 to 2; with another one nothing is sent
+/// @remark errno: as sqlclient_cmd(), and EINVAL for another number
 ROUTERDB_API void DelAclItemByMac(const char *mac, int number);
 
 /// Lists all domain-to-IP entries in order of their ids.
 /// @param[out] list  filled whole: count, that many records, zero behind
+/// @remark errno: as sqlclient_cmd(), and EOVERFLOW for more records than fit
 ROUTERDB_API void GetDomainIpItemList(DomainIpItemList *list);
 
 /// Reads one domain-to-IP entry.
 /// @param      id    its id
 /// @param[out] item  filled; cleared when there is no such row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void GetDomainIpItem(int id, DomainIpItem *item);
 
 /// Inserts a domain-to-IP entry. The table chooses the id.
 /// @param item  the values; `id` is not read
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void AddDomainIpItem(const DomainIpItem *item);
 
 /// Writes every column of one domain-to-IP entry.
 /// @param item  the values; `id` names the row
+/// @remark errno: as sqlclient_cmd()
 ROUTERDB_API void ModifyDomainIpItem(const DomainIpItem *item);
 
 /// Deletes domain-to-IP entries.
 /// @param condition  an SQL condition
 /// @note The request carries the table id of the IP and port filters.
+/// @remark errno: as sqlclient_cmd(), and EINVAL for a condition that is refused
 ROUTERDB_API void DelDomainIpItem(const char *condition);
 
 /// @}
@@ -1193,6 +1315,7 @@ ROUTERDB_API void DelDomainIpItem(const char *condition);
 /// @param      id     id of the group
 /// @param[out] group  filled; cleared when there is no such group
 /// @note Errors: "cannot prepare sql cmdline, Error: %s\n" on standard output. As thread-safe as the connection.
+/// @remark errno: EINVAL for what the authorizer of the connection refuses; EACCES, ENOMEM, EIO
 ROUTERDB_API void GetTimeControlById(sqlite3 *db, int id, TimeGroupItem *group);
 
 /// Reads name and range of one IP group on a connection that the caller holds open.
@@ -1200,6 +1323,7 @@ ROUTERDB_API void GetTimeControlById(sqlite3 *db, int id, TimeGroupItem *group);
 /// @param      id     id of the group
 /// @param[out] group  `name`, `startip` and `endip` are filled, the rest is cleared
 /// @note Errors: "Error: %s" on standard output. As thread-safe as the connection.
+/// @remark errno: as GetTimeControlById()
 ROUTERDB_API void GetIpGroup_IpRangeById(sqlite3 *db, int id, IpGroupItem *group);
 
 /// Reads the names of an application class from the application catalogue.
@@ -1207,6 +1331,7 @@ ROUTERDB_API void GetIpGroup_IpRangeById(sqlite3 *db, int id, IpGroupItem *group
 /// @param[out] name     receives the name whole; untouched when there is no such class
 /// @param[out] name_en  receives the English name whole; untouched when there is no such class
 /// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API void GetClassNameByClassId(int id, char *name, char *name_en);
 
 /// Reads the names of an application from the application catalogue.
@@ -1215,6 +1340,7 @@ ROUTERDB_API void GetClassNameByClassId(int id, char *name, char *name_en);
 /// @param[out] name      receives the name whole; untouched when there is no such application
 /// @param[out] name_en   receives the English name whole; untouched when there is no such application
 /// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
+/// @remark errno: EOVERFLOW for a text that is too long for SQLite; EACCES, ENOMEM, EIO
 ROUTERDB_API void GetAppNameByClassIdAppfeature(int class_id, const char *feature, char *name, char *name_en);
 
 /// Turns the classes and features of a behaviour rule into names: "3:f1?f2AND7:f9" into "Class A:App 1?App 2ANDClass
@@ -1224,6 +1350,7 @@ ROUTERDB_API void GetAppNameByClassIdAppfeature(int class_id, const char *featur
 /// @param[in,out] names     a text; the names are appended whole, whatever their length
 /// @param[in,out] names_en  a text; the English names are appended whole, whatever their length
 /// @note Errors: "Error: %s" on standard output. Thread-safe; takes no lock.
+/// @remark errno: as GetAppNameByClassIdAppfeature(); of several lookups that failed the last one counts
 ROUTERDB_API void GetBehaviorItemInfoTypeName(const char *info, char *names, char *names_en);
 
 /// @}
@@ -1356,6 +1483,7 @@ typedef struct ApDevUpgradeList {
 /// @return the number of rows read: 1, or 0 when there is no such row or the database cannot be read
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" in the system log.
 ///       First sleep 55 microseconds. Thread-safe; takes no lock.
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int DB_getinfo(DevInfo *out, unsigned long sn, int convert);
 
 /// Reads all access points in order of their addresses.
@@ -1364,12 +1492,14 @@ ROUTERDB_API int DB_getinfo(DevInfo *out, unsigned long sn, int convert);
 /// @return 1 when there is one at least, else 0
 /// @note Errors: those of GET_DB_SQL_INT(), then "cannot open %s, ErrorCode: %d!\n" on standard error and "cannot
 ///       prepare sql cmdline, Error: %s\n" in the system log. It takes the lock file while it counts. Without memory
-///       the list ends early; more rows than ROUTERDB_DEVICE_LIST_CAPACITY are not read, which in modern errno
-///       (EOVERFLOW) and the system log tell.
+///       the list ends early; more rows than ROUTERDB_DEVICE_LIST_CAPACITY are not read, which in modern the system
+///       log tells.
+/// @remark errno: as DB_GetDevSNCollection(), and EOVERFLOW for more rows than fit
 ROUTERDB_API int GetApDevList(ApDevList *list, int convert);
 
 /// Releases the records of a list and sets their pointers to null; the count stays.
 /// @param[in,out] list  from GetApDevList()
+/// @remark errno is left alone
 ROUTERDB_API void FreeApDevList(ApDevList *list);
 
 /// @}
@@ -1384,6 +1514,7 @@ ROUTERDB_API void FreeApDevList(ApDevList *list);
 /// @param      dev  its `Dev_MAC` is read
 /// @param[out] sn   receives the serial number of a known one, 0 when several rows have the address
 /// @return 1 when it is known, 0 when it is not or cannot be looked up, -1 without a MAC address
+/// @remark errno: EINVAL without a MAC address; EACCES, ENOMEM, EIO
 ROUTERDB_API int DB_findinfo2(DevInfo dev, unsigned long *sn);
 
 /// Decides whether an access point is new, by up to sixteen lookups, 100 microseconds apart. For a new one with MAC and
@@ -1394,6 +1525,7 @@ ROUTERDB_API int DB_findinfo2(DevInfo dev, unsigned long *sn);
 ///                  address as a number in network order, all bits set for a text that is none
 /// @return 1 when it is known, 0 when it is new, also when the lookup cannot be prepared, -1 when the database cannot
 ///         be opened for it
+/// @remark errno: as DB_UpdateInfo()
 ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 
 /// Registers an access point: inserts a new one (at most ROUTERDB_MAX_DEVICES), writes what it reports, marks it
@@ -1408,18 +1540,21 @@ ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 /// lookup.
 /// @note Copies the database as DbSqlExec() does when the text of its update contains "insert".
 /// @note Errors: "not have enough mem" in the system log.
+/// @remark errno: as DB_UpdateInfo(), and EOVERFLOW for a new one when the table is full
 ROUTERDB_API int DB_addinfo(DevInfo dev);
 
 /// Writes a record into the rows of its MAC address, its WLAN group too, its status and upgrade status not.
 /// @param dev  the record; SSIDs as in DB_addinfo()
 /// @note Errors: "not have enough mem" in the system log, and the messages of DB_EXEC_SQL_CHAR(). The caller's program
 ///       is not told.
+/// @remark errno: as DB_UpdateInfo()
 ROUTERDB_API void DB_saveinfo(const DevInfo *dev);
 
 /// Writes the configuration in a record into the row of its serial number and marks it online. The transmit power is
 /// written from 10 to 100 only. What the access point reports about itself is left out.
 /// @param dev  the record; SSIDs are written as they stand
 /// @return as DB_EXEC_SQL_CHAR(): 0 also when there is no such row
+/// @remark errno: what open gave for the lock file, such as ENOENT; EACCES, ENOSPC, ENOMEM, EIO
 ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
 
 /// @}
@@ -1433,79 +1568,95 @@ ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
 /// Sets the status of the access point with a MAC address.
 /// @param mac     the address, as the table has it
 /// @param status  a text; one that does not start with a number other than 0 also sets both station counts to '0'
+/// @remark errno: as DB_UpdateInfo(), and EOVERFLOW for a text that is too long for SQLite
 ROUTERDB_API void SetDevStatus(const char *mac, const char *status);
 
 /// As SetDevStatus(), by IP address.
 /// @param ip      the address, dotted
 /// @param status  as in SetDevStatus()
+/// @remark errno: as SetDevStatus()
 ROUTERDB_API void SetDevStatusbyIP(const char *ip, const char *status);
 
 /// Reads the status of an access point.
 /// @param      mac  the address
 /// @param[out] out  room for 5 bytes, at which the text is cut; "0" when there is no such row
+/// @remark errno: EOVERFLOW for a text that is too long for SQLite; EACCES, ENOMEM, EIO
 ROUTERDB_API void GetDevStatus(const char *mac, char *out);
 
 /// Reads the upgrade status of an access point.
 /// @param      mac  the address
 /// @param[out] out  room for 25 bytes, at which the text is cut; "0" when there is no such row
+/// @remark errno: as GetDevStatus()
 ROUTERDB_API void GetDevUpgradeStatus(const char *mac, char *out);
 
 /// Reads the MAC address of an access point.
 /// @param      sn   its serial number
 /// @param[out] out  room for 20 bytes, at which the text is cut; untouched when there is no such row
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API void GetDevMacBySN(unsigned long sn, char *out);
 
 /// Reads the serial number of an access point by its MAC address.
 /// @param      mac  the address
 /// @param[out] sn   untouched when there is no such row, 0 when there are several
+/// @remark errno: as GetDevStatus()
 ROUTERDB_API void GetDevSNByMac(const char *mac, unsigned long *sn);
 
 /// Reads the serial number of an access point by its IP address.
 /// @param      ip  the address, dotted
 /// @param[out] sn  untouched when there is no such row, 0 when there are several
+/// @remark errno: as GetDevStatus()
 ROUTERDB_API void GetDevSNByIp(const char *ip, unsigned long *sn);
 
 /// Sets the upgrade status of an access point and announces it with "/bin/send_event 5 4 mod#%lu >/dev/null 2>&1 &",
 /// with the number 0 when there is no such row.
 /// @param mac     the address
 /// @param status  a text
+/// @remark errno: as SetDevStatus()
 ROUTERDB_API void SetDevUpgradeStatus(const char *mac, const char *status);
 
 /// Counts the rows of a table of the main database.
 /// @param table  its name, put into the statement as given; in modern nothing but the name of a table is counted
 /// @return the number of rows; 0 when they cannot be read
+/// @remark errno: as GetDevStatus()
 ROUTERDB_API int GetTableCount(const char *table);
 
 /// Counts the access points.
 /// @return their number; 0 when they cannot be read
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int get_devinfo_count(void);
 
 /// Counts the access points that are online.
 /// @return their number, as GET_DB_SQL_INT_COUNT_ROUTE() gives it
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int GetApDevList_count(void);
 
 /// Deletes the upgrade entries of a firmware.
 /// @param info  its `Dev_SwName` is read; null or an empty name does nothing
 /// @return 0
+/// @remark errno: as DB_UpdateInfo()
 ROUTERDB_API int DeleteApDevUpgradeInfo(const ApDevUpgradeInfo *info);
 
 /// Does nothing.
 /// @param list  left as it is
+/// @remark errno is left alone
 ROUTERDB_API void GetApDevUpgradeList(ApDevUpgradeList *list);
 
 /// Releases the records of a list and the block that each owns, and sets their pointers to null; the count stays.
 /// @param[in,out] list  the list
+/// @remark errno is left alone
 ROUTERDB_API void FreeApDevUpgradeList(ApDevUpgradeList *list);
 
 /// Runs "select Dev_Sn from DevInfo order by Dev_IPSUM ;" under the lock file and delivers none of its rows.
 /// @param[in,out] collection  a collection, which starts with its count; the count becomes 0, or stays after a failure
 /// @return 0; -1 if the lock file or the database cannot be opened or the statement fails, messages as in DbSqlExec()
 /// @note Random first delay.
+/// @remark errno: what open gave for the lock file, such as ENOENT; EACCES, ENOMEM, EIO
 ROUTERDB_API int DB_GetDevSNCollection(uint32_t *collection);
 
 /// As DB_GetDevSNCollection(), with "select WlanGroup_Id from WlanGroupInfo;".
 /// @param[in,out] collection  as there
 /// @return as there
+/// @remark errno: as DB_GetDevSNCollection()
 ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
 
 /// @}
@@ -1521,10 +1672,12 @@ ROUTERDB_API int DB_GetWlanGroupIDCollection(uint32_t *collection);
 /// closed
 /// @note Errors: "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on
 ///       standard output. First sleep 55 microseconds. Thread-safe; takes no lock.
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int DB_getwlangroupinfoByindex(DevInfo *group, int groupId);
 
 /// Counts the WLAN groups, as GetTableCount() does.
 /// @return their number; 0 when they cannot be read
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int get_wlangroupinfo_count(void);
 
 /// Compares what an access point has with what its WLAN group wants: group number, networks, and of each radio
@@ -1536,6 +1689,7 @@ ROUTERDB_API int get_wlangroupinfo_count(void);
 /// @param group  the group
 /// @return 0 when they agree, 1 when they differ
 /// @note Different group numbers are written to standard output: "CompareDevInfoWithGroupInfo 6054\n". Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API int CompareDevInfoWithGroupInfo(DevInfo dev, DevInfo group);
 
 /// Gives an access point the settings of its WLAN group. Channel, mode, bandwidth, transmit power and station limit of
@@ -1547,6 +1701,7 @@ ROUTERDB_API int CompareDevInfoWithGroupInfo(DevInfo dev, DevInfo group);
 /// @param         group  the group
 /// @return no meaning
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API char *SetDevInfoFromWlanGroupInfo(DevInfo *dev, const DevInfo *group);
 
 /// @}
@@ -1560,6 +1715,7 @@ ROUTERDB_API char *SetDevInfoFromWlanGroupInfo(DevInfo *dev, const DevInfo *grou
 ///         number otherwise, also when the group could not be read
 /// @note Errors: those of DB_EXEC_SQL_CHAR_INT(), which counts the groups first, in the system log; then as
 ///       DB_getwlangroupinfoByindex(), for a database that could be opened for the count only. Takes no lock.
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int DB_getwlanzerocfggroupinfo(DevInfo *group);
 
 /// Reads one group.
@@ -1567,6 +1723,7 @@ ROUTERDB_API int DB_getwlanzerocfggroupinfo(DevInfo *group);
 /// @param      groupId  its number
 /// @return 0, also when there is no such group; -1 when the database cannot be opened
 /// @note Errors: as DB_getwlangroupinfoByindex(). Random first delay.
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int DB_getwlanzerocfggroupinfoByindex(DevInfo *group, int groupId);
 
 /// Fills a record with the defaults of a new group. Its name ends in the number behind the highest one, or in 1 when
@@ -1575,6 +1732,7 @@ ROUTERDB_API int DB_getwlanzerocfggroupinfoByindex(DevInfo *group, int groupId);
 /// @return no meaning
 /// @note Errors: those of GET_DB_SQL_INT(), once for the first number and once for the highest; after both the name
 ///       ends in 0. Takes the lock file for each of the two. Random first delay.
+/// @remark errno: as DB_GetDevSNCollection()
 ROUTERDB_API int Initialwlanzerocfggroupinfo(DevInfo *group);
 
 /// Reads a group, or makes a new one.
@@ -1582,6 +1740,7 @@ ROUTERDB_API int Initialwlanzerocfggroupinfo(DevInfo *group);
 /// @param      groupIdText  its number; a text that is no number, or 0, asks for a new group
 /// @return as DB_getwlanzerocfggroupinfoByindex(), or no meaning for a new group
 /// @note Errors and locks: as DB_getwlanzerocfggroupinfoByindex() or Initialwlanzerocfggroupinfo().
+/// @remark errno: as DB_getwlanzerocfggroupinfoByindex() or Initialwlanzerocfggroupinfo()
 ROUTERDB_API int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText);
 
 /// Writes a group.
@@ -1590,6 +1749,7 @@ ROUTERDB_API int GetWlanZeroCfgGroupInfo(DevInfo *group, const char *groupIdText
 /// @return the number written to, whether or not that succeeded
 /// @note Errors and locks: as GET_DB_SQL_INT(), which looks at the first group also when its number is not needed, and
 ///       as DB_EXEC_SQL_CHAR(). Two callers that save new groups at the same moment may get the same number.
+/// @remark errno: as DB_UpdateInfo()
 ROUTERDB_API int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId);
 
 /// As CompareDevInfoWithGroupInfo(), except that group numbers do not count, and transmit power and reboot times do.
@@ -1597,6 +1757,7 @@ ROUTERDB_API int DB_savezerocfgwlangroupinfo(DevInfo group, int groupId);
 /// @param group  the group
 /// @return 0 when they agree, 1 when they differ
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API int CompareDevInfoWithZeroGroupInfo(DevInfo dev, DevInfo group);
 
 /// As SetDevInfoFromWlanGroupInfo(), except that the group number stays, and channels, transmit powers and reboot times
@@ -1606,6 +1767,7 @@ ROUTERDB_API int CompareDevInfoWithZeroGroupInfo(DevInfo dev, DevInfo group);
 /// @param         group  the group
 /// @return no meaning
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInfo *group);
 
 /// @}
@@ -1643,18 +1805,21 @@ typedef struct AppFeatureList {
 /// @param      db       an open connection to the application catalogue
 /// @note Errors: "Webserver Error: %s" on standard output. First sleep 55 microseconds. As thread-safe as the
 ///       connection.
+/// @remark errno: as GetTimeControlById()
 ROUTERDB_API void GetAppinfosByClassId(int classId, char *out, sqlite3 *db);
 
 /// As GetAppinfosByClassId(), with the English names.
 /// @param      classId  number of the class
 /// @param[out] out      as there
 /// @param      db       as there
+/// @remark errno: as GetTimeControlById()
 ROUTERDB_API void GetAppinfosEnByClassId(int classId, char *out, sqlite3 *db);
 
 /// As GetAppinfosByClassId(), with the feature texts.
 /// @param      classId  number of the class
 /// @param[out] out      as there
 /// @param      db       as there
+/// @remark errno: as GetTimeControlById()
 ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
 
 /// Prints all application classes, each with its applications.
@@ -1664,24 +1829,28 @@ ROUTERDB_API void GetAppFeaturesByClassId(int classId, char *out, sqlite3 *db);
 ///       object; one that can be opened then and not for the list leaves the object unfinished without a word. The
 ///       exact profile closes descriptor 0 after the count, and again behind a list, whatever has taken that number
 ///       meanwhile; behind an unfinished object of that kind, the descriptor whose number is SQLite's result code.
+/// @remark errno: EACCES, ENOMEM, EIO, and none for names that could not be joined
 ROUTERDB_API int GetAppClassItemList(void);
 
 /// Prints one application class. The count is that of all classes.
 /// @param id  its number, a value as item 4 above says
 /// @return no meaning
 /// @note Errors and descriptors as GetAppClassItemList().
+/// @remark errno: as GetAppClassItemList(), and EOVERFLOW for a text that is too long for SQLite
 ROUTERDB_API int GetAppClassItem(const char *id);
 
 /// Prints one application.
 /// @param id  its number, a value as item 4 above says
 /// @return no meaning
 /// @note Errors and descriptors as GetAppClassItemList().
+/// @remark errno: EOVERFLOW for a text that is too long for SQLite; EACCES, ENOMEM, EIO
 ROUTERDB_API int GetAppInfoItem(const char *id);
 
 /// Prints the applications of a class.
 /// @param classId  number of the class, a value as item 4 above says; it also goes into each element
 /// @return no meaning
 /// @note Errors and descriptors as GetAppClassItemList().
+/// @remark errno: EOVERFLOW for a text that is too long for SQLite; EACCES, ENOMEM, EIO
 ROUTERDB_API int GetAppInfoItemListByClassid(const char *classId);
 
 /// Reads the feature texts of a class from the main database, under the lock file if there is one. Prints no object.
@@ -1689,6 +1858,7 @@ ROUTERDB_API int GetAppInfoItemListByClassid(const char *classId);
 /// @param      classId  number of the class
 /// @return no meaning
 /// @note Errors: "cannot open %s!\n" and "Error: %s" on standard output. Random first delay.
+/// @remark errno: EOVERFLOW for more rows than fit; EACCES, ENOMEM, EIO
 ROUTERDB_API int GetAppItemListByClassId(AppFeatureList *list, int classId);
 
 /// Prints one page of the access points, with totals.
@@ -1707,6 +1877,7 @@ ROUTERDB_API int GetAppItemListByClassId(AppFeatureList *list, int classId);
 ///       GET_DB_SQL_INT_COUNT_ROUTE(), which counts first, in front of the object ("Error: %s" on standard output);
 ///       then "cannot open %s, ErrorCode: %d!\n" and "cannot prepare sql cmdline, Error: %s\n" on standard error.
 ///       Random first delay; takes no lock.
+/// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int GetApDevList_cgi(int page, int mode, int groupId, int flag, const char *ip, const char *mac,
                                   int pageSize);
 
@@ -1716,17 +1887,20 @@ ROUTERDB_API int GetApDevList_cgi(int page, int mode, int groupId, int flag, con
 ///       GET_DB_SQL_INT(), which looks at the first group under the lock file, in front of the object; then "cannot
 ///       open %s, ErrorCode: %d!\n" on standard error, "cannot prepare sql cmdline, Error: %s\n" on standard output.
 ///       Random first delay.
+/// @remark errno: as DB_GetDevSNCollection()
 ROUTERDB_API int GetWlanZeroCfgGroupList(void);
 
 /// Asks an access point for its stations with the program capwapmanage and prints them, with a line break after the
 /// first piece and, if the answer can be read, at the end. Takes a tenth of a second and more; calls sync.
 /// @param devIp  its address. The exact profile puts it into shell commands as given: callers check it. The modern one
 ///               takes nothing but four decimal numbers with dots between them: for anything else it runs nothing,
-///               prints the short object, sets errno to EINVAL, and logs "stations not listed: no IPv4 address\n"
+///               prints the short object, and logs "stations not listed: no IPv4 address\n"
 /// @return no meaning
 /// @note Leaves "/var/stalist_<n>", n from 1 to 10 at random, and the trace "/tmp/sta_log". Two calls at the same
 ///       moment may meet in one file in the exact profile. The modern one starts the program without a shell, and its
 ///       file is a new one each time that only the caller can read.
+/// @remark errno: EINVAL for what is no address; what the system gave where the program cannot be started or its file
+///         not be made, such as ENOENT; ENOMEM
 ROUTERDB_API int GetApDevStaList(const char *devIp);
 
 /// @}
@@ -1758,12 +1932,14 @@ typedef struct LeaseNode {
 /// @param pidFile  path of a pid file
 /// @return the number that its first line starts with, 0 without one; -1 if the file cannot be opened
 /// @note Thread-safe.
+/// @remark errno, in exact too: what fopen or fgets gave, such as ENOENT
 ROUTERDB_API int getPid_sql(const char *pidFile);
 
 /// Allocates a block of zero bytes.
 /// @param size  in bytes
 /// @return the block, to be released with free_buffer_sql() or free; null without memory
 /// @note Thread-safe.
+/// @remark errno, in exact too: ENOMEM
 ROUTERDB_API void *get_buffer_sql(size_t size);
 
 /// Overwrites a block with zero bytes and frees it.
@@ -1771,17 +1947,20 @@ ROUTERDB_API void *get_buffer_sql(size_t size);
 /// @param size  of the block in bytes
 /// @return 0
 /// @note Thread-safe.
+/// @remark errno is left alone
 ROUTERDB_API int free_buffer_sql(void *p, size_t size);
 
 /// Frees a list of leases, each node overwritten with zero bytes first.
 /// @param[in,out] head  the head of the list, null afterwards
 /// @note As thread-safe as the list.
+/// @remark errno is left alone
 ROUTERDB_API void free_leaselist_sql(LeaseNode **head);
 
 /// Fills a node from a lease. A null argument ends the process through an assertion.
 /// @param[in,out] mac_ip_list  the node; its link and its first word stay
 /// @param         lease        the lease
 /// @note As thread-safe as inet_ntoa of the C library: that of GNU is.
+/// @remark errno is left alone
 ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRecord *lease);
 
 /// Asks the DHCP server to write its leases (SIGUSR1), waits a millisecond, and reads a binary lease file into a list.
@@ -1793,6 +1972,7 @@ ROUTERDB_API void add_addrserverlease_sql(LeaseNode *mac_ip_list, const LeaseRec
 /// @return the number of nodes; 0 if the lease file cannot be opened ("could not open input file" through perror).
 ///         Without memory the list ends early
 /// @note As thread-safe as add_addrserverlease_sql().
+/// @remark errno: what fopen gave for the lease file, such as ENOENT, and none for one that could not be read; ENOMEM
 ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFile, const char *pidFile);
 
 /// Asks the DHCP server to write its leases, and finds the host name of a MAC address in a text lease file. Of an
@@ -1803,6 +1983,7 @@ ROUTERDB_API int get_addrserver_leases_sql(LeaseNode **head, const char *leaseFi
 /// @param      pidFile    path of the server's pid file, as for get_addrserver_leases_sql()
 /// @return 1 when the file was read, 0 if it cannot be opened ("could not open input file" through perror)
 /// @note Thread-safe. In the exact profile each call leaves one stream of the lease file open.
+/// @remark errno: what fopen gave for the lease file, such as ENOENT, and none for one that could not be read
 ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname, const char *leaseFile,
                                                 const char *pidFile);
 
@@ -1812,6 +1993,7 @@ ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname,
 /// @param      flag      not read
 /// @note Errors: "could not open input file" through perror. Thread-safe. Each call leaves one stream of the lease file
 ///       open.
+/// @remark errno: as get_hostname_by_mac_from_lease()
 ROUTERDB_API void get_hostname_by_mac(const char *mac, char *hostname, int flag);
 
 /// @}

@@ -40,8 +40,9 @@ class Symbol:
         self.arguments = [self.argument(item) for item in details.iter("parameteritem")]
         self.result = self.remarks(details, "return")
         notes = [note.partition("Errors: ") for note in self.remarks(details, "note")]
-        self.errors = [errors for _, _, errors in notes if errors]
+        self.messages = [messages for _, _, messages in notes if messages]
         self.notes = [note for note, _, _ in notes if note]
+        self.errors = self.remarks(details, "remark")
         self.words = set(re.findall(r"\w+", text_of(details) + self.brief))
 
     @staticmethod

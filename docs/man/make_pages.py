@@ -12,12 +12,16 @@ import sys
 import textwrap
 
 from header import Header
-from roff import escape, filled, section, see_also, sentence, tagged
+from roff import ended, escape, filled, section, see_also, sentence, tagged
 
 SYNOPSIS = [".SH SYNOPSIS", ".nf", ".B #include <routerdb.h>", ".PP"]
 LINE = 72  # of a prototype, which is indented by seven
 UNBROKEN = "\0"
 FONTS = re.compile(r"\\f[BIP]")
+ERRORS_HOLD = (
+    "This holds for libraries that were built in the modern profile; for those of the exact one too where it says so. "
+    "What the names stand for is said in \\fBrouterdb\\fP(3)."
+)
 LIBRARY = [".SH LIBRARY", "Access to the configuration databases", ".RI ( librouterdb , \\ \\-lrouterdb )"]
 
 
@@ -62,7 +66,8 @@ def function_page(function, group, header):
         tag = f'.IR {name} " ({direction})"' if direction else f".I {name}"
         lines += tagged(tag, sentence(text))
     lines += section("RETURN VALUE", [sentence(text) for text in function.result])
-    lines += section("ERRORS", [sentence(text) for text in function.errors])
+    lines += section("ERRORS", [ERRORS_HOLD] + [ended(text) for text in function.errors])
+    lines += section("DIAGNOSTICS", [sentence(text) for text in function.messages])
     lines += section("NOTES", function.notes)
     if group.text.paragraphs != [""]:
         lines += [] if function.notes else [".SH NOTES"]

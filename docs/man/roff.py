@@ -35,9 +35,12 @@ def filled(text):
     return ["\\&" + line if line.startswith(".") else line for line in lines]
 
 
-def sentence(text):
-    text = text[:1].upper() + text[1:]
+def ended(text):
     return text if text.endswith((".", ":")) else text + "."
+
+
+def sentence(text):
+    return ended(text[:1].upper() + text[1:])
 
 
 def section(title, paragraphs):
