@@ -35,7 +35,7 @@ if(ROUTERDB_TOOLS)
     install(TARGETS routerdb-sqld DESTINATION ${CMAKE_INSTALL_SBINDIR})
     # The manual page names the paths that are compiled in.
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/core/paths.h)
-    foreach(name lock_file service_socket)
+    foreach(name lock_file service_lock service_socket)
         file(STRINGS src/core/paths.h line REGEX " ${name}\\[\\] = ")
         string(REGEX REPLACE ".*\"(.*)\".*" "\\1" ${name} "${line}")
     endforeach()

@@ -18,5 +18,7 @@ inline constexpr char station_list_start[] = "/var/stalist_";  // and a number
 inline constexpr char text_leases[] = "/var/dhcp.leases";
 inline constexpr char dhcp_server_pid[] = "/var/run/dnsmasq/dnsmasq.pid";
 inline constexpr char service_socket[] = "/var/sqlserver_socket";
+inline constexpr char new_service_socket[] = "/var/sqlserver_socket.new";  // until it can be connected to
+inline constexpr char service_lock[] = "/var/sqlserver_socket.lock";       // held by the service that runs
 
 }  // namespace routerdb::paths

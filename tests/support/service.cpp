@@ -14,7 +14,8 @@ std::vector<std::string> sqld(const std::vector<std::string> &arguments) {
     return words;
 }
 
-Service::Service() : process_([] { return become(sqld()); }) {
+Service::Service(const std::vector<std::string> &arguments)
+    : process_([&arguments] { return become(sqld(arguments)); }) {
     const bool served = eventually([] {
         const Peer peer;
         peer.finish();

@@ -17,7 +17,7 @@ std::vector<std::string> sqld(const std::vector<std::string> &arguments = {});
 class Service {
 public:
     /// Waits until it has served a first connection, which says nothing.
-    Service();
+    explicit Service(const std::vector<std::string> &arguments = {});
 
     /// The processes that serve connections.
     std::vector<pid_t> children() const;

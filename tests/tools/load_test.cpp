@@ -76,7 +76,7 @@ TEST(SqldLoad, says_which_signal_has_ended_a_request) {
     EXPECT_EQ(lines, std::vector<std::string>{"27 a request ended its process with signal 15"});
 }
 
-TEST(SqldLoad, drops_peers_that_dawdle_after_ten_seconds_and_serves_the_others_meanwhile) {
+TEST(SqldLoad, drops_peers_that_dawdle_after_five_seconds_and_serves_the_others_meanwhile) {
     constexpr std::size_t big_list = std::size_t{200} * 1952;  // more than a connection holds
     support::execute(
         "with recursive numbers(n) as (select 1 union all select n + 1 from numbers where n < 200)"
@@ -102,7 +102,7 @@ TEST(SqldLoad, drops_peers_that_dawdle_after_ten_seconds_and_serves_the_others_m
         usleep(100'000);
     }
     EXPECT_LT(Clock::now() - start, std::chrono::seconds(60));
-    EXPECT_GE(patience, std::chrono::seconds(9));
+    EXPECT_GE(patience, std::chrono::seconds(4));
     EXPECT_GT(trickled, 9U);
     EXPECT_TRUE(trickling.hung_up());
     EXPECT_LT(not_reading.receive().size(), big_list);
@@ -112,9 +112,10 @@ TEST(SqldLoad, drops_peers_that_dawdle_after_ten_seconds_and_serves_the_others_m
                               "27 filter_url has more rows than a list of 128 takes, the rest is left out\n"),
                   reasons.end());
     std::sort(reasons.begin(), reasons.end());
-    EXPECT_EQ(reasons, (std::vector<std::string>{"28 reply not delivered: Connection timed out",
-                                                 "28 request refused, its header breaks off: Connection timed out",
-                                                 "28 request refused, its text breaks off: Connection timed out"}));
+    const std::string own = " (user " + std::to_string(getuid()) + ", process " + std::to_string(getpid()) + ")";
+    EXPECT_EQ(reasons, (std::vector<std::string>{"28 request answered, its reply is not taken" + own,
+                                                 "28 request refused, its header comes too slowly" + own,
+                                                 "28 request refused, its text comes too slowly" + own}));
 }
 
 }  // namespace

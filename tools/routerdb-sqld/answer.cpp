@@ -55,13 +55,13 @@ void *make_list(std::size_t bytes) {
 bool answer_list(int fd, const Request &request, const Builder &builder) {
     Query query(request.text);
     if (!query.usable()) {
-        return send_reply(fd, request, nullptr, 0);
+        return refuse(fd, query.reason());
     }
     const std::size_t rows = query.count_rows();
     const std::size_t room = rows > ROUTERDB_LIST_CAPACITY ? rows : ROUTERDB_LIST_CAPACITY;
     void *list = make_list(sizeof(std::uint32_t) + room * builder.record_size);
     if (list == nullptr) {
-        return send_reply(fd, request, nullptr, 0);
+        return false;
     }
     builder.build(list, request.text);
     std::uint32_t count = 0;
@@ -71,7 +71,10 @@ bool answer_list(int fd, const Request &request, const Builder &builder) {
 
 bool answer_scalar(int fd, const Request &request) {
     Query query(request.text);
-    const char *text = query.usable() ? query.first_text() : nullptr;
+    if (!query.usable()) {
+        return refuse(fd, query.reason());
+    }
+    const char *text = query.first_text();
     return send_reply(fd, request, text, text != nullptr ? std::strlen(text) + 1 : 0);
 }
 
@@ -80,23 +83,22 @@ bool answer_query(int fd, const Request &request) {
         return answer_scalar(fd, request);
     }
     const Builder *builder = find_builder(request.table_id);
-    if (builder == nullptr) {
-        syslog(LOG_WARNING, "no list for table %u", request.table_id);
-        return send_reply(fd, request, nullptr, 0);
-    }
-    return answer_list(fd, request, *builder);
+    return builder != nullptr ? answer_list(fd, request, *builder) : refuse(fd, "no such table");
 }
 
-bool answer_execute(int fd, Request &request) {
+bool answer_execution(int fd, Request &request, const Settings &settings) {
+    if (!may_execute(request.text, settings.may_change_schema)) {
+        return refuse(fd, "it does more than change rows");
+    }
     if (DbSqlExec(request.text) != 0) {
-        syslog(LOG_ERR, "failed: \"%s\"", request.text);
+        tell(fd, "failed");
     }
     return send_reply(fd, request, nullptr, 0);
 }
 
 }  // namespace
 
-bool answer(int fd) {
+bool answer(int fd, const Settings &settings) {
     static Request request;  // too large for the stack of a small target
     if (!receive_request(fd, request)) {
         return false;
@@ -105,10 +107,9 @@ bool answer(int fd) {
         case ROUTERDB_QUERY:
             return answer_query(fd, request);
         case ROUTERDB_EXECUTE:
-            return answer_execute(fd, request);
+            return answer_execution(fd, request, settings);
         default:
-            syslog(LOG_WARNING, "request refused, unknown operation %u", request.operation);
-            return false;
+            return refuse(fd, "unknown operation");
     }
 }
 

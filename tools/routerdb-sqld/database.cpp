@@ -1,9 +1,9 @@
 #include "database.h"
 
-#include <syslog.h>
 #include <unistd.h>
 
 #include "core/paths.h"
+#include "permission.h"
 #include "routerdb.h"
 
 namespace sqld {
@@ -16,24 +16,22 @@ int wait_and_try_again(void * /*unused*/, int /*attempts*/) {
     return 1;
 }
 
+bool open_main_database(sqlite3 *&db) {
+    return sqlite3_open_v2(routerdb::paths::main_database, &db, SQLITE_OPEN_READWRITE, nullptr) == SQLITE_OK &&
+           sqlite3_busy_handler(db, wait_and_try_again, nullptr) == SQLITE_OK;
+}
+
 }  // namespace
 
 Query::Query(const char *sql) : lock_(get_db_lock()) {
     if (lock_ < 0) {
-        return;  // the library has said so
-    }
-    if (sqlite3_open_v2(routerdb::paths::main_database, &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
-        syslog(LOG_ERR, "cannot open the main database: %s", sqlite3_errmsg(db_));
         return;
     }
-    sqlite3_busy_handler(db_, wait_and_try_again, nullptr);
-    if (sqlite3_prepare_v2(db_, sql, -1, &statement_, nullptr) != SQLITE_OK) {
-        syslog(LOG_ERR, "cannot prepare \"%s\": %s", sql, sqlite3_errmsg(db_));
-    } else if (statement_ != nullptr && sqlite3_stmt_readonly(statement_) == 0) {
-        syslog(LOG_ERR, "not a query: \"%s\"", sql);
-        sqlite3_finalize(statement_);
-        statement_ = nullptr;
+    if (!open_main_database(db_)) {
+        reason_ = "the main database cannot be opened";
+        return;
     }
+    reason_ = prepare_query(db_, sql, statement_);
 }
 
 Query::~Query() {
@@ -58,6 +56,13 @@ const char *Query::first_text() {
         return nullptr;
     }
     return reinterpret_cast<const char *>(sqlite3_column_text(statement_, 0));
+}
+
+bool may_execute(const char *sql, bool may_change_schema) {
+    sqlite3 *db = nullptr;
+    const bool may = !open_main_database(db) || may_execute(db, sql, may_change_schema);  // or it fails anyway
+    sqlite3_close(db);
+    return may;
 }
 
 }  // namespace sqld

@@ -8,7 +8,7 @@
 namespace sqld {
 
 /// The first row of a query under the database lock, or the number of its rows. Waits as long as the database is
-/// busy. Only statements that change nothing are run.
+/// busy. Only a single statement that reads is run.
 class Query {
 public:
     explicit Query(const char *sql);
@@ -16,8 +16,10 @@ public:
     Query &operator=(const Query &) = delete;
     ~Query();
 
-    /// @return false after the reason went to the system log
     bool usable() const { return statement_ != nullptr; }
+
+    /// Why it is not usable, without a word of the statement.
+    const char *reason() const { return reason_; }
 
     /// Runs the query to its end.
     std::size_t count_rows();
@@ -27,8 +29,12 @@ public:
 
 private:
     int lock_;
+    const char *reason_ = "the lock file cannot be opened";
     sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
 };
+
+/// Whether a text may be executed, as far as it can be told before it runs. One that fails may be.
+bool may_execute(const char *sql, bool may_change_schema);
 
 }  // namespace sqld

@@ -6,13 +6,14 @@
 
 #include <cerrno>
 #include <climits>
+#include <cstdio>
 #include <ctime>
 
 namespace sqld {
 
 namespace {
 
-constexpr std::int64_t patience_ms = 10'000;
+constexpr std::int64_t patience_ms = 5'000;
 
 std::int64_t now_ms() {
     timespec now{};
@@ -75,23 +76,34 @@ bool send_all(int fd, const void *data, std::size_t size, std::int64_t deadline)
 
 }  // namespace
 
+void tell(int fd, const char *outcome) {
+    ucred peer{};
+    socklen_t size = sizeof(peer);
+    getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &peer, &size);
+    syslog(LOG_WARNING, "request %s (user %u, process %d)", outcome, peer.uid, peer.pid);
+}
+
+bool refuse(int fd, const char *reason) {
+    char outcome[128];
+    std::snprintf(outcome, sizeof(outcome), "refused, %s", reason);
+    tell(fd, outcome);
+    return false;
+}
+
 bool receive_request(int fd, Request &request) {
     const std::int64_t deadline = now_ms() + patience_ms;
     std::uint32_t header[3];
     if (!receive_all(fd, header, sizeof(header), deadline)) {
-        syslog(LOG_WARNING, "request refused, its header breaks off: %m");
-        return false;
+        return refuse(fd, errno == ETIMEDOUT ? "its header comes too slowly" : "its header breaks off");
     }
     request.table_id = header[0];
     request.operation = header[1];
     request.length = header[2];
     if (request.length > longest_statement) {
-        syslog(LOG_WARNING, "request refused, it announces %u bytes", request.length);
-        return false;
+        return refuse(fd, "it is longer than 64 KiB");
     }
     if (!receive_all(fd, request.text, request.length, deadline)) {
-        syslog(LOG_WARNING, "request refused, its text breaks off: %m");
-        return false;
+        return refuse(fd, errno == ETIMEDOUT ? "its text comes too slowly" : "its text breaks off");
     }
     request.text[request.length] = '\0';
     return true;
@@ -105,7 +117,7 @@ bool send_reply(int fd, const Request &request, const void *data, std::size_t si
     const std::int64_t deadline = now_ms() + patience_ms;
     const std::uint32_t header[3] = {request.table_id, request.operation, static_cast<std::uint32_t>(size)};
     if (!send_all(fd, header, sizeof(header), deadline) || !send_all(fd, data, size, deadline)) {
-        syslog(LOG_WARNING, "reply not delivered: %m");
+        tell(fd, "answered, its reply is not taken");
         return false;
     }
     return true;

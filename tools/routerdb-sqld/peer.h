@@ -17,13 +17,20 @@ struct Request {
     char text[longest_statement + 1];
 };
 
+/// Writes what became of a request to the system log, with user and process of the peer.
+void tell(int fd, const char *outcome);
+
+/// The same for one that is refused.
+/// @return false, as whoever refuses does
+bool refuse(int fd, const char *reason);
+
 /// Reads a request.
-/// @return false for one that is too long, breaks off or takes more than ten seconds, after the reason went to the
+/// @return false for one that is too long, breaks off or takes more than five seconds, after the reason went to the
 ///         system log
 bool receive_request(int fd, Request &request);
 
 /// Sends a reply that echoes the request's table id and operation.
-/// @return false if the peer has gone or takes more than ten seconds, after the reason went to the system log
+/// @return false if the peer has gone or takes more than five seconds, after the reason went to the system log
 bool send_reply(int fd, const Request &request, const void *data, std::size_t size);
 
 }  // namespace sqld
