@@ -79,12 +79,24 @@ need_packages() {
         apt-get install -y --no-install-recommends "${missing[@]}"
 }
 
-# configure_and_build DIRECTORY PRESET [cmake options...]
-configure_and_build() {
+# configure DIRECTORY PRESET [cmake options...]
+configure() {
     local directory=$1 preset=$2
     shift 2
-    say "Building ${directory#"$checkout/"}"
     quietly "$checkout/build/log/configure-$preset" \
         cmake -S "$checkout" --preset "$preset" -B "$directory" "$@"
-    cmake --build "$directory" -- --quiet
+}
+
+# configure_and_build DIRECTORY PRESET [cmake options...]
+configure_and_build() {
+    say "Building ${1#"$checkout/"}"
+    configure "$@"
+    cmake --build "$1" -- --quiet
+}
+
+# Prints what measured figures depend on.
+describe_machine() {
+    sed -n 's/^model name[[:space:]]*: /Processor: /p' /proc/cpuinfo | head -n 1
+    printf 'Processors: %s\nKernel: %s\nCompiler: %s\nSQLite: %s\n' "$(nproc)" "$(uname -sr | cut -d . -f 1-2)" \
+        "$(c++ --version | head -n 1)" "$(sqlite3 --version | cut -d ' ' -f 1)"
 }
