@@ -39,9 +39,9 @@ const Helper &helper(const std::string &name) {
     throw std::out_of_range("no helper " + name);
 }
 
-CallersConnection open_callers_connection() {
+CallersConnection open_callers_connection(const char *database) {
     sqlite3 *db = nullptr;
-    if (sqlite3_open_v2(support::main_database, &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+    if (sqlite3_open_v2(database, &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
         throw std::runtime_error("cannot open the caller's connection");
     }
     return CallersConnection(db);

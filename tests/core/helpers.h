@@ -103,10 +103,10 @@ struct CloseConnection {
     void operator()(sqlite3 *db) const { sqlite3_close(db); }
 };
 
-/// A connection to the main database, as a caller that knows nothing of busy handlers has it.
+/// A connection as a caller that knows nothing of busy handlers has it.
 using CallersConnection = std::unique_ptr<sqlite3, CloseConnection>;
 
-CallersConnection open_callers_connection();
+CallersConnection open_callers_connection(const char *database = support::main_database);
 
 /// Gives the process a standard input if it has none.
 void open_standard_input();

@@ -7,27 +7,13 @@
 #include <cerrno>
 #include <utility>
 
-namespace support {
+#include "support/wrapped_pass.h"
 
-namespace {
+namespace support {
 
 thread_local WrappedCalls *watching = nullptr;
 
-/// Makes a call unless it has to fail. What happens meanwhile is not the library's.
-template <typename Result, typename Call>
-Result pass(const char *function, Result failure, Call call) {
-    WrappedCalls *const watcher = std::exchange(watching, nullptr);
-    if (watcher == nullptr) {
-        return call();
-    }
-    const bool fails = watcher->enter(function);
-    const Result result = fails ? failure : call();
-    const int error = errno;
-    watcher->leave(function);
-    watching = watcher;
-    errno = error;
-    return result;
-}
+namespace {
 
 void *note(void *block, std::size_t size) {
     if (watching != nullptr && block != nullptr) {
@@ -55,6 +41,12 @@ WrappedCalls::~WrappedCalls() {
 void WrappedCalls::fail(const std::string &function, int n, int error) {
     failure_ = plan(function, n);
     error_ = error;
+}
+
+void WrappedCalls::fail_any(int n, const Fault &fault) {
+    any_ = all_calls_ + n;
+    fault_ = fault;
+    error_ = fault.error;
 }
 
 void WrappedCalls::shorten_send(int n, std::size_t size) {
@@ -88,8 +80,10 @@ bool WrappedCalls::is_now(const Planned &planned, const std::string &function) c
 
 bool WrappedCalls::enter(const std::string &function) {
     ++calls_[function];
-    const bool fails = is_now(failure_, function);
+    ++all_calls_;
+    const bool fails = is_now(failure_, function) || is_any_now();
     if (fails) {
+        failed_function_ = failed_ ? failed_function_ : function;
         failed_ = true;
         errno = error_;
     }

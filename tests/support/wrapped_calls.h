@@ -1,7 +1,8 @@
 // Single calls of the library's objects to the platform: the n-th one fails, or something happens behind it.
 //
 // A program that links this replaces malloc, realloc, free, socket, connect, send, recv and close in its own objects,
-// those of the library included. Calls that other libraries make are not seen.
+// those of the library included. Calls that other libraries make are not seen. With wrapped_platform.cpp nearly all
+// other calls that can fail are replaced too: of files, programs, converters and SQLite.
 #pragma once
 
 #include <functional>
@@ -23,6 +24,16 @@ public:
     /// not made, except that close closes first.
     void fail(const std::string &function, int n, int error);
 
+    /// How a call fails: with this in errno, or as the result of a function of SQLite; and whether all behind it do.
+    struct Fault {
+        int error;
+        int sqlite_code;
+        bool for_good;
+    };
+
+    /// The n-th call from now on fails, whichever function it is of.
+    void fail_any(int n, const Fault &fault);
+
     /// The n-th send from now on sends no more than that many bytes.
     void shorten_send(int n, std::size_t size);
 
@@ -31,6 +42,9 @@ public:
 
     /// Whether the failure has come up.
     bool failed() const { return failed_; }
+
+    /// The function whose call has failed first.
+    const std::string &failed_function() const { return failed_function_; }
 
     /// Sizes of the blocks allocated since construction and not freed.
     std::vector<std::size_t> blocks() const;
@@ -42,6 +56,7 @@ public:
     /// @return whether this call has to fail, errno being set
     bool enter(const std::string &function);
     void leave(const std::string &function);
+    int sqlite_code() const { return fault_.sqlite_code; }
     std::size_t allowed(std::size_t size) const;
     void allocated(void *block, std::size_t size) { blocks_[block] = size; }
     void about_to_be_freed(void *block);
@@ -55,13 +70,18 @@ private:
 
     Planned plan(const std::string &function, int n) { return {function, calls_[function] + n}; }
     bool is_now(const Planned &planned, const std::string &function) const;
+    bool is_any_now() const { return any_ != 0 && (all_calls_ == any_ || (fault_.for_good && all_calls_ > any_)); }
 
     std::map<std::string, int> calls_;
     std::map<void *, std::size_t> blocks_;
     std::vector<std::string> contents_when_freed_;
     Planned failure_{};
     int error_ = 0;
+    int all_calls_ = 0;
+    int any_ = 0;  // the number of the call that fails, whichever it is
+    Fault fault_{};
     bool failed_ = false;
+    std::string failed_function_;
     Planned short_send_{};
     std::size_t short_size_ = 0;
     Planned event_{};

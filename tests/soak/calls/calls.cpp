@@ -1,6 +1,7 @@
 #include "soak/calls/calls.h"
 
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -34,6 +35,14 @@ void add_rows() {
     database.execute("update WlanGroupInfo set WlanGroup_Id = 1;");
 }
 
+/// What stays open in thousands of calls takes descriptors.
+void allow_many_descriptors() {
+    rlimit limit{};
+    getrlimit(RLIMIT_NOFILE, &limit);
+    limit.rlim_cur = limit.rlim_max;
+    setrlimit(RLIMIT_NOFILE, &limit);
+}
+
 }  // namespace
 
 Calls joined(std::initializer_list<Calls (*)()> kinds) {
@@ -50,6 +59,7 @@ Calls calls() {
 }
 
 void make_router() {
+    allow_many_descriptors();
     if (support::file_exists(kept(support::main_database))) {
         put_router_back();
         return;
