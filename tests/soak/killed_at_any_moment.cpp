@@ -175,8 +175,9 @@ std::string missing_rows(long n) {
         last + ");");
 }
 
+/// Writes so many pages that a kill may come between them.
 std::string insertion(long n) {
-    return "insert into user_urlinfo(name) values('" + std::to_string(n) + "');";
+    return "insert into user_urlinfo(name, mark) values('" + std::to_string(n) + "', hex(randomblob(100000)));";
 }
 
 TEST_F(Killed, in_db_exec_sql_char) {

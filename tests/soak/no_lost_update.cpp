@@ -21,6 +21,10 @@ using support::Process;
 
 constexpr long writers = 16;
 
+/// Gives others time to come between two statements.
+#define TIME_FOR_OTHERS \
+    "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) SELECT max(i) FROM n;"
+
 /// A row that is counted up, and the two columns that are always written together.
 struct Counter {
     const char *once;   // one statement
@@ -31,14 +35,15 @@ struct Counter {
 
 constexpr Counter counters[] = {
     {"update user_urlinfo set name = name + 1, mark = name + 1;",
-     "update user_urlinfo set url = name + 1; update user_urlinfo set name = url, mark = url;",
+     "update user_urlinfo set url = name + 1;" TIME_FOR_OTHERS "update user_urlinfo set name = url, mark = url;",
      "select name from user_urlinfo;"},
     {"update DevInfo set Dev_Name = Dev_Name + 1, Dev_Group = Dev_Name + 1;",
-     "update DevInfo set Dev_SwVer = Dev_Name + 1; update DevInfo set Dev_Name = Dev_SwVer, Dev_Group = Dev_SwVer;",
+     "update DevInfo set Dev_SwVer = Dev_Name + 1;" TIME_FOR_OTHERS
+     "update DevInfo set Dev_Name = Dev_SwVer, Dev_Group = Dev_SwVer;",
      "select Dev_Name from DevInfo;"},
     {"update WlanZeroCfgGroupInfo set WlanGroup_Wlan1_Ssid = WlanGroup_Wlan1_Ssid + 1,"
      "WlanGroup_Name = WlanGroup_Wlan1_Ssid + 1;",
-     "update WlanZeroCfgGroupInfo set WlanGroup_Wlan5_Ssid = WlanGroup_Wlan1_Ssid + 1;"
+     "update WlanZeroCfgGroupInfo set WlanGroup_Wlan5_Ssid = WlanGroup_Wlan1_Ssid + 1;" TIME_FOR_OTHERS
      "update WlanZeroCfgGroupInfo set WlanGroup_Wlan1_Ssid = WlanGroup_Wlan5_Ssid,"
      "WlanGroup_Name = WlanGroup_Wlan5_Ssid;",
      "select WlanGroup_Name from WlanZeroCfgGroupInfo;"},

@@ -1,6 +1,7 @@
 // What every program of this folder has: how often, with which seed, and what it found.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <sys/mman.h>
 
 #include <cstdio>
@@ -35,10 +36,12 @@ inline unsigned draw(std::mt19937 &random, unsigned below) {
     return static_cast<unsigned>(random() % below);
 }
 
-/// A line of the table that scripts/soak prints.
+/// A line of the table that scripts/soak prints, if all has held so far.
 inline void figure(long times, const std::string &what) {
-    std::printf("FIGURE %ld %s\n", times, what.c_str());
-    std::fflush(stdout);
+    if (!::testing::Test::HasFailure()) {
+        std::printf("FIGURE %ld %s\n", times, what.c_str());
+        std::fflush(stdout);
+    }
 }
 
 /// A value that processes share which are made after it.
