@@ -41,7 +41,6 @@ std::string owner() {
 class Killed : public ::testing::Test {
 protected:
     Killed() {
-        support::execute("delete from user_urlinfo; delete from DevInfo;");  // of another test in this private root
         fill(support::main_database, "main");
         fill(support::factory_database, "factory");
         EXPECT_EQ(backup_sqlite_db(), 0);
@@ -50,10 +49,9 @@ protected:
         factory_ = support::file_content(support::factory_database);
         backup_ = support::file_content(support::backup_database);
     }
-    ~Killed() override {
-        support::write_file(support::factory_database, factory_);
+    ~Killed() override {  // which leaves the next test in this private root what it found itself
         for (const char *const path : {support::main_database, support::factory_database}) {
-            support::Database(path).execute("drop table pages; vacuum;");
+            support::write_file(path, empty_);
         }
     }
 
@@ -107,6 +105,7 @@ protected:
 private:
     const long processes_ = soak::processes();
     std::chrono::milliseconds longest_wait_{0};
+    const std::string empty_ = support::file_content(support::factory_database);
     std::string main_;
     std::string backup_;
     std::string factory_;
