@@ -80,8 +80,7 @@ protected:
     /// Fails the calls of one function in turn, in a process of its own, up to the first complaint.
     /// @return whether there was none
     static bool fail_each(const Call &call, const Fault &fault, long &points) {
-        const bool among_ordinary_tests = soak::setting("SOAK_MINUTES", 0) == 0;
-        for (int n = 1;; n += among_ordinary_tests ? 7 : 1) {
+        for (int n = 1;; n += soak::among_ordinary_tests() ? 7 : 1) {
             const Point point(call, n, fault);
             if (const std::string complaint = point.complaint(); !complaint.empty()) {
                 std::printf("%s, call %d fails, of %s%s\n", call.name.c_str(), n, point.function().c_str(),

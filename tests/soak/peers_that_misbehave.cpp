@@ -124,7 +124,7 @@ TEST_F(Peers, that_send_one_byte_at_a_time) {
 
 TEST_F(Peers, that_hang_up_at_every_byte) {
     const std::string reply = whole_reply();
-    for (std::size_t size = 0; size <= reply.size(); ++size) {
+    for (std::size_t size = 0; size <= reply.size(); size += soak::among_ordinary_tests() ? 8 : 1) {
         lead_both({{reply.substr(0, size)}});
     }
     lead_both({{}, Hearing::none});
@@ -175,8 +175,7 @@ TEST_F(Peers, that_send_anything) {
 }
 
 TEST_F(Peers, that_fall_silent) {
-    const bool among_ordinary_tests = soak::setting("SOAK_MINUTES", 0) == 0;
-    const long times = among_ordinary_tests ? 0 : soak::count(1, 8);  // ten seconds each
+    const long times = soak::among_ordinary_tests() ? 0 : soak::count(1, 8);  // ten seconds each
     const std::string reply = whole_reply();
     for (long n = 0; n < times; ++n) {
         const std::size_t sent = soak::draw(random_, static_cast<unsigned>(reply.size()));

@@ -18,6 +18,11 @@ inline long setting(const char *name, long otherwise) {
     return text != nullptr ? std::strtol(text, nullptr, 10) : otherwise;
 }
 
+/// Whether this is no run of scripts/soak.
+inline bool among_ordinary_tests() {
+    return setting("SOAK_MINUTES", 0) == 0;
+}
+
 /// How often something is done: `in_half_an_hour` times in a run of 30 minutes, in proportion in one of another length,
 /// and `at_least` times in any. Among the ordinary tests it is as often as that.
 inline long count(long at_least, long in_half_an_hour) {
