@@ -40,7 +40,7 @@ public:
     /// What should not be; empty if all is well.
     std::string complaint() const {
         // Of the service's processes one may still be about to give its lock back.
-        const bool free = support::eventually([] { return support::file_content("/proc/locks").empty(); });
+        const bool free = support::eventually(support::lock_file_is_free);
         const long streams = support::build_profile.closes_its_own ? 0 : call_.left.streams;
         const bool promised = descriptors_left_ >= 0 && descriptors_left_ <= streams;
         return std::string(free ? "" : ", a lock is held") + (mutex_is_free() ? "" : ", the mutex is held") +
