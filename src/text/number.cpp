@@ -17,7 +17,7 @@ bool is_digit(char character) {
 }  // namespace
 
 int to_number(const char *text) {
-    const int before = errno;
+    [[maybe_unused]] const int before = errno;
     const int number = std::atoi(text);  // NOLINT(cert-err34-c): a text that is no number counts as 0
     if (build_profile.tells_failures) {
         errno = before;
