@@ -105,6 +105,7 @@ TEST_P(SqldStop, removes_the_socket_and_ends_well) {
     service.signal(GetParam());
     EXPECT_EQ(service.wait(), 0);
     EXPECT_FALSE(support::file_exists(service_socket));
+    EXPECT_FALSE(support::file_exists("/var/sqlserver_socket.lock"));
     EXPECT_FALSE(Peer().connected());
     const std::string own = "(user " + std::to_string(getuid()) + ", process " + std::to_string(getpid()) + ")";
     EXPECT_EQ(log.lines(), (Lines{"30 started", "28 request refused, its header breaks off " + own, "30 stopped"}));

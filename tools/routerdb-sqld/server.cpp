@@ -97,7 +97,8 @@ Server::~Server() {
         unlink(service_socket);
     }
     if (lock_ >= 0) {
-        close(lock_);  // the file stays: a service that starts may have it open
+        unlink(service_lock);
+        close(lock_);
     }
 }
 
@@ -119,8 +120,23 @@ bool Server::listen() {
 
 /// Of services that start at the same moment one gets it. Without its file, as where it cannot be made, all do.
 bool Server::take_lock() {
-    lock_ = open(service_lock, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-    return lock_ < 0 || flock(lock_, LOCK_EX | LOCK_NB) == 0;
+    for (;;) {
+        const int file = open(service_lock, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+        if (file < 0) {
+            return true;
+        }
+        if (flock(file, LOCK_EX | LOCK_NB) != 0) {
+            close(file);
+            return false;
+        }
+        struct stat locked {};
+        struct stat there {};
+        if (fstat(file, &locked) == 0 && stat(service_lock, &there) == 0 && locked.st_ino == there.st_ino) {
+            lock_ = file;
+            return true;
+        }
+        close(file);  // that of a service which has ended meanwhile, and removed it
+    }
 }
 
 void Server::take_signals() {
