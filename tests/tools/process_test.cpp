@@ -95,6 +95,7 @@ TEST(SqldSocket, that_cannot_be_made_keeps_the_service_from_starting) {
     EXPECT_EQ(service.status, 1);
     EXPECT_EQ(service.error, "routerdb-sqld: cannot listen, see the system log\n");
     EXPECT_EQ(log.lines(), Lines{std::string("27 cannot listen on ") + service_socket + ": Is a directory"});
+    EXPECT_FALSE(support::file_exists("/var/sqlserver_socket.new"));
 }
 
 class SqldStop : public testing::TestWithParam<int> {};
@@ -175,11 +176,13 @@ TEST(SqldVersion, is_not_that_of_the_library_it_was_built_with) {
     EXPECT_EQ(run({"--version"}).output, versions(other_profile));
 }
 
-TEST(SqldVersion, that_cannot_be_printed_is_a_failure) {
-    Process process([] {
-        return std::freopen("/dev/full", "w", stdout) != nullptr && support::become(support::sqld({"--version"}));
-    });
-    EXPECT_EQ(process.wait(), 1);
+TEST(SqldOptions, whose_answer_cannot_be_printed_fail) {
+    for (const char *option : {"--version", "--help"}) {
+        Process process([option] {
+            return std::freopen("/dev/full", "w", stdout) != nullptr && support::become(support::sqld({option}));
+        });
+        EXPECT_EQ(process.wait(), 1) << option;
+    }
 }
 
 TEST(SqldOptions, that_nobody_knows_are_refused) {

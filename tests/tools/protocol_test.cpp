@@ -91,6 +91,12 @@ TEST_F(Sqld, hangs_up_on_queries_that_fail) {
                      told("refused, no such table"), told("refused, no such table")}));
 }
 
+TEST_F(Sqld, hangs_up_on_queries_that_fail_on_their_way) {
+    EXPECT_EQ(exchange(request(100, 1, "select abs(-9223372036854775807-1);")), "");
+    EXPECT_EQ(exchange(request(5, 1, "select *, abs(-9223372036854775807-id) from user_timegroup;")), "");
+    EXPECT_EQ(log_.lines(), Lines(2, told("refused, SQL logic error")));
+}
+
 TEST_F(Sqld, answers_scalars_as_terminated_text) {
     EXPECT_EQ(scalar("select count(*) from user_timegroup where name='group';"), std::string("2:1\0", 4));
     EXPECT_EQ(scalar("select name,id from user_timegroup;"), std::string("6:group\0", 8));

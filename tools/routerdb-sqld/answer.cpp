@@ -54,10 +54,10 @@ void *make_list(std::size_t bytes) {
 /// trust the room that they are given.
 bool answer_list(int fd, const Request &request, const Builder &builder) {
     Query query(request.text);
-    if (!query.usable()) {
-        return refuse(fd, query.reason());
+    const std::size_t rows = query.failure() == nullptr ? query.count_rows() : 0;
+    if (query.failure() != nullptr) {
+        return refuse(fd, query.failure());
     }
-    const std::size_t rows = query.count_rows();
     const std::size_t room = rows > ROUTERDB_LIST_CAPACITY ? rows : ROUTERDB_LIST_CAPACITY;
     void *list = make_list(sizeof(std::uint32_t) + room * builder.record_size);
     if (list == nullptr) {
@@ -71,10 +71,10 @@ bool answer_list(int fd, const Request &request, const Builder &builder) {
 
 bool answer_scalar(int fd, const Request &request) {
     Query query(request.text);
-    if (!query.usable()) {
-        return refuse(fd, query.reason());
+    const char *text = query.failure() == nullptr ? query.first_text() : nullptr;
+    if (query.failure() != nullptr) {
+        return refuse(fd, query.failure());
     }
-    const char *text = query.first_text();
     return send_reply(fd, request, text, text != nullptr ? std::strlen(text) + 1 : 0);
 }
 

@@ -28,10 +28,10 @@ Query::Query(const char *sql) : lock_(get_db_lock()) {
         return;
     }
     if (!open_main_database(db_)) {
-        reason_ = "the main database cannot be opened";
+        failure_ = "the main database cannot be opened";
         return;
     }
-    reason_ = prepare_query(db_, sql, statement_);
+    failure_ = prepare_query(db_, sql, statement_);
 }
 
 Query::~Query() {
@@ -42,9 +42,18 @@ Query::~Query() {
     }
 }
 
+/// A row that cannot be read is not the end.
+bool Query::next_row() {
+    const int code = sqlite3_step(statement_);
+    if (code != SQLITE_ROW && code != SQLITE_DONE) {
+        failure_ = sqlite3_errstr(code);
+    }
+    return code == SQLITE_ROW;
+}
+
 std::size_t Query::count_rows() {
     std::size_t rows = 0;
-    while (sqlite3_step(statement_) == SQLITE_ROW) {
+    while (next_row()) {
         ++rows;
     }
     sqlite3_reset(statement_);  // the read lock goes, the lock file stays
@@ -52,15 +61,12 @@ std::size_t Query::count_rows() {
 }
 
 const char *Query::first_text() {
-    if (sqlite3_step(statement_) != SQLITE_ROW) {
-        return nullptr;
-    }
-    return reinterpret_cast<const char *>(sqlite3_column_text(statement_, 0));
+    return next_row() ? reinterpret_cast<const char *>(sqlite3_column_text(statement_, 0)) : nullptr;
 }
 
 bool may_execute(const char *sql, bool may_change_schema) {
     sqlite3 *db = nullptr;
-    const bool may = !open_main_database(db) || may_execute(db, sql, may_change_schema);  // or it fails anyway
+    const bool may = !open_main_database(db) || permits_execution(db, sql, may_change_schema);  // or it fails anyway
     sqlite3_close(db);
     return may;
 }

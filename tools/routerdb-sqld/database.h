@@ -16,10 +16,8 @@ public:
     Query &operator=(const Query &) = delete;
     ~Query();
 
-    bool usable() const { return statement_ != nullptr; }
-
-    /// Why it is not usable, without a word of the statement.
-    const char *reason() const { return reason_; }
+    /// Why it cannot be answered, as far as it has been run, without a word of the statement; null if it can.
+    const char *failure() const { return failure_; }
 
     /// Runs the query to its end.
     std::size_t count_rows();
@@ -28,8 +26,10 @@ public:
     const char *first_text();
 
 private:
+    bool next_row();
+
     int lock_;
-    const char *reason_ = "the lock file cannot be opened";
+    const char *failure_ = "the lock file cannot be opened";
     sqlite3 *db_ = nullptr;
     sqlite3_stmt *statement_ = nullptr;
 };

@@ -48,6 +48,10 @@ unsigned seconds_of(const char *text) {
     return *text >= '0' && *text <= '9' && *end == '\0' && seconds <= most ? static_cast<unsigned>(seconds) : 0;
 }
 
+int print_usage() {
+    return std::fputs(usage, stdout) != EOF && std::fflush(stdout) == 0 ? 0 : 1;
+}
+
 int misused() {
     std::fputs(usage, stderr);
     return 2;
@@ -64,8 +68,7 @@ int main(int argc, char **argv) {
                                   {nullptr, 0, nullptr, 0}};
     sqld::Settings settings;
     opterr = 0;  // the usage says it
-    for (int option = getopt_long(argc, argv, "", options, nullptr); option != -1;
-         option = getopt_long(argc, argv, "", options, nullptr)) {
+    for (int option = 0; (option = getopt_long(argc, argv, "", options, nullptr)) != -1;) {
         switch (option) {
             case allow_schema:
                 settings.may_change_schema = true;
@@ -74,7 +77,7 @@ int main(int argc, char **argv) {
                 settings.request_seconds = seconds_of(optarg);
                 break;
             case help:
-                return argc == 2 && std::fputs(usage, stdout) != EOF ? 0 : misused();
+                return argc == 2 ? print_usage() : misused();
             case version:
                 return argc == 2 ? print_versions() : misused();
             default:

@@ -121,7 +121,7 @@ const char *prepare_query(sqlite3 *db, const char *sql, sqlite3_stmt *&statement
     return nullptr;
 }
 
-bool may_execute(sqlite3 *db, const char *sql, bool may_change_schema) {
+bool permits_execution(sqlite3 *db, const char *sql, bool may_change_schema) {
     Execution execution{may_change_schema};
     sqlite3_set_authorizer(db, permit_changes, &execution);
     int code = SQLITE_OK;

@@ -13,6 +13,6 @@ const char *prepare_query(sqlite3 *db, const char *sql, sqlite3_stmt *&statement
 /// Looks at a text to execute, without running it: its statements change rows, and the schema only if that is allowed;
 /// they write no other file, and set nothing but what the connection forgets. What SQLite cannot prepare may run: it
 /// fails.
-bool may_execute(sqlite3 *db, const char *sql, bool may_change_schema);
+bool permits_execution(sqlite3 *db, const char *sql, bool may_change_schema);
 
 }  // namespace sqld

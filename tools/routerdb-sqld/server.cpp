@@ -114,6 +114,7 @@ bool Server::listen() {
     umask(mask);
     if (!bound) {
         syslog(LOG_ERR, "cannot listen on %s: %m", service_socket);
+        unlink(new_service_socket);
     }
     return bound;
 }
