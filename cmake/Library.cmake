@@ -39,12 +39,15 @@ add_library(
     src/core/call_errno.cpp
     src/core/confinement.cpp
     src/core/connection.cpp
+    src/core/database_check.cpp
+    src/core/database_copy.cpp
     src/core/doors.cpp
     src/core/elf_note.cpp
     src/core/execute.cpp
     src/core/journal.cpp
     src/core/list_room.cpp
     src/core/lock_file.cpp
+    src/core/lock_holder.cpp
     src/core/maintenance.cpp
     src/core/query.cpp
     src/core/random.cpp

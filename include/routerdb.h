@@ -22,11 +22,16 @@
 ///    without limit. Each sleep is 5 microseconds longer than the one before (500 in DB_EXEC_SQL_CHAR()). Once a
 ///    row has come nothing is tried again: any other answer ends the rows. A text of several statements is tried
 ///    again from its start: those before the one that was busy may be applied twice. The lock file is waited for
-///    without limit too, and on after a signal.
+///    without limit too, and on after a signal. In modern a call that has slept for 60 seconds in all because of 5 and
+///    6, or for 30 because of 10, fails; and a text of several statements goes on with the one that was busy, or with
+///    the "begin" of the transaction that it was in: what had gone through before is not applied again.
 /// 7. Threads. Any thread may call any function. The lock file keeps processes apart, not threads: closing any
 ///    descriptor of it drops the whole process's lock. Threads of one process that write must take turns on their
-///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. Functions with a random first delay, and
-///    GetApDevStaList(), reseed the process-wide generator of rand() in the exact profile.
+///    own, or write through DB_EXEC_SQL_CHAR(), which takes db_mutex. In modern it keeps threads apart as well: the
+///    lock is the thread's that took it, whose further calls join it, until the last of its handles is released, by
+///    whichever thread; closing another descriptor of the file drops nothing, and a child of fork() has to wait for its
+///    parent's. Functions with a random first delay, and GetApDevStaList(), reseed the process-wide generator of rand()
+///    in the exact profile.
 /// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache.
 /// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
 ///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
@@ -35,14 +40,15 @@
 /// 11. Profiles. The library is built in one of two: `exact`, whose behaviour these comments tell, and `modern`, which
 ///     does the same for callers and data that mean well and refuses the rest. What they say of modern holds there
 ///     alone.
-/// 12. errno, in modern. A call that failed leaves the reason there, also where its result tells nothing, and one that
-///     did not leaves what was there: set it to 0 before, as for strtol. The last remark on each function says which
-///     reasons there are. EINVAL stands for what is refused, EOVERFLOW for more or longer than fits, ENOSPC for a disk
-///     that is full, EPROTO for a reply that is none, ETIMEDOUT for what took too long, EACCES for a service that may
-///     not be asked and a database that may not be written, be it to undo what a killed writer left, EIO for the rest,
-///     such as a database that cannot be opened and a statement that fails; ENOENT, ECONNREFUSED and their like come as
-///     the system gave them. That nothing is found is no failure, nor is what becomes of messages, of output and of
-///     commands. In exact errno means nothing where a remark does not say so.
+/// 12. errno, in modern. A call that failed leaves the reason there, also where its result tells nothing, and one
+///     that did not leaves what was there: set it to 0 before, as for strtol. The last remark on each function says
+///     which reasons there are. EINVAL stands for what is refused, EOVERFLOW for more or longer than fits, ENOSPC for a
+///     disk that is full, EPROTO for a reply that is none, ETIMEDOUT for what took too long, which any call may meet
+///     that opens a database, EACCES for a service that may not be asked and a database that may not be written, be it
+///     to undo what a killed writer left, EIO for the rest, such as a database that cannot be opened and a statement
+///     that fails; ENOENT, ECONNREFUSED and their like come as the system gave them. That nothing is found is no
+///     failure, nor is what becomes of messages, of output and of commands. In exact errno means nothing where a remark
+///     does not say so.
 /// 13. Texts of callers, in modern. They attach no file with a name, VACUUM INTO included, and do not edit the schema
 ///     directly; functions and virtual tables that only a file's own schema calls are not run unless they are harmless.
 ///     The library's own readings read tables, not views of the same name.
@@ -91,7 +97,8 @@ extern ROUTERDB_API pthread_mutex_t db_mutex;
 /// @param whence  SEEK_SET, SEEK_CUR or SEEK_END
 /// @param len     length in bytes; 0 means up to the end of the file, however long it grows
 /// @return the result of fcntl: -1, with EINTR in errno, when a signal ended the wait of F_SETLKW
-/// @note Thread-safe; the lock belongs to the process.
+/// @note Thread-safe; the lock belongs to the process. In modern, calls of the library go on when their own process has
+///       locked the lock file so; and unlocking the whole of a handle from get_db_lock() releases the handle's lock.
 /// @remark errno, in exact too: as fcntl left it
 ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int whence, routerdb_off_t len);
 
@@ -99,14 +106,17 @@ ROUTERDB_API int lock_reg(int fd, int cmd, int type, routerdb_off_t offset, int 
 /// whatever signals arrive.
 /// @return the lock handle, a descriptor to be given to free_db_lock(); -1 if the file cannot be opened, after
 ///         "cannot open %s!\n" on standard error
-/// @note Any thread may call it, yet two threads of one process do not exclude each other.
+/// @note Any thread may call it, yet two threads of one process do not exclude each other in the exact profile. In
+///       modern they do; a thread that has the lock gets a further handle at once, and the handle does not get into
+///       programs that are executed.
 /// @remark errno: what open gave for the lock file, such as ENOENT
 ROUTERDB_API int get_db_lock(void);
 
 /// Releases a lock handle and closes it.
 /// @param fd  a handle from get_db_lock()
 /// @return 0
-/// @note Thread-safe. It releases every other lock that the process holds on the lock file.
+/// @note Thread-safe. It releases every other lock that the process holds on the lock file, in modern only those of
+///       lock_reg().
 /// @remark errno, in exact too: as fcntl and close left it, such as EBADF for a descriptor that is not open
 ROUTERDB_API int free_db_lock(int fd);
 
@@ -116,13 +126,13 @@ ROUTERDB_API int free_db_lock(int fd);
 /// database file, whether the statement succeeded or not; an insert whose value contains "select" gets no copy.
 ///
 /// A text of several statements that was busy part way is applied again from its start, with those that had gone
-/// through. A transaction that the busy attempt left open is rolled back first.
+/// through (not in modern). A transaction that the busy attempt left open is rolled back first.
 /// @param sql  one or more statements; only read
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
 ///       cmdline, Error: %s\n" on standard output. The first delay is random, 51 to 150 microseconds. A connection
 ///       that SQLite could not open stays allocated in the exact profile.
-/// @note Does not take db_mutex: threads of one process must take turns.
+/// @note Does not take db_mutex: threads of one process must take turns, but in modern.
 /// @remark errno: what open gave for the lock file, such as ENOENT; EINVAL for a text that attaches a named file;
 ///         EOVERFLOW for a text or a value that is too long for SQLite; EACCES, ENOSPC, ENOMEM, EIO
 ROUTERDB_API int DbSqlExec(char *sql);
@@ -133,11 +143,18 @@ ROUTERDB_API int DbSqlExec(char *sql);
 /// What a killed writer left in the main database is rolled back first. While the database is busy, or gives I/O
 /// errors, this is tried again: for 60 seconds, or 1 second, of sleeping. If it has not succeeded by then, the copy may
 /// be in the middle of a change; the main database keeps its journal.
+///
+/// In modern SQLite copies, into a new file that takes the backup's name when it is on disk: 0 means that the backup is
+/// what the main database was. A main database that is missing, damaged or without a table is refused. The earlier
+/// backup stays whatever happens, a kill and a power loss included, until the new one is complete.
 /// @return 0, whatever became of the copy; -1 if the lock file cannot be opened ("cannot open %s!\n" on standard
-///         error)
-/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns. A caller that is killed
-///       alone loses the lock while the "cp" that it started goes on.
-/// @remark errno: as get_db_lock()
+///         error); in modern also -1 if the copy was not made, which changes nothing ("%s is not copied to %s: %s\n" in
+///         the system log)
+/// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns, but in modern. In exact a
+///       caller that is killed alone loses the lock while the "cp" that it started goes on.
+/// @remark errno: as get_db_lock(); ENOENT for a source that is missing, EINVAL for one that is refused, ETIMEDOUT
+/// after
+///         60 seconds of sleeping beside somebody who does not let go, EACCES, ENOSPC, ENOMEM, EIO
 ROUTERDB_API int backup_sqlite_db(void);
 
 /// Copies the backup over the main database. Without a backup the main database stays as it is. The restored database
@@ -146,9 +163,15 @@ ROUTERDB_API int backup_sqlite_db(void);
 /// Rolls back first as backup_sqlite_db() does; a journal that is still there afterwards is removed, since it would
 /// destroy the restored database. A kill or a power loss during the call may leave a main database that is part the one
 /// and part the other: a call of reset_sqlite_db() mends it.
+///
+/// In modern SQLite copies, in one transaction into the main database, whose readers see the one or the other and never
+/// nothing; a kill or a power loss leaves the one or the other, too. 0 means that the main database is what the backup
+/// was. A backup is refused that is missing, damaged or without a table, and one that lacks a table of the main
+/// database or has a column in another place; further ones are welcome. A main database that is none is replaced by a
+/// new file.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
-/// @remark errno: as get_db_lock()
+/// @remark errno: as backup_sqlite_db()
 ROUTERDB_API int restore_sqlite_db(void);
 
 /// Replaces the main database with the factory copy on the read-only file system. The new database is on disk when the
@@ -156,9 +179,12 @@ ROUTERDB_API int restore_sqlite_db(void);
 ///
 /// Rolls back, and removes a journal, as restore_sqlite_db() does. A kill or a power loss during the call may leave no
 /// main database, or part of one: another call mends it.
+///
+/// In modern the factory copy takes the main database's place as a backup does in restore_sqlite_db(), and is refused
+/// as one.
 /// @return as backup_sqlite_db()
 /// @note Locks as backup_sqlite_db().
-/// @remark errno: as get_db_lock()
+/// @remark errno: as backup_sqlite_db()
 ROUTERDB_API int reset_sqlite_db(void);
 
 /// @}

@@ -81,6 +81,18 @@ struct BuildProfile {
     /// rand(), openlog() and closelog() of the program are left as they are.
     bool leaves_program_state = careful;
 
+    /// What is busy is waited for with a limit.
+    bool limits_waiting = careful;
+
+    /// A text of several statements goes on with the one that was busy, instead of from its beginning.
+    bool resumes_texts = careful;
+
+    /// The lock file keeps threads apart as well as processes, and a thread that holds it joins it in nested calls.
+    bool locks_threads = careful;
+
+    /// Backup, restore and reset copy a checked database through SQLite, instead of any file through a command.
+    bool copies_through_sqlite = careful;
+
     /// The DHCP server's pid file counts only if nobody but the server's owner could write it.
     bool checks_pid_file = careful;
 };

@@ -98,16 +98,23 @@ bool write_report(const DevInfo &device, Text &sql, unsigned long &sn, const Roa
 }
 
 /// Writes a report in one transaction.
-/// @return false where that is not to be, or fails; nothing is written or said then
+/// @return false where that is not to be, or fails in a way that another one may not; nothing is written or said then
 bool write_at_once(const DevInfo &device, Text &sql, unsigned long &sn, bool &written) {
-    const bool ended_well =
-        build_profile.registers_at_once && run_as_transaction(profiles::transaction, [&](Transaction &transaction) {
-            written = write_report(device, sql, sn, Road(transaction));
-        });
-    if (ended_well && !written) {
+    if (!build_profile.registers_at_once) {
+        return false;
+    }
+    const int code = run_as_transaction(profiles::transaction, [&](Transaction &transaction) {
+        written = write_report(device, sql, sn, Road(transaction));
+    });
+    if (is_busy(code)) {  // for so long that any other way would wait in vain, too
+        written = false;
+        leave_errno(errno_of(code));
+        return true;
+    }
+    if (code == SQLITE_OK && !written) {
         leave_errno(EOVERFLOW);  // the table is full, which the transaction keeps to itself
     }
-    return ended_well;
+    return code == SQLITE_OK;
 }
 
 /// Takes the memory for a report.

@@ -6,15 +6,21 @@
 
 namespace routerdb {
 
-MutexHold::~MutexHold() {
-    if (taken_) {
-        pthread_mutex_unlock(&db_mutex);
-    }
-}
-
 void MutexHold::take() {
     pthread_mutex_lock(&db_mutex);
     taken_ = true;
+}
+
+bool MutexHold::try_to_take() {
+    taken_ = pthread_mutex_trylock(&db_mutex) == 0;
+    return taken_;
+}
+
+void MutexHold::release() {
+    if (taken_) {
+        pthread_mutex_unlock(&db_mutex);
+    }
+    taken_ = false;
 }
 
 bool Access::take_guard() {
@@ -38,9 +44,27 @@ bool Access::take_guard() {
         draw();
     }
     if (profile_.guard != Guard::none) {
-        lock_file_.lock();
+        lock();
     }
     return true;
+}
+
+/// Waits for the lock file. Where it keeps threads apart nobody waits for it with the mutex in hand, since the thread
+/// that has it may need the mutex next, nor for the mutex with the lock file in hand.
+void Access::lock() {
+    if (!build_profile.locks_threads || profile_.guard != Guard::mutex_and_lock_file) {
+        lock_file_.lock();
+        return;
+    }
+    while (!lock_file_.try_to_lock()) {
+        mutex_.release();
+        lock_file_.lock();
+        if (mutex_.try_to_take()) {
+            return;
+        }
+        lock_file_.unlock();
+        mutex_.take();
+    }
 }
 
 bool Access::open_database() {

@@ -14,9 +14,11 @@ public:
     MutexHold() = default;
     MutexHold(const MutexHold &) = delete;
     MutexHold &operator=(const MutexHold &) = delete;
-    ~MutexHold();
+    ~MutexHold() { release(); }
 
     void take();
+    [[nodiscard]] bool try_to_take();
+    void release();
 
 private:
     bool taken_ = false;
@@ -58,6 +60,8 @@ public:
     CallErrno &call() { return call_; }
 
 private:
+    void lock();
+
     CallErrno call_;  // outlives all that is released
     const AccessProfile &profile_;
     int printed_ = 0;

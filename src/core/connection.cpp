@@ -16,6 +16,11 @@ int Connection::open(Database database, Backoff &backoff) {
     });
 }
 
+int Connection::open_file(const char *path, int flags) {
+    close();
+    return sqlite3_open_v2(path, &handle_, flags, nullptr);
+}
+
 void Connection::adopt(Connection &other) {
     close();
     handle_ = other.handle_;

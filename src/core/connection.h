@@ -26,6 +26,10 @@ public:
     /// @return the result code of SQLite; whatever it is, handle() is what SQLite made of it
     [[nodiscard]] int open(Database database, Backoff &backoff);
 
+    /// Opens any file, once.
+    /// @param flags  SQLITE_OPEN_...
+    [[nodiscard]] int open_file(const char *path, int flags);
+
     /// Closes now instead of at the end of the scope.
     /// @return the result code of SQLite; SQLITE_OK when nothing was open
     int close();

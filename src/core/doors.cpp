@@ -1,4 +1,6 @@
 // The exported functions of the database core. Each converts its arguments, calls, and converts the result.
+#include <fcntl.h>
+
 #include "core/call_errno.h"
 #include "core/execute.h"
 #include "core/lock_file.h"
@@ -15,7 +17,11 @@ using profiles::for_callers;
 pthread_mutex_t db_mutex = PTHREAD_MUTEX_INITIALIZER;
 
 int lock_reg(int fd, int cmd, int type, off_t offset, int whence, off_t len) {
-    return set_record_lock(fd, own_command(cmd), type, offset, whence, len);
+    const int result = set_record_lock(fd, own_command(cmd), type, offset, whence, len);
+    if (result == 0 && type == F_UNLCK && offset == 0 && len == 0) {
+        LockFile::unlock(fd);
+    }
+    return result;
 }
 
 int get_db_lock() {

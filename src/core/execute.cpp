@@ -32,6 +32,49 @@ void tune_for_writing(sqlite3 *db) {
     }
 }
 
+/// Whether a text has more than one statement, or a value that makes it look so.
+bool has_several_statements(const char *sql) {
+    const char *const end = std::strchr(sql, ';');
+    return end != nullptr && end[1 + std::strspn(end + 1, "; \t\r\n")] != '\0';
+}
+
+/// Runs statements one after the other.
+/// @param sql  the first one; receives the one to go on with when something was busy: what stands before it is done,
+///             and a transaction that was open then is done again from where it began
+int run_statements(sqlite3 *db, const char *&sql) {
+    for (const char *next = sql; *next != '\0';) {
+        sqlite3_stmt *statement = nullptr;
+        int code = sqlite3_prepare_v2(db, next, -1, &statement, &next);
+        while (statement != nullptr && sqlite3_step(statement) == SQLITE_ROW) {
+        }
+        if (code == SQLITE_OK) {
+            code = sqlite3_finalize(statement);
+        }
+        if (code != SQLITE_OK) {
+            return code;
+        }
+        if (sqlite3_get_autocommit(db) != 0) {
+            sql = next;
+        }
+    }
+    return SQLITE_OK;
+}
+
+/// One attempt at a text.
+/// @param sql  receives what is left of it
+int attempt(sqlite3 *db, const char *&sql) {
+    ErrorMessage message;
+    const bool one_by_one = build_profile.resumes_texts && has_several_statements(sql);
+    const int code = one_by_one ? run_statements(db, sql) : sqlite3_exec(db, sql, nullptr, nullptr, &message.text);
+    if (is_busy(code)) {
+        leave_transaction(db);
+    } else if (code != SQLITE_OK) {
+        report({Stream::standard_output, Wording::cannot_exec},
+               {nullptr, code, one_by_one ? sqlite3_errmsg(db) : message.text});
+    }
+    return code;
+}
+
 /// Callers rely on the plain text search: "SELECT" does not count, and the word inside a value does.
 bool looks_like_a_query(const char *sql) {
     return std::strstr(sql, "select") != nullptr;
@@ -57,16 +100,10 @@ void leave_transaction(sqlite3 *db) {
 
 int execute(Access &access, const char *sql) {
     sqlite3 *const db = access.db();
-    const int code = retry_while_busy(access.backoff(), db, [&] {
-        ErrorMessage message;
-        const int result = sqlite3_exec(db, sql, nullptr, nullptr, &message.text);
-        if (is_busy(result)) {
-            leave_transaction(db);
-        } else if (result != SQLITE_OK) {
-            report({Stream::standard_output, Wording::cannot_exec}, {nullptr, result, message.text});
-        }
-        return result;
-    });
+    const int code = retry_while_busy(access.backoff(), db, [&] { return attempt(db, sql); });
+    if (is_busy(code)) {
+        report({Stream::standard_output, Wording::cannot_exec}, {nullptr, code, sqlite3_errstr(code)});
+    }
     if (code != SQLITE_OK) {
         access.call().fail(errno_of(code));
     }

@@ -11,7 +11,7 @@ namespace routerdb {
 namespace {
 
 /// Flash that cannot remove a journal gives an I/O error each time: a reset is what such a device needs, and soon.
-constexpr Patience patience{60'000'000, 1'000'000};
+constexpr Patience patience_for_settling{60'000'000, 1'000'000};
 
 /// One attempt, on a connection of its own.
 /// @return the primary result code of SQLite
@@ -29,6 +29,7 @@ int read_main_database() {
 
 void settle_main_database() {
     Backoff backoff(FirstDelay::microseconds_50, 100);
+    Patience patience = patience_for_settling;
     [[maybe_unused]] const int code = retry_while_busy(backoff, nullptr, read_main_database, patience);
 }
 

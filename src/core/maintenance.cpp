@@ -3,7 +3,9 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "build_profile.h"
 #include "core/call_errno.h"
+#include "core/database_copy.h"
 #include "core/journal.h"
 #include "core/lock_file.h"
 #include "core/paths.h"
@@ -26,9 +28,10 @@ void sync_file_system_of(const char *directory) {
     }
 }
 
-/// Runs `commands` under the lock file. What they put into `directory` is on disk before the lock goes.
-template <typename Commands>
-int maintain(const char *directory, Commands commands) {
+/// Runs `work` under the lock file. What that puts into `directory` is on disk before the lock goes.
+/// @param work  returns 0 or a reason for errno
+template <typename Work>
+int maintain(const char *directory, Work work) {
     CallErrno call;
     LockFile lock_file;
     if (!lock_file.open()) {
@@ -37,8 +40,11 @@ int maintain(const char *directory, Commands commands) {
         return -1;
     }
     lock_file.lock();
-    settle_main_database();
-    commands();
+    const int reason = work();
+    if (reason != 0) {
+        call.fail(reason);
+        return -1;
+    }
     sync_file_system_of(directory);
     return 0;
 }
@@ -51,30 +57,60 @@ bool can_be_read(const char *path) {
     return access(path, R_OK) == 0;
 }
 
+void make_backup_directory() {
+    run_in_shell(command_size, "mkdir -p %s", paths::backup_directory);
+}
+
+// With commands nobody looks at what came of them.
+
+int backup_by_commands() {
+    settle_main_database();
+    make_backup_directory();
+    copy(paths::main_database, paths::backup_database);
+    return 0;
+}
+
+int restore_by_commands() {
+    settle_main_database();
+    if (can_be_read(paths::backup_database)) {  // or the database stays, and needs its journal
+        remove_main_journals();
+    }
+    copy(paths::backup_database, paths::main_database);
+    return 0;
+}
+
+int reset_by_commands() {
+    settle_main_database();
+    remove_main_journals();
+    run_in_shell(command_size, "rm -f %s; cp -f %s %s", paths::main_database, paths::factory_database,
+                 paths::main_database);
+    copy(paths::factory_database, paths::main_database);  // Deliberate: the factory copy is made twice.
+    return 0;
+}
+
 }  // namespace
 
 int backup_main_database() {
     return maintain(paths::backup_directory, [] {
-        run_in_shell(command_size, "mkdir -p %s", paths::backup_directory);
-        copy(paths::main_database, paths::backup_database);
+        if (!build_profile.copies_through_sqlite) {
+            return backup_by_commands();
+        }
+        make_backup_directory();
+        return copy_to_file(paths::main_database, paths::backup_database);
     });
 }
 
 int restore_main_database() {
     return maintain(paths::main_directory, [] {
-        if (can_be_read(paths::backup_database)) {  // or the database stays, and needs its journal
-            remove_main_journals();
-        }
-        copy(paths::backup_database, paths::main_database);
+        return build_profile.copies_through_sqlite ? copy_to_main_database(paths::backup_database)
+                                                   : restore_by_commands();
     });
 }
 
 int reset_main_database() {
     return maintain(paths::main_directory, [] {
-        remove_main_journals();
-        run_in_shell(command_size, "rm -f %s; cp -f %s %s", paths::main_database, paths::factory_database,
-                     paths::main_database);
-        copy(paths::factory_database, paths::main_database);  // Deliberate: the factory copy is made twice.
+        return build_profile.copies_through_sqlite ? copy_to_main_database(paths::factory_database)
+                                                   : reset_by_commands();
     });
 }
 

@@ -17,6 +17,9 @@ Start Reading::start(SqlView sql) {
     if (!access_.take_guard()) {
         return Start::not_opened;
     }
+    if (shared() != nullptr) {
+        access_.backoff().patience() = shared()->patience();
+    }
     if (start_on_shared(sql.narrow() != nullptr ? sql.narrow() : sql.text())) {
         return Start::ready;
     }
@@ -71,6 +74,7 @@ bool Reading::next_row() {
 Reading::Closed Reading::close() {
     statement_.finalize();
     if (shared() != nullptr && access_.is_open()) {
+        shared()->patience() = access_.backoff().patience();
         shared()->take_back(access_.connection());
     }
     const int connection = access_.close_connection();

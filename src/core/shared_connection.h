@@ -19,7 +19,11 @@ public:
     /// Takes it from a reading that is over.
     void take_back(Connection &reading) { connection_.adopt(reading); }
 
+    /// The patience of all readings together.
+    CallPatience &patience() { return patience_; }
+
 private:
+    CallPatience patience_{};
     Connection connection_;
 };
 

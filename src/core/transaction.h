@@ -34,21 +34,20 @@ private:
 
 /// Opens as the profile says, runs `body` inside a transaction, and closes. While the database is busy all of it is
 /// tried again, from its beginning.
-/// @return whether what it did is there; if not, nothing of it is
+/// @return SQLITE_OK if what it did is there; otherwise nothing of it is
 template <typename Body>
-[[nodiscard]] bool run_as_transaction(const ExecuteProfile &profile, Body body) {
+[[nodiscard]] int run_as_transaction(const ExecuteProfile &profile, Body body) {
     const CallErrno untold;  // whoever does it in another way then tells
     Access access(profile.access);
     if (!open_as(access, profile)) {
-        return false;
+        return SQLITE_CANTOPEN;
     }
     sqlite3 *const db = access.db();
-    const int code = retry_while_busy(access.backoff(), db, [&] {
+    return retry_while_busy(access.backoff(), db, [&] {
         Transaction transaction(access);
         body(transaction);
         return transaction.end();
     });
-    return code == SQLITE_OK;
 }
 
 }  // namespace routerdb

@@ -1,9 +1,13 @@
 // How the functions that run one statement wait for a busy database.
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 #include "core/helpers.h"
 #include "core/holdings.h"
 #include "support/database.h"
+#include "support/left_errno.h"
+#include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
 
@@ -22,9 +26,43 @@ protected:
         recorder_.answer("sqlite3_prepare_v2", codes);
     }
 
+    /// The statement meets a code for longer than where waiting is limited.
+    /// @param limit   of that, in microseconds
+    /// @param reason  that errno tells then
+    void expect_patience(int code, unsigned limit, int reason);
+
     const support::Database other_{GetParam().database};
     Recorder recorder_;
 };
+
+void Busy::expect_patience(int code, unsigned limit, int reason) {
+    constexpr unsigned many = 6000;
+    for (unsigned i = 0; i < many; ++i) {
+        recorder_.answer("usleep", {0});
+    }
+    recorder_.answer("draw", {0});
+    answer_statement({});
+    for (unsigned i = 0; i < many; ++i) {
+        recorder_.answer("sqlite3_exec", {code});
+        recorder_.answer("sqlite3_prepare_v2", {code});
+    }
+    Outcome outcome{};
+    support::expect_errno(support::build_profile.limits_waiting ? reason : support::found_errno,
+                          [&] { outcome = call("select 5;"); });
+    const Sleeps slept = recorder_.sleeps();
+    const unsigned first = GetParam().sleeps[0];
+    const unsigned step = GetParam().sleeps[1] - first;
+    EXPECT_EQ(slept.back(), first + (static_cast<unsigned>(slept.size()) - 1) * step);
+    if (support::build_profile.limits_waiting) {
+        const unsigned total = std::accumulate(slept.begin(), slept.end(), 0U);
+        EXPECT_EQ(outcome, GetParam().statement_failure.outcome);
+        EXPECT_LE(total, limit);
+        EXPECT_GT(total + slept.back() + step, limit);  // one more would have been too much
+    } else {
+        EXPECT_EQ(outcome, GetParam().outcomes.five);
+        EXPECT_EQ(slept.size(), many);
+    }
+}
 
 TEST_P(Busy, sleeps_grow_through_one_series) {
     recorder_.answer("draw", {0});
@@ -51,21 +89,12 @@ TEST_P(Busy, nothing_is_printed_while_it_lasts) {
     EXPECT_EQ(text.output + text.error, "");
 }
 
-TEST_P(Busy, retries_have_no_limit) {
-    constexpr unsigned many = 3000;
-    for (unsigned i = 0; i < many; ++i) {
-        recorder_.answer("usleep", {0});
-    }
-    recorder_.answer("draw", {0});
-    answer_statement({});
-    for (unsigned i = 0; i < many; ++i) {
-        recorder_.answer("sqlite3_exec", {SQLITE_BUSY});
-        recorder_.answer("sqlite3_prepare_v2", {SQLITE_BUSY});
-    }
-    EXPECT_EQ(call("select 5;"), GetParam().outcomes.five);
-    const Sleeps &sleeps = GetParam().sleeps;
-    ASSERT_EQ(recorder_.sleeps().size(), many);
-    EXPECT_EQ(recorder_.sleeps().back(), sleeps[0] + (many - 1) * (sleeps[1] - sleeps[0]));
+TEST_P(Busy, retries_have_no_limit_or_that_of_a_minute) {
+    expect_patience(SQLITE_BUSY, 60'000'000, ETIMEDOUT);
+}
+
+TEST_P(Busy, retries_after_io_errors_have_no_limit_or_that_of_half_a_minute) {
+    expect_patience(SQLITE_IOERR, 30'000'000, EIO);
 }
 
 TEST_P(Busy, waits_until_another_process_lets_go_of_the_database) {

@@ -7,19 +7,16 @@ TEST_F(KilledWriter, does_not_spoil_a_restored_database) {
     ASSERT_EQ(restore_sqlite_db(), 0);
     EXPECT_FALSE(support::file_exists(journal));
     EXPECT_EQ(content_of(support::main_database), rows_of_the_backup);
-    EXPECT_EQ(support::file_content(support::main_database), support::file_content(support::backup_database));
 }
 
 TEST_F(KilledWriter, does_not_spoil_a_reset_database) {
     ASSERT_EQ(reset_sqlite_db(), 0);
     EXPECT_FALSE(support::file_exists(journal));
     EXPECT_EQ(content_of(support::main_database), rows_of_the_factory);
-    EXPECT_EQ(support::file_content(support::main_database), support::file_content(support::factory_database));
 }
 
 TEST_F(KilledWriter, leaves_the_backup_without_its_half_done_work) {
     ASSERT_EQ(backup_sqlite_db(), 0);
-    EXPECT_EQ(support::file_content(support::backup_database), committed_);
     EXPECT_EQ(content_of(support::backup_database), committed_rows);
     EXPECT_EQ(content_of(support::main_database), committed_rows);
 }

@@ -6,12 +6,15 @@
 #include <cstring>
 #include <deque>
 #include <iterator>
+#include <string>
+#include <thread>
 
 #include "routerdb.h"
 #include "soak/soak.h"
 #include "support/database.h"
 #include "support/gate.h"
 #include "support/process.h"
+#include "support/profile.h"
 #include "support/service.h"
 #include "support/streams.h"
 
@@ -191,14 +194,35 @@ bool read_all_kinds(State &state, std::mt19937 random) {
     return true;
 }
 
-bool count_up_often(const support::Gate &start, long times, std::mt19937 random) {
-    start.wait();
+bool count_up_often(long times, std::mt19937 random) {
     for (long n = 0; n < times; ++n) {
         if (!count_up(random)) {
             return false;
         }
     }
     return true;
+}
+
+/// Threads of each writer, where the lock file keeps them apart.
+constexpr long threads = support::build_profile.locks_threads ? 4 : 1;
+
+/// A writer's increments, of which each thread makes its part.
+bool count_up_in_threads(const support::Gate &start, long times, long writer) {
+    start.wait();
+    std::atomic<bool> well{true};
+    std::deque<std::thread> working;
+    for (long n = 0; n < threads; ++n) {
+        const long part = times * (n + 1) / threads - times * n / threads;
+        working.emplace_back([&well, part, number = 1000 + writer * threads + n] {
+            if (!count_up_often(part, soak::random_numbers(number))) {
+                well = false;
+            }
+        });
+    }
+    for (std::thread &thread : working) {
+        thread.join();
+    }
+    return well;
 }
 
 TEST(NoLostUpdate, every_increment_counts_and_readers_see_whole_rows) {
@@ -213,7 +237,7 @@ TEST(NoLostUpdate, every_increment_counts_and_readers_see_whole_rows) {
     }
     std::deque<Process> writing;
     for (long n = 0; n < writers; ++n) {
-        writing.emplace_back([&] { return count_up_often(start, each, soak::random_numbers(n)); });
+        writing.emplace_back([&] { return count_up_in_threads(start, each, n); });
     }
     start.open();
     for (Process &writer : writing) {
@@ -226,7 +250,8 @@ TEST(NoLostUpdate, every_increment_counts_and_readers_see_whole_rows) {
     EXPECT_EQ(counted(), writers * each);
     EXPECT_EQ(support::value("pragma integrity_check;"), "ok");
     EXPECT_GE(state->reads, static_cast<long>(std::size(readers)));
-    soak::figure(writers * each, "increments by 16 processes, all counted");
+    soak::figure(writers * each,
+                 "increments by 16 processes, threads in each: " + std::to_string(threads) + "; all counted");
     soak::figure(state->reads, "readings beside them, none torn or empty");
 }
 

@@ -295,11 +295,11 @@ int fcntl(int fd, int command, ...) {
     void *argument = va_arg(arguments, void *);
     va_end(arguments);
     const Call call;
-    if (call && is_lock_file(fd)) {
+    if (call && is_lock_file(fd) && command != F_DUPFD_CLOEXEC) {
         const struct flock *lock = static_cast<const struct flock *>(argument);
         const bool whole = lock->l_whence == SEEK_SET && lock->l_start == 0 && lock->l_len == 0;
-        const bool takes = command == F_SETLKW && lock->l_type == F_WRLCK;
-        const bool gives = command == F_SETLK && lock->l_type == F_UNLCK;
+        const bool takes = (command == F_SETLKW || command == F_OFD_SETLK) && lock->l_type == F_WRLCK;
+        const bool gives = (command == F_SETLK || command == F_OFD_SETLK) && lock->l_type == F_UNLCK;
         call.note(!whole ? "lock of a part" : takes ? "lock" : gives ? "unlock" : "other lock");
     }
     int error = 0;
