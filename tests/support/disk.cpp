@@ -10,7 +10,7 @@ namespace support {
 
 namespace {
 
-constexpr std::size_t page_size = 4096;
+constexpr std::size_t block_size = 512;
 
 std::string directory_of(const std::string &path) {
     return path.substr(0, path.rfind('/'));
@@ -65,8 +65,8 @@ void Disk::write(const std::string &path, std::size_t offset, const std::string 
     }
     std::size_t done = 0;
     while (done < bytes.size()) {
-        const std::size_t size = std::min(bytes.size() - done, page_size - (offset + done) % page_size);
-        note({Kind::page, "", file, offset + done, bytes.substr(done, size)});
+        const std::size_t size = std::min(bytes.size() - done, block_size - (offset + done) % block_size);
+        note({Kind::block, "", file, offset + done, bytes.substr(done, size)});
         done += size;
     }
 }
@@ -96,6 +96,16 @@ void Disk::sync_all() {
     note({Kind::all_synced, ""});
 }
 
+std::vector<std::size_t> Disk::events_before_syncs() const {
+    std::vector<std::size_t> found;
+    for (std::size_t i = 0; i < events_.size(); ++i) {
+        if (events_[i].kind >= Kind::file_synced) {
+            found.push_back(i);
+        }
+    }
+    return found;
+}
+
 Files Disk::after(std::size_t events, Arrived arrived, unsigned seed) const {
     Names names = first_names_;
     Contents contents = first_contents_;
@@ -110,11 +120,12 @@ Files Disk::after(std::size_t events, Arrived arrived, unsigned seed) const {
             pending.erase(settled, pending.end());
         }
     }
-    std::mt19937 random(seed);
+    if (arrived == Arrived::some) {
+        apply_some(pending, seed, names, contents);
+    }
     for (const Event *change : pending) {
-        const bool lucky = arrived == Arrived::some && random() % 2 == 0;
-        const bool early = arrived == Arrived::names_and_sizes && change->kind != Kind::page;
-        if (arrived == Arrived::all || lucky || early) {
+        const bool early = arrived == Arrived::names_and_sizes && change->kind != Kind::block;
+        if (arrived == Arrived::all || early) {
             apply(*change, names, contents);
         }
     }
@@ -123,6 +134,21 @@ Files Disk::after(std::size_t events, Arrived arrived, unsigned seed) const {
         files[path] = contents.at(file);
     }
     return files;
+}
+
+void Disk::apply_some(const std::vector<const Event *> &changes, unsigned seed, Names &names, Contents &contents) {
+    std::mt19937 random(seed);
+    const auto eighths = 1 + random() % 7;
+    for (const Event *change : changes) {
+        if (random() % 8 >= eighths) {
+            continue;
+        }
+        Event arrived = *change;
+        if (change->kind == Kind::block && random() % 8 == 0) {
+            arrived.bytes.resize(random() % arrived.bytes.size());
+        }
+        apply(arrived, names, contents);
+    }
 }
 
 void Disk::apply(const Event &event, Names &names, Contents &contents) {
@@ -137,7 +163,7 @@ void Disk::apply(const Event &event, Names &names, Contents &contents) {
         case Kind::size:
             contents.at(event.file).resize(event.place);
             break;
-        case Kind::page: {
+        case Kind::block: {
             std::string &content = contents.at(event.file);
             content.resize(std::max(content.size(), event.place + event.bytes.size()));
             content.replace(event.place, event.bytes.size(), event.bytes);

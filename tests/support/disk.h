@@ -19,7 +19,8 @@ void put_files(const std::vector<std::string> &directories, const Files &files);
 
 /// A disk behind a cache. It is told of changes and syncs in the order in which they are made, and knows what could be
 /// left of them: names are on disk when their directory or everything was synced, contents when their file or
-/// everything was. Until then each page, size and name may have arrived or not.
+/// everything was. Until then each block of 512 bytes, size and name may have arrived or not, and the first part of a
+/// block alone.
 class Disk {
 public:
     explicit Disk(const Files &files);
@@ -39,6 +40,9 @@ public:
     /// The number of things that it was told.
     std::size_t events() const { return events_.size(); }
 
+    /// How many of them precede each sync: then most has not arrived.
+    std::vector<std::size_t> events_before_syncs() const;
+
     /// Which of the changes that were not synced have arrived.
     enum class Arrived : std::uint8_t { none, all, names_and_sizes, some };
 
@@ -50,7 +54,7 @@ private:
     using Names = std::map<std::string, int>;     // of files by number; a number stays with a file
     using Contents = std::map<int, std::string>;  // which is renamed or has no name any more
 
-    enum class Kind : std::uint8_t { name, size, page, file_synced, directory_synced, all_synced };
+    enum class Kind : std::uint8_t { name, size, block, file_synced, directory_synced, all_synced };
 
     struct Event {
         Kind kind;
@@ -63,6 +67,8 @@ private:
     static constexpr int none = -1;
 
     static void apply(const Event &event, Names &names, Contents &contents);
+    /// Each change arrives or is lost, as often as is drawn first; some blocks arrive in part.
+    static void apply_some(const std::vector<const Event *> &changes, unsigned seed, Names &names, Contents &contents);
     static bool is_settled_by(const Event &change, const Event &sync);
     void note(const Event &event);
 
