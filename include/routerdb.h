@@ -52,6 +52,11 @@
 /// 13. Texts of callers, in modern. They attach no file with a name, VACUUM INTO included, and do not edit the schema
 ///     directly; functions and virtual tables that only a file's own schema calls are not run unless they are harmless.
 ///     The library's own readings read tables, not views of the same name.
+/// 14. Power losses. After a power loss the next call that opens the database finds each statement whole or not at all,
+///     and all that had succeeded but perhaps the last one: the journal that SQLite deletes in the end may be there
+///     again. In exact DB_EXEC_SQL_CHAR() has a journal synced once: in that moment a disk that writes in an order of
+///     its own may lose the database with the power, which reset_sqlite_db() brings up. Backup, restore and reset say
+///     themselves what they leave.
 #ifndef ROUTERDB_H
 #define ROUTERDB_H
 
@@ -127,6 +132,8 @@ ROUTERDB_API int free_db_lock(int fd);
 ///
 /// A text of several statements that was busy part way is applied again from its start, with those that had gone
 /// through (not in modern). A transaction that the busy attempt left open is rolled back first.
+///
+/// After a power loss each statement is there whole or not at all, and perhaps not the last one that had succeeded.
 /// @param sql  one or more statements; only read
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
@@ -139,6 +146,8 @@ ROUTERDB_API int DbSqlExec(char *sql);
 
 /// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first. The copy is on
 /// disk when the call returns. It replaces the earlier backup whatever the main database is, a damaged one included.
+/// After a power loss during the call the backup may be missing, or part the one and part the other; the main database
+/// is as it was.
 ///
 /// What a killed writer left in the main database is rolled back first. While the database is busy, or gives I/O
 /// errors, this is tried again: for 60 seconds, or 1 second, of sleeping. If it has not succeeded by then, the copy may
@@ -197,6 +206,9 @@ ROUTERDB_API int reset_sqlite_db(void);
 
 /// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows. What is
 /// busy part way may be applied again as in DbSqlExec().
+///
+/// After a power loss each statement is there as after DbSqlExec(), in the exact profile but for what is said of power
+/// losses above.
 /// @param sql  one or more statements
 /// @return 0, or -1 if the lock file or the database cannot be opened or a statement fails
 /// @note Errors: as DbSqlExec(). The sleeps of a busy call are hundred times as long: 5,600 to 15,500 microseconds
@@ -901,6 +913,8 @@ ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char 
 /// record cleared, and a change has no effect; in modern errno tells that from an empty table. What the service made of
 /// a statement neither tells. Members beyond the table's own columns are not read. Thread-safe.
 ///
+/// After a power loss a change is there as after DbSqlExec(), with which routerdb-sqld makes it before it replies.
+///
 /// Conditions are SQL, such as generate_db_params() makes. In modern they compare columns with texts between quotes or
 /// with integers, also in "in" lists, joined by "or" and "and", with parentheses. Anything else, "1" included, is
 /// refused: it is not sent, and the system log names the table.
@@ -1534,6 +1548,9 @@ ROUTERDB_API void FreeApDevList(ApDevList *list);
 /// Values are written with their apostrophes doubled: what an access point reports about itself is never SQL. Of the
 /// networks as many are written as `Dev_Wlan_Radio_Num` says, eight at most. The statements go through
 /// DB_EXEC_SQL_CHAR(), DB_EXEC_SQL_CHAR_INT() and DB_EXEC_SQL_CHAR_LONG(), with their locks and messages.
+///
+/// After a power loss each statement is there as after DB_EXEC_SQL_CHAR(): of a new access point in exact perhaps a row
+/// without its report, in modern all or nothing.
 /// @{
 
 /// Looks an access point up by its MAC address, up to sixteen times, 100 microseconds apart.
@@ -1588,7 +1605,8 @@ ROUTERDB_API int DB_UpdateInfo(DevInfo dev);
 ///
 /// Each runs its statement with DB_EXEC_SQL_CHAR() (to write) or with DB_EXEC_SQL_CHAR_CHAR(), DB_EXEC_SQL_CHAR_LONG()
 /// or DB_EXEC_SQL_CHAR_INT() (to read), unless its comment says otherwise, with their locks and messages, and reports
-/// nothing else. Texts are put into the statement as given.
+/// nothing else. Texts are put into the statement as given. After a power loss what was written is there as after
+/// DB_EXEC_SQL_CHAR().
 /// @{
 
 /// Sets the status of the access point with a MAC address.
@@ -1732,6 +1750,8 @@ ROUTERDB_API char *SetDevInfoFromWlanGroupInfo(DevInfo *dev, const DevInfo *grou
 
 /// @}
 /// @defgroup zero_config_groups Zero-configuration groups
+///
+/// After a power loss a group that was written is there as after DB_EXEC_SQL_CHAR().
 /// @{
 
 /// Reads the default group, number 1.

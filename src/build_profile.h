@@ -51,6 +51,10 @@ struct BuildProfile {
     /// No text of a caller attaches a file or edits the schema, and the schema of a file is not trusted.
     bool confines_texts = careful;
 
+    /// A journal is on disk before it says so of itself: a power loss in between would have it undo with what never
+    /// came.
+    bool syncs_in_full = careful;
+
     /// A list takes as many records as it has room for, whatever the database or the service has.
     bool caps_lists = careful;
 

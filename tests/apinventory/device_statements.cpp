@@ -1,6 +1,7 @@
 #include "apinventory/device_statements.h"
 
 #include "apinventory/tables.h"
+#include "support/profile.h"
 
 namespace statements {
 
@@ -145,8 +146,10 @@ std::string configuration(int wlans, const std::string &first_power, const std::
 }
 
 std::vector<std::string> write_of(const std::string &sql) {
-    return {"sqlite3_exec PRAGMA synchronous = NORMAL; ", "sqlite3_exec PRAGMA page_size = 12000; ",
-            "sqlite3_exec PRAGMA cache_size = 4000; ", "sqlite3_exec " + sql};
+    return {support::build_profile.syncs_in_full ? "sqlite3_exec PRAGMA synchronous = FULL; "
+                                                 : "sqlite3_exec PRAGMA synchronous = NORMAL; ",
+            "sqlite3_exec PRAGMA page_size = 12000; ", "sqlite3_exec PRAGMA cache_size = 4000; ",
+            "sqlite3_exec " + sql};
 }
 
 }  // namespace statements

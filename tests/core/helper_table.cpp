@@ -75,7 +75,8 @@ Helper exec_char() {
                     "draw",
                     "lock",
                     open_main,
-                    "sqlite3_exec PRAGMA synchronous = NORMAL; ",
+                    support::build_profile.syncs_in_full ? "sqlite3_exec PRAGMA synchronous = FULL; "
+                                                         : "sqlite3_exec PRAGMA synchronous = NORMAL; ",
                     "sqlite3_exec PRAGMA page_size = 12000; ",
                     "sqlite3_exec PRAGMA cache_size = 4000; ",
                     "sqlite3_exec select 5;",

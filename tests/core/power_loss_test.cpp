@@ -1,8 +1,9 @@
-// What backup, restore and reset leave on disk when the power fails after they have returned, or meanwhile.
+// What a write leaves on disk when the power fails meanwhile, and backup, restore and reset when it does then or later.
 #include <set>
 
 #include "core/killed_writer.h"
 #include "support/disk_trace.h"
+#include "support/profile.h"
 
 namespace {
 
@@ -73,6 +74,30 @@ TEST_F(PowerLoss, in_a_restore_is_mended_by_a_reset) {
 
 TEST_F(PowerLoss, in_a_reset_is_mended_by_another) {
     expect_mended_by_reset(reset_sqlite_db);
+}
+
+/// Whether the database is sound, and all rows are of one statement.
+bool is_as_before_or_after() {
+    const support::Database database;
+    const auto urls = database.rows("select distinct url from user_urlinfo;");
+    return database.value("pragma integrity_check;") == "ok" && urls.size() == 1;
+}
+
+TEST(PowerLossInAWrite, leaves_what_was_there_if_journals_are_synced_in_full) {
+    support::execute(
+        "with recursive n(i) as (select 1 union all select i + 1 from n where i < 30)"
+        "insert into user_urlinfo(url, mark) select 'before', zeroblob(1000) from n;");
+    const Disk disk = support::trace_disk(directories, [] {
+        return DB_EXEC_SQL_CHAR("update user_urlinfo set url = 'after', mark = zeroblob(id % 2 * 1500);") == 0;
+    });
+    int destroyed = 0;
+    for (const std::size_t events : disk.events_before_syncs()) {
+        for (const Files &files : remains(disk, events, 50)) {
+            support::put_files(directories, files);
+            destroyed += is_as_before_or_after() ? 0 : 1;
+        }
+    }
+    EXPECT_EQ(destroyed == 0, support::build_profile.syncs_in_full) << destroyed;
 }
 
 }  // namespace
