@@ -2,11 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 #include <utility>
 
 #include "routerdb.h"
+#include "soak/access_point.h"
+#include "soak/owner.h"
 #include "soak/victim.h"
 #include "support/database.h"
 #include "support/profile.h"
@@ -16,34 +17,18 @@ namespace {
 using soak::Kill;
 using soak::Work;
 
-/// All pages of a database tell whose it is: a copy that ends in the middle has some of each.
-void fill(const char *path, const std::string &owner) {
-    const support::Database database(path);
-    database.execute("create table pages(owner, bytes);");
-    database.execute(
-        "with recursive n(i) as (select 1 union all select i + 1 from n where i < 2000)"
-        "insert into pages select '" +
-        owner + "', randomblob(2000) from n;");
-}
+/// So many that a kill may come in the middle of a copy.
+constexpr long pages = 2000;
 
-/// Whose the main database is; "nobody's" if it is not wholly one's, or not sound.
 std::string owner() {
-    try {
-        const support::Database database;
-        const bool sound = database.value("pragma integrity_check;") == "ok";
-        const auto owners = database.rows("select owner, count(*) from pages group by owner;");
-        const bool whole = owners.size() == 1 && owners[0].find("|2000") != std::string::npos;
-        return sound && whole ? owners[0].substr(0, owners[0].find('|')) : "nobody's";
-    } catch (const std::exception &) {
-        return "nobody's";
-    }
+    return soak::owner_of(support::main_database, pages);
 }
 
 class Killed : public ::testing::Test {
 protected:
     Killed() {
-        fill(support::main_database, "main");
-        fill(support::factory_database, "factory");
+        soak::fill(support::main_database, "main", pages);
+        soak::fill(support::factory_database, "factory", pages);
         EXPECT_EQ(backup_sqlite_db(), 0);
         support::Database(support::backup_database).execute("update pages set owner = 'backup';");
         main_ = support::file_content(support::main_database);
@@ -209,14 +194,8 @@ TEST_F(Killed, in_a_backup_between_writes) {
 
 constexpr long access_points = 20;
 
-/// Access point n of twenty, which bears the number of its registration as its name.
 DevInfo access_point(long n) {
-    DevInfo device{};
-    const std::string number = std::to_string(10 + n % access_points);
-    std::strcpy(device.Dev_MAC, ("00:00:00:00:01:" + number).c_str());
-    std::strcpy(device.Dev_Ipaddress, ("10.0.0." + number).c_str());
-    std::strcpy(device.Dev_Name, std::to_string(n).c_str());
-    return device;
+    return soak::access_point(n, access_points);
 }
 
 /// Registrations up to number n of which the access point has no row of its own, or another name.

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <new>
 #include <random>
 #include <string>
@@ -40,6 +41,9 @@ inline std::mt19937 random_numbers(long process = 0) {
 inline unsigned draw(std::mt19937 &random, unsigned below) {
     return static_cast<unsigned>(random() % below);
 }
+
+/// Work number n, from 1; it returns whether all was well.
+using Work = std::function<bool(long n)>;
 
 /// A line of the table that scripts/soak prints, if all has held so far.
 inline void figure(long times, const std::string &what) {

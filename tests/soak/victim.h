@@ -15,9 +15,6 @@
 
 namespace soak {
 
-/// Work number n, from 1; it returns whether all was well.
-using Work = std::function<bool(long n)>;
-
 /// Whom the signal reaches: the caller, so that the commands that it has started go on, or them too.
 enum class Kill : std::uint8_t { caller_alone, whole_group };
 
