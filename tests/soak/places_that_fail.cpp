@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <map>
 
@@ -21,10 +22,8 @@ using soak::Call;
 using soak::Calls;
 using soak::Place;
 
-/// Whether in the modern profile a copy that is cut short, or is of a database that is none, replaces nothing.
-constexpr bool modern_checks_copies = false;
-
-constexpr bool checks_copies = support::build_profile.careful && modern_checks_copies;
+/// Whether a copy that is cut short, or is of a database that is none, replaces nothing.
+constexpr bool checks_copies = support::build_profile.copies_through_sqlite;
 
 // What some functions do with the main database: they tell more than the others.
 const std::vector<std::string> writers{"DbSqlExec", "DB_EXEC_SQL_CHAR", "SetDevStatusbyIP",
@@ -226,20 +225,39 @@ TEST_P(PlacesThatFail, are_seen_by_callers_of_statement_helpers) {
 INSTANTIATE_TEST_SUITE_P(All, PlacesThatFail, ::testing::ValuesIn(soak::places()),
                          [](const auto &place) { return place.param.name; });
 
+/// What a process with the lock and the test tell each other.
+struct Signals {
+    std::atomic<bool> locked;
+    std::atomic<bool> let_go;
+};
+
+bool hold_lock(Signals &signals) {
+    const int handle = get_db_lock();
+    signals.locked = true;
+    return support::eventually([&] { return signals.let_go.load(); }) && free_db_lock(handle) == 0;
+}
+
+bool insert(const char *name) {
+    return DB_EXEC_SQL_CHAR((std::string("insert into user_urlinfo(name) values('") + name + "');").c_str()) == 0;
+}
+
 TEST(LockFile, that_is_removed_holds_up_nobody_for_good) {
     const long times = soak::count(3, 600);
     for (long n = 0; n < times && !::testing::Test::HasFailure(); ++n) {
         support::execute("delete from user_urlinfo;");
-        const int handle = get_db_lock();
-        support::Process waiting([] { return DB_EXEC_SQL_CHAR("insert into user_urlinfo(name) values('a');") == 0; });
+        const soak::Shared<Signals> signals;
+        support::Process holder([&] { return hold_lock(*signals); });
+        ASSERT_TRUE(support::eventually([&] { return signals->locked.load(); }));
+        support::Process waiting([] { return insert("a"); });
         ASSERT_TRUE(support::eventually(support::somebody_waits_for_a_lock));
         unlink(support::lock_file);
-        support::streams_of([] { EXPECT_EQ(DB_EXEC_SQL_CHAR("insert into user_urlinfo(name) values('b');"), -1); });
+        support::streams_of([] { EXPECT_FALSE(insert("b")); });
         support::write_file(support::lock_file, "");
-        EXPECT_EQ(DB_EXEC_SQL_CHAR("insert into user_urlinfo(name) values('c');"), 0);
+        EXPECT_TRUE(insert("c"));
         EXPECT_FALSE(waiting.has_ended());
-        free_db_lock(handle);
-        EXPECT_EQ(waiting.wait(), 0);
+        signals->let_go = true;
+        EXPECT_EQ(holder.wait(), 0);
+        EXPECT_TRUE(support::eventually([&] { return waiting.has_ended(); }));
         EXPECT_EQ(support::value("select group_concat(name) from (select name from user_urlinfo order by 1);"), "a,c");
     }
     support::execute("delete from user_urlinfo;");
