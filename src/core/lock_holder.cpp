@@ -9,7 +9,6 @@
 #include <cstdint>
 
 #include "core/lock_file.h"
-#include "core/paths.h"
 
 namespace routerdb::lock_holder {
 
@@ -24,22 +23,23 @@ std::atomic<std::uint32_t> holder;
 std::atomic<int> descriptor;
 std::atomic<bool> kept;
 std::atomic<pid_t> process;
+std::atomic<std::uint32_t> locked_file;
 
 std::uint32_t this_thread() {
     return static_cast<std::uint32_t>(syscall(SYS_gettid)) << depth_bits;
 }
 
-/// Programs close descriptors that are not theirs to close, and open others in their place.
-bool is_lock_file(int fd) {
-    struct stat opened {};
-    struct stat named {};
-    return fstat(fd, &opened) == 0 && stat(paths::lock_file, &named) == 0 && opened.st_ino == named.st_ino &&
-           opened.st_dev == named.st_dev;
+/// What tells the file behind a descriptor from others that are open: the file of the name may be another one by now.
+/// @return 0 if there is none
+std::uint32_t file_behind(int fd) {
+    struct stat file {};
+    return fstat(fd, &file) == 0 ? static_cast<std::uint32_t>(file.st_ino * 31 + file.st_dev) | 1U : 0;
 }
 
-/// Locking again what its open file has locked changes nothing; what another one has locked is refused.
+/// Programs close descriptors that are not theirs to close, and open others in their place. Locking again what its open
+/// file has locked changes nothing; what another one has locked is refused.
 bool holds(int fd) {
-    return is_lock_file(fd) && lock_open_file(fd, F_WRLCK) == 0;
+    return file_behind(fd) == locked_file && lock_open_file(fd, F_WRLCK) == 0;
 }
 
 /// Counts one more beside those of a thread.
@@ -76,6 +76,7 @@ int join() {
 void enter(int fd) {
     descriptor = fd;
     kept = false;
+    locked_file = file_behind(fd);
     process = getpid();
     holder = this_thread() | 1U;
 }

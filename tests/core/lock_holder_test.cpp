@@ -157,6 +157,23 @@ TEST(LockHandle, stays_the_parents_when_a_child_frees_it) {
     EXPECT_TRUE(support::lock_file_is_free());
 }
 
+TEST(LockHandle, of_a_file_that_has_been_made_anew_unlocks_though_a_child_has_it_open) {
+    const Gate release;
+    const int handle = get_db_lock();
+    const int other = open(support::lock_file, O_RDWR);
+    support::Process child([&] {
+        release.wait();
+        return true;
+    });
+    ASSERT_EQ(unlink(support::lock_file), 0);
+    support::write_file(support::lock_file, "");
+    EXPECT_EQ(free_db_lock(handle), 0);
+    EXPECT_EQ(lock_reg(other, F_SETLK, F_WRLCK, 0, SEEK_SET, 0), 0);
+    release.open();
+    EXPECT_EQ(child.wait(), 0);
+    close(other);
+}
+
 TEST(LockHandle, does_not_get_into_programs) {
     const int handle = get_db_lock();
     EXPECT_NE(fcntl(handle, F_GETFD) & FD_CLOEXEC, 0);
