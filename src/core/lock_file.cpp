@@ -112,6 +112,7 @@ bool LockFile::unlock() {
     const bool last = counted_ && lock_holder::leave();
     counted_ = false;
     if (last) {
+        lock_holder::close_kept(fd_);  // as long as nobody else can enter
         lock_open_file(fd_, F_UNLCK);
     }
     return last;
@@ -134,9 +135,6 @@ int LockFile::release() {
     if (kept && !last) {
         hand_over();
         return 0;
-    }
-    if (build_profile.locks_threads && last) {
-        lock_holder::close_kept(fd_);
     }
     return close(hand_over());
 }
