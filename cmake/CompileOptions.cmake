@@ -19,3 +19,8 @@ if(ROUTERDB_SANITIZE)
     add_compile_options(-fsanitize=${ROUTERDB_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${ROUTERDB_SANITIZE})
 endif()
+
+# What is compiled so tells libFuzzer which way an input has taken.
+if(ROUTERDB_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -13,6 +13,9 @@ header_readers=(bindgen castxml luajit python3 swig)
 test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 lib32stdc++-12-dev nlohmann-json3-dev strace
     "${header_readers[@]}")
 
+# What scripts/fuzz needs beyond what every build does.
+fuzz_packages=(clang libclang-rt-dev nlohmann-json3-dev)
+
 # Prints what builds for another architecture need beyond that: the architecture is what a preset begins with.
 architecture_packages() {
     case ${1%%-*} in

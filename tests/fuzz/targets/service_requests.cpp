@@ -1,0 +1,49 @@
+// Requests to the reference SQL service, from their first byte to the reply.
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cstring>
+
+#include "fuzz/fuzz.h"
+#include "routerdb-sqld/answer.h"
+#include "support/database.h"
+
+const char fuzz::what[] = "requests to routerdb-sqld: a reply that is whole, or none";
+
+namespace {
+
+constexpr char tables[][16] = {"user_timegroup", "user_urlinfo"};
+
+std::string untouched;
+
+}  // namespace
+
+void fuzz::prepare() {
+    make_database({tables[0], tables[1]},
+                  "insert into user_timegroup(id,name) values(1,'group'); insert into user_urlinfo(id,name,url) "
+                  "values(1,'site','http://a'),(2,NULL,x'00');");
+    untouched = support::file_content(support::main_database);
+}
+
+void fuzz::run(Input input) {
+    const std::string request = input.take_rest();
+    int ends[2];
+    require(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0, "no sockets to be had");
+    constexpr int room = 1 << 22;  // a whole list, which nobody reads meanwhile
+    setsockopt(ends[1], SOL_SOCKET, SO_SNDBUF, &room, sizeof(room));
+    send(ends[0], request.data(), request.size(), MSG_DONTWAIT);
+    shutdown(ends[0], SHUT_WR);
+    const bool answered = sqld::answer(ends[1], sqld::Settings());
+    close(ends[1]);
+
+    static std::string reply(1 << 22, '\0');
+    std::uint32_t header[3] = {};
+    const ssize_t size = recv(ends[0], reply.data(), reply.size(), MSG_WAITALL);
+    close(ends[0]);
+    if (size >= static_cast<ssize_t>(sizeof(header))) {
+        std::memcpy(header, reply.data(), sizeof(header));
+    }
+    require(answered ? size == static_cast<ssize_t>(sizeof(header) + header[2]) : size <= 0, "half a reply");
+    require(!answered || std::memcmp(reply.data(), request.data(), 8) == 0, "a reply to another request");
+    put_file(support::main_database, untouched);
+}
