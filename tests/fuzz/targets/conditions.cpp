@@ -5,7 +5,8 @@
 #include "routerdb.h"
 
 // Modern alone: in exact a condition is SQL, as the header says.
-const char fuzz::what[] = "conditions of deletions: what is sent deletes rows of its table, and none without comparing";
+const char fuzz::what[] =
+    "conditions of deletions: what is sent deletes rows of its table, and only those that it names";
 
 namespace {
 
@@ -22,9 +23,12 @@ sqlite3 *db = nullptr;
 
 }  // namespace
 
+/// In a row of nulls no column compares with a value: what finds it says something else.
 void fuzz::prepare() {
     sqlite3_open(":memory:", &db);
-    sqlite3_exec(db, "create table wifi0acl(id integer primary key, name text, mac text, mark text, status int);",
+    sqlite3_exec(db,
+                 "create table wifi0acl(id int, name text, mac text, mark text, status int, rowid, oid, _rowid_);"
+                 "insert into wifi0acl default values;",
                  nullptr, nullptr, nullptr);
     sqlite3_set_authorizer(db, permit, nullptr);
 }
@@ -37,11 +41,11 @@ void fuzz::run(Input input) {
         sqlite3_stmt *statement = nullptr;
         const char *rest = nullptr;
         const int code = sqlite3_prepare_v2(db, sql.c_str(), -1, &statement, &rest);
-        const std::string shown = sqlite3_sql(statement) != nullptr ? sqlite3_sql(statement) : "";
+        const std::string shown = statement != nullptr ? sqlite3_sql(statement) : "";
+        sqlite3_step(statement);
         sqlite3_finalize(statement);
         require(code != SQLITE_AUTH, "a condition that does more: " + sql);
         require(code != SQLITE_OK || (*rest == '\0' && shown == sql), "a condition that ends its statement: " + sql);
-        const std::string where = sql.substr(sql.find(" where ") + 7);
-        require(where.find_first_of("=<>(") != std::string::npos, "a condition that compares nothing: " + sql);
+        require(sqlite3_total_changes(db) == 1, "a condition that finds every row: " + sql);
     }
 }

@@ -16,6 +16,19 @@ constexpr char tables[][16] = {"user_timegroup", "user_urlinfo"};
 
 std::string untouched;
 
+/// A text that goes on and on, as far as the header announces one.
+void extend(std::string &request) {
+    constexpr std::size_t header = 12;
+    constexpr std::uint32_t most = 200'000;
+    std::uint32_t length = 0;
+    if (request.size() > header) {
+        std::memcpy(&length, request.data() + 8, sizeof(length));
+        while (length <= most && request.size() - header < length) {
+            request += request.substr(header, length - (request.size() - header));
+        }
+    }
+}
+
 }  // namespace
 
 void fuzz::prepare() {
@@ -26,7 +39,11 @@ void fuzz::prepare() {
 }
 
 void fuzz::run(Input input) {
-    const std::string request = input.take_rest();
+    const bool goes_on = input.take_number(2) == 1;
+    std::string request = input.take_rest();
+    if (goes_on) {
+        extend(request);
+    }
     int ends[2];
     require(socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) == 0, "no sockets to be had");
     constexpr int room = 1 << 22;  // a whole list, which nobody reads meanwhile
