@@ -2,6 +2,8 @@
 // say that something is wrong.
 #pragma once
 
+#include <sqlite3.h>
+
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -74,6 +76,9 @@ const std::vector<std::string> &statements();
 
 /// Makes the main database, or another one, anew: with these tables only, as the schema has them, and these rows.
 void make_database(const std::vector<std::string> &tables, const std::string &rows, const char *path = nullptr);
+
+/// Ends statements of a connection that take too long, as it is done on those of the library: a view may have no end.
+void limit_statements(sqlite3 *db);
 
 /// A file with these bytes. A message ends the program where that is not possible.
 void put_file(const char *path, std::string_view bytes);

@@ -82,15 +82,6 @@ void take_statement() {
     close(std::exchange(watching->service, -1));
 }
 
-/// What an attempt may take: a schema that never ends would keep its reader for good.
-constexpr int steps_between_looks = 1000;
-constexpr int most_looks = 2000;
-thread_local int looks = 0;
-
-int end_long_statements(void * /*unused*/) {
-    return ++looks > most_looks ? 1 : 0;
-}
-
 /// Looks at what is left, and closes it where leaving it is promised.
 template <typename Handles, typename Close>
 void close_left(Handles &handles, const char *fault, Close close_one) {
@@ -107,7 +98,6 @@ namespace platform {
 void watch() {
     static Watch all;
     all = Watch();
-    looks = 0;
     watching = &all;
 }
 
@@ -136,6 +126,19 @@ void on_command(std::function<void(const std::string &, int)> action) {
 
 void answer_with(std::string_view reply) {
     watching->reply = std::string(reply);
+}
+
+void limit_statements(sqlite3 *db) {
+    constexpr int steps_between_looks = 1000;
+    static thread_local int looks = 0;
+    looks = 0;  // one connection works at a time
+    sqlite3_progress_handler(
+        db, steps_between_looks,
+        [](void * /*unused*/) {
+            constexpr int most_looks = 2000;
+            return ++looks > most_looks ? 1 : 0;
+        },
+        nullptr);
 }
 
 const std::vector<std::string> &statements() {
@@ -242,7 +245,7 @@ WRAP(int, iconv_close, (iconv_t converter), (converter), {
 WRAP(int, sqlite3_open, (const char *path, sqlite3 **db), (path, db), {
     const int code = __real_sqlite3_open(path, db);
     (code == SQLITE_OK ? watching->connections : watching->failed_connections).insert(*db);
-    sqlite3_progress_handler(*db, steps_between_looks, end_long_statements, nullptr);
+    limit_statements(*db);
     return code;
 })
 

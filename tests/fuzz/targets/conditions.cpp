@@ -10,8 +10,6 @@ const char fuzz::what[] =
 
 namespace {
 
-using fuzz::require;
-
 /// What a deletion is prepared for: to delete rows of its table, and to read its columns.
 int permit(void * /*unused*/, int action, const char *table, const char * /*column*/, const char * /*database*/,
            const char * /*trigger*/) {

@@ -11,8 +11,6 @@ void fuzz::prepare() {}
 
 namespace {
 
-using fuzz::require;
-
 using Convert = int(const char *, size_t, char *, size_t);
 
 /// @return whether it went well; `out` has the text then

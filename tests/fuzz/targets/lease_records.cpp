@@ -10,8 +10,6 @@ void fuzz::prepare() {}
 
 namespace {
 
-using fuzz::require;
-
 constexpr char lease_file[] = "/tmp/leases";
 constexpr char pid_file[] = "/tmp/pid";
 

@@ -13,7 +13,6 @@ void fuzz::prepare() {}
 namespace {
 
 using fuzz::build_profile;
-using fuzz::Input;
 using fuzz::require;
 
 constexpr std::size_t header_size = 12;
