@@ -52,7 +52,7 @@ void require(bool as_it_should_be, const char *fault);
 void require(bool as_it_should_be, const std::string &fault);
 
 // The platform. Nothing sleeps, no command is run, no process is signalled, the system log takes all and keeps nothing.
-// A call that sleeps a few hundred times is taken for one that never ends.
+// A call that sleeps thousands of times is taken for one that never ends.
 
 /// What has been printed on standard output by this input.
 std::string printed();
