@@ -24,3 +24,9 @@ endif()
 if(ROUTERDB_FUZZ)
     add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+
+if(ROUTERDB_COVERAGE)
+    # Counters that are relocated lie in the file itself from the start.
+    add_compile_options(-fprofile-instr-generate -fcoverage-mapping -mllvm -runtime-counter-relocation)
+    add_link_options(-fprofile-instr-generate)
+endif()

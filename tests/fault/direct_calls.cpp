@@ -193,6 +193,6 @@ void DirectRoad::expect_connections_left() {
 void DirectRoad::expect_no_lock_or_descriptor_left() const {
     open_standard_input();
     EXPECT_EQ(support::open_descriptors(), descriptors_);
-    EXPECT_EQ(support::file_content("/proc/locks"), "");  // of all processes in this private root
+    EXPECT_EQ(support::locks(), "");
     EXPECT_TRUE(mutex_is_free());
 }

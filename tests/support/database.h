@@ -54,7 +54,11 @@ int open_descriptors();
 /// Whether another process could take the write lock on the database lock file now.
 bool lock_file_is_free();
 
-/// Whether a process in this private root is waiting for a record lock.
+/// The locks on files of this private root, and who waits for them, as the kernel lists them. It lists those of open
+/// files for everybody.
+std::string locks();
+
+/// Whether somebody in this private root is waiting for a lock.
 bool somebody_waits_for_a_lock();
 
 }  // namespace support
