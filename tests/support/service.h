@@ -13,17 +13,23 @@ namespace support {
 /// The program and its arguments.
 std::vector<std::string> sqld(const std::vector<std::string> &arguments = {});
 
+/// A line of the system log about a request of this process.
+std::string told(const std::string &outcome);
+
 /// Runs routerdb-sqld until it ends by itself or is killed with the object.
 class Service {
 public:
     /// Waits until it has served a first connection, which says nothing.
     explicit Service(const std::vector<std::string> &arguments = {});
 
-    /// The processes that serve connections.
+    /// The processes that serve requests.
     std::vector<pid_t> children() const;
 
     /// Waits until there are so many of them.
     bool has_children(std::size_t count) const;
+
+    /// Waits until the service has all that has been sent to it, by two requests that are refused.
+    static void collect_all();
 
     void signal(int number) const;
 

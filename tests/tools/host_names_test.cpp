@@ -1,5 +1,5 @@
 // Lists of rules with host names. Each reading of the leases leaves a stream open: one process runs out of descriptors
-// after a few lists, the service, which has a process for each connection, never does.
+// after a few lists, the service, which replaces such a process in time, never does.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>

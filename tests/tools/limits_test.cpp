@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <list>
@@ -24,18 +25,20 @@ using support::Peer;
 using support::Process;
 using support::request;
 using support::Service;
+using support::told;
 using support::words;
 
 using Lines = std::vector<std::string>;
 
 constexpr char endless[] = "with recursive n(i) as (select 1 union all select i+1 from n) select count(*) from n;";
 
+using Arguments = std::vector<std::string>;
+
 /// A service that serves an endless query.
 class Limits : public testing::Test {
 protected:
-    explicit Limits(const char *seconds = "8") : service_({"--request-seconds", seconds}) {
+    explicit Limits(const Arguments &arguments = {}) : service_(arguments) {
         peer_.send(request(100, 1, endless));
-        EXPECT_TRUE(service_.has_children(1));
         EXPECT_TRUE(support::eventually([] { return !support::lock_file_is_free(); }));
     }
 
@@ -46,19 +49,63 @@ protected:
 
 class ShortLimits : public Limits {
 protected:
-    ShortLimits() : Limits("1") {}
+    ShortLimits() : Limits({"--request-seconds", "1"}) {}
 };
 
-TEST_F(ShortLimits, end_a_request_and_free_its_lock) {
-    EXPECT_EQ(DbSqlExec(std::string("insert into user_timegroup(name) values('a');").data()), 0);  // waits for the lock
-    EXPECT_EQ(peer_.receive(), "");
+class ForkLimits : public Limits {
+protected:
+    ForkLimits() : Limits({"--request-seconds", "1", "--fork"}) {}
+};
+
+/// The endless query holds the lock file, for which everybody waits.
+void end_a_request(const Peer &peer, const support::SystemLog &log) {
+    EXPECT_EQ(DbSqlExec(std::string("insert into user_timegroup(name) values('a');").data()), 0);
+    EXPECT_EQ(peer.receive(), "");
     EXPECT_EQ(exchange(request(100, 1, "select name from user_timegroup;")),
               words({100, 1, 2}) + std::string("a\0", 2));
-    EXPECT_TRUE(service_.has_children(0));
-    const Lines lines = log_.lines();
-    ASSERT_FALSE(lines.empty());
-    EXPECT_EQ(lines.back(), "27 a request took more than 1 seconds, its process was ended");
+    EXPECT_EQ(log.lines().back(), told("ended, it took more than 1 seconds"));
 }
+
+TEST_F(ShortLimits, end_a_request_and_free_its_lock) {
+    end_a_request(peer_, log_);
+}
+
+TEST_F(ForkLimits, end_a_request_and_free_its_lock) {
+    end_a_request(peer_, log_);
+    EXPECT_TRUE(service_.has_children(0));
+}
+
+// With one worker each would take two seconds more than the one before.
+TEST(SqldLimits, count_what_a_client_waits_for_in_a_queue) {
+    const Service service({"--workers", "1", "--request-seconds", "2"});
+    const int lock = get_db_lock();
+    const auto start = std::chrono::steady_clock::now();
+    std::list<Peer> peers(4);
+    for (const Peer &peer : peers) {
+        peer.send(request(100, 1, "select 7;"));
+    }
+    for (const Peer &peer : peers) {
+        EXPECT_EQ(peer.receive(), "");
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(7));
+    free_db_lock(lock);
+    EXPECT_EQ(exchange(request(100, 1, "select 7;")), words({100, 1, 2}) + std::string("7\0", 2));
+}
+
+#ifndef __SANITIZE_ADDRESS__  // which needs more memory than any limit allows
+TEST(SqldLimits, of_memory_refuse_what_takes_more) {
+    const std::string large = request(100, 1, "select length(hex(zeroblob(20000000)));");
+    {
+        const Service service({"--memory", "16"});
+        const support::SystemLog log;
+        EXPECT_EQ(exchange(large), "");
+        EXPECT_EQ(log.lines(), Lines{told("refused, out of memory")});
+        EXPECT_EQ(exchange(request(100, 1, "select 7;")), words({100, 1, 2}) + std::string("7\0", 2));
+    }
+    const Service service({"--memory", "256"});
+    EXPECT_EQ(exchange(large), words({100, 1, 9}) + std::string("40000000\0", 9));
+}
+#endif
 
 TEST_F(Limits, of_a_service_that_stops_are_two_seconds) {
     service_.signal(SIGTERM);

@@ -14,6 +14,7 @@ namespace {
 using support::exchange;
 using support::Peer;
 using support::request;
+using support::told;
 using support::words;
 
 using Lines = std::vector<std::string>;
@@ -25,12 +26,6 @@ protected:
     Sqld() {
         log_.lines();  // of the start
         support::execute("insert into user_timegroup values(1,'group',0,0,0,0,0,0,0,'','','');");
-    }
-
-    /// A line of the log about a request of this process.
-    static std::string told(const std::string &outcome) {
-        return "28 request " + outcome + " (user " + std::to_string(getuid()) + ", process " +
-               std::to_string(getpid()) + ")";
     }
 
     static std::string groups() { return support::value("select count(*) from user_timegroup"); }
@@ -54,7 +49,7 @@ protected:
     }
 
     support::SystemLog log_;
-    support::Service service_;
+    support::Service service_{{"--workers", "1"}};
 };
 
 TEST_F(Sqld, echoes_table_and_operation_before_the_records) {
@@ -158,6 +153,24 @@ TEST_F(Sqld, does_not_mind_a_peer_that_leaves_without_its_reply) {
     }
     EXPECT_TRUE(support::eventually([] { return groups() == "2"; }));
     EXPECT_EQ(exchange(request(5, 2, "delete from user_timegroup;")), words({5, 2, 0}));
+}
+
+// SQLite looks at a counter in the file, which a copy may have in common with what it replaces.
+TEST_F(Sqld, reads_scalars_from_a_copy_in_the_place_of_the_database) {
+    const std::string question = "select name from user_timegroup;";
+    support::write_file("/var/other.db", support::file_content(support::main_database));
+    support::execute("update user_timegroup set name='first';");
+    EXPECT_EQ(scalar(question), std::string("6:first\0", 8));
+    support::Database("/var/other.db").execute("update user_timegroup set name='other';");
+    usleep(50'000);  // more than the clock of file systems takes
+    support::write_file(support::main_database, support::file_content("/var/other.db"));
+    EXPECT_EQ(scalar(question), std::string("6:other\0", 8));
+}
+
+TEST_F(Sqld, leaves_no_write_ahead_log_open) {
+    support::execute("pragma journal_mode=wal; update user_timegroup set name='logged';");
+    EXPECT_EQ(scalar("select name from user_timegroup;"), std::string("7:logged\0", 9));
+    EXPECT_FALSE(support::file_exists(std::string(support::main_database) + "-wal"));
 }
 
 }  // namespace

@@ -1,13 +1,11 @@
 #include "answer.h"
 
-#include <sys/mman.h>
-#include <syslog.h>
-#include <unistd.h>
-
+#include <cstdint>
 #include <cstring>
 
 #include "database.h"
-#include "peer.h"
+#include "front.h"
+#include "list_space.h"
 #include "routerdb.h"
 #include "rules/tables.h"
 
@@ -37,80 +35,96 @@ const Builder *find_builder(std::uint32_t table_id) {
     return nullptr;
 }
 
-/// A list buffer with room for so many records. Behind it lies a page that nobody may touch: a table that outgrows
-/// the count ends this process instead of running into something else.
-void *make_list(std::size_t bytes) {
-    const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    const std::size_t rounded = (bytes + page - 1) / page * page;
-    void *memory = mmap(nullptr, rounded + page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (memory == MAP_FAILED || mprotect(static_cast<char *>(memory) + rounded, page, PROT_NONE) != 0) {
-        syslog(LOG_ERR, "no memory for a list of %zu bytes: %m", bytes);
-        return nullptr;
-    }
-    return memory;
+/// One record more than may be answered: a builder that fills it has found too many.
+constexpr std::size_t size_of_list(const Builder &builder, unsigned rows) {
+    return sizeof(std::uint32_t) + (std::size_t{rows} + 1) * builder.record_size;
 }
 
-/// The rows are counted first, under the lock that keeps writers away until the builder has read them: builders
-/// trust the room that they are given.
-bool answer_list(int fd, const Request &request, const Builder &builder) {
-    Query query(request.text);
-    const std::size_t rows = query.failure() == nullptr ? query.count_rows() : 0;
-    if (query.failure() != nullptr) {
-        return refuse(fd, query.failure());
+/// A request under way.
+struct Exchange {
+    int fd;
+    const Request &request;
+    OnWait on_wait;
+    void *context;
+
+    Outcome reply(const void *data, std::size_t size) const {
+        send_reply(fd, request, data, size, on_wait, context);
+        return Outcome::answered;
     }
-    const std::size_t room = rows > ROUTERDB_LIST_CAPACITY ? rows : ROUTERDB_LIST_CAPACITY;
-    void *list = make_list(sizeof(std::uint32_t) + room * builder.record_size);
+
+    Outcome refuse(const char *reason) const {
+        tell_refusal(client_of(fd), reason);
+        return Outcome::refused;
+    }
+};
+
+/// A builder trusts the room that it is given: its query is ended where that does.
+Outcome answer_list(const Exchange &exchange, const Builder &builder, unsigned rows) {
+    void *const list = list_space(size_of_list(builder, rows));
     if (list == nullptr) {
-        return false;
+        return exchange.refuse("there is no memory for a list");
     }
-    builder.build(list, request.text);
+    const WatchedQuery query(exchange.request.text, rows);
+    builder.build(list, exchange.request.text);
+    if (query.failure() != nullptr) {
+        return exchange.refuse(query.failure());
+    }
     std::uint32_t count = 0;
     std::memcpy(&count, list, sizeof(count));
-    return send_reply(fd, request, static_cast<char *>(list) + sizeof(count), std::size_t{count} * builder.record_size);
+    if (count > rows) {
+        return exchange.refuse("it has more rows than a list takes");
+    }
+    return exchange.reply(static_cast<char *>(list) + sizeof(count), std::size_t{count} * builder.record_size);
 }
 
-bool answer_scalar(int fd, const Request &request) {
-    Query query(request.text);
+Outcome answer_scalar(const Exchange &exchange) {
+    Query query(exchange.request.text);
     const char *text = query.failure() == nullptr ? query.first_text() : nullptr;
     if (query.failure() != nullptr) {
-        return refuse(fd, query.failure());
+        return exchange.refuse(query.failure());
     }
-    return send_reply(fd, request, text, text != nullptr ? std::strlen(text) + 1 : 0);
+    return exchange.reply(text, text != nullptr ? std::strlen(text) + 1 : 0);
 }
 
-bool answer_query(int fd, const Request &request) {
-    if (request.table_id == ROUTERDB_TABLE_SCALAR) {
-        return answer_scalar(fd, request);
+Outcome answer_query(const Exchange &exchange, unsigned rows) {
+    if (exchange.request.table_id == ROUTERDB_TABLE_SCALAR) {
+        return answer_scalar(exchange);
     }
-    const Builder *builder = find_builder(request.table_id);
-    return builder != nullptr ? answer_list(fd, request, *builder) : refuse(fd, "no such table");
+    const Builder *builder = find_builder(exchange.request.table_id);
+    return builder != nullptr ? answer_list(exchange, *builder, rows) : exchange.refuse("no such table");
 }
 
-bool answer_execution(int fd, Request &request, const Settings &settings) {
-    if (!may_execute(request.text, settings.may_change_schema)) {
-        return refuse(fd, "it does more than change rows");
+Outcome answer_execution(const Exchange &exchange, char *sql, bool may_change_schema) {
+    if (!may_execute(sql, may_change_schema)) {
+        return exchange.refuse("it does more than change rows");
     }
-    if (DbSqlExec(request.text) != 0) {
-        tell(fd, "failed");
+    if (DbSqlExec(sql) != 0) {
+        tell(client_of(exchange.fd), "failed");
     }
-    return send_reply(fd, request, nullptr, 0);
+    return exchange.reply(nullptr, 0);
 }
 
 }  // namespace
 
-bool answer(int fd, const Settings &settings) {
-    static Request request;  // too large for the stack of a small target
-    if (!receive_request(fd, request)) {
-        return false;
-    }
+Outcome answer(int fd, Request &request, const Settings &settings, OnWait on_wait, void *context) {
+    const Exchange exchange{fd, request, on_wait, context};
     switch (request.operation) {
         case ROUTERDB_QUERY:
-            return answer_query(fd, request);
+            return answer_query(exchange, settings.rows);
         case ROUTERDB_EXECUTE:
-            return answer_execution(fd, request, settings);
+            return answer_execution(exchange, request.text, settings.may_change_schema);
         default:
-            return refuse(fd, "unknown operation");
+            return exchange.refuse("unknown operation");
     }
+}
+
+std::size_t longest_list(const Settings &settings) {
+    std::size_t longest = 0;
+    for (const Builder &builder : builders) {
+        const std::size_t size = size_of_list(builder, settings.rows);
+        longest = size > longest ? size : longest;
+    }
+    return longest;
 }
 
 }  // namespace sqld

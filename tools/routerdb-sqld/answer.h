@@ -1,14 +1,21 @@
 // From a request to its reply.
 #pragma once
 
+#include <cstddef>
+
+#include "client.h"
 #include "settings.h"
 
 namespace sqld {
 
-/// Serves one connection: reads the request, does what it asks, sends the reply. What cannot be answered is hung up on:
-/// a reply without data would read as an empty table. It runs in a process of its own, which ends afterwards: what the
-/// library leaves open for a request ends with it.
-/// @return whether a reply was delivered
-bool answer(int fd, const Settings &settings);
+enum class Outcome : unsigned char { answered, refused };
+
+/// Does what a request asks and sends the reply. What cannot be answered is refused: a reply without data would read as
+/// an empty table.
+/// @param on_wait  called when the client does not take its reply at once
+Outcome answer(int fd, Request &request, const Settings &settings, OnWait on_wait, void *context);
+
+/// Bytes of the longest list that is answered.
+std::size_t longest_list(const Settings &settings);
 
 }  // namespace sqld

@@ -1,5 +1,6 @@
 #include "database.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "core/paths.h"
@@ -21,47 +22,84 @@ bool open_main_database(sqlite3 *&db) {
            sqlite3_busy_handler(db, wait_and_try_again, nullptr) == SQLITE_OK;
 }
 
+/// The connection that scalars are read with. Opening one takes several times as long as reading.
+namespace kept {
+
+sqlite3 *db;
+struct stat file;
+
+bool is_same(const timespec &one, const timespec &other) {
+    return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
+}
+
+/// Whether the file has not changed since the connection was opened. SQLite would notice most changes, but not every
+/// copy in the place of the file.
+bool is_fresh() {
+    struct stat now {};
+    return stat(routerdb::paths::main_database, &now) == 0 && now.st_dev == file.st_dev && now.st_ino == file.st_ino &&
+           now.st_size == file.st_size && is_same(now.st_mtim, file.st_mtim) && is_same(now.st_ctim, file.st_ctim);
+}
+
+void close() {
+    sqlite3_close(db);
+    db = nullptr;
+}
+
+/// @return null if it cannot be opened
+sqlite3 *lend() {
+    if (db != nullptr && is_fresh()) {
+        return db;
+    }
+    close();
+    if (!open_main_database(db) || stat(routerdb::paths::main_database, &file) != 0) {
+        close();
+    }
+    return db;
+}
+
+/// A write-ahead log is put back by whoever closes the last connection.
+void give_back() {
+    if (access(routerdb::paths::main_write_ahead_log, F_OK) == 0) {
+        close();
+    }
+}
+
+}  // namespace kept
+
 }  // namespace
 
 Query::Query(const char *sql) : lock_(get_db_lock()) {
     if (lock_ < 0) {
         return;
     }
-    if (!open_main_database(db_)) {
-        failure_ = "the main database cannot be opened";
-        return;
-    }
-    failure_ = prepare_query(db_, sql, statement_);
+    db_ = kept::lend();
+    failure_ = db_ != nullptr ? prepare_query(db_, sql, statement_) : "the main database cannot be opened";
 }
 
 Query::~Query() {
     sqlite3_finalize(statement_);
-    sqlite3_close(db_);
+    if (failure_ != nullptr) {
+        kept::close();
+    }
+    kept::give_back();
     if (lock_ >= 0) {
         free_db_lock(lock_);
     }
 }
 
-/// A row that cannot be read is not the end.
-bool Query::next_row() {
+const char *Query::first_text() {
     const int code = sqlite3_step(statement_);
     if (code != SQLITE_ROW && code != SQLITE_DONE) {
-        failure_ = sqlite3_errstr(code);
+        failure_ = sqlite3_errstr(code);  // a row that cannot be read is not the end
     }
-    return code == SQLITE_ROW;
-}
-
-std::size_t Query::count_rows() {
-    std::size_t rows = 0;
-    while (next_row()) {
-        ++rows;
+    if (code != SQLITE_ROW || sqlite3_column_type(statement_, 0) == SQLITE_NULL) {
+        return nullptr;
     }
-    sqlite3_reset(statement_);  // the read lock goes, the lock file stays
-    return rows;
-}
-
-const char *Query::first_text() {
-    return next_row() ? reinterpret_cast<const char *>(sqlite3_column_text(statement_, 0)) : nullptr;
+    const auto *const text = reinterpret_cast<const char *>(sqlite3_column_text(statement_, 0));
+    if (text == nullptr) {
+        failure_ = sqlite3_errstr(SQLITE_NOMEM);
+    }
+    return text;
 }
 
 bool may_execute(const char *sql, bool may_change_schema) {

@@ -1,14 +1,12 @@
-// What the service reads from the main database itself: scalars, and how many rows a query has.
+// What the service does with the main database itself.
 #pragma once
 
 #include <sqlite3.h>
 
-#include <cstddef>
-
 namespace sqld {
 
-/// The first row of a query under the database lock, or the number of its rows. Waits as long as the database is
-/// busy. Only a single statement that reads is run.
+/// The first row of a query under the database lock. Waits as long as the database is busy. Only a single statement
+/// that reads is run.
 class Query {
 public:
     explicit Query(const char *sql);
@@ -19,15 +17,10 @@ public:
     /// Why it cannot be answered, as far as it has been run, without a word of the statement; null if it can.
     const char *failure() const { return failure_; }
 
-    /// Runs the query to its end.
-    std::size_t count_rows();
-
     /// @return the first column of the first row; null without a row or for NULL
     const char *first_text();
 
 private:
-    bool next_row();
-
     int lock_;
     const char *failure_ = "the lock file cannot be opened";
     sqlite3 *db_ = nullptr;

@@ -1,44 +1,40 @@
 #include "server.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/file.h>
-#include <sys/prctl.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/un.h>
-#include <sys/wait.h>
 #include <syslog.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 
-#include "answer.h"
-#include "core/paths.h"
+#include "clock.h"
+#include "manager.h"
+#include "rights.h"
 
 namespace sqld {
 
 namespace {
 
-using routerdb::paths::new_service_socket;
-using routerdb::paths::service_lock;
-using routerdb::paths::service_socket;
+constexpr std::int64_t grace_ms = 2'000;
 
 volatile sig_atomic_t stopping = 0;
-volatile sig_atomic_t overdue = 0;  // those being served when it stops
+volatile sig_atomic_t asked_for_counters = 0;
 
 extern "C" void on_stop(int /*signal*/) {
     stopping = 1;
 }
 
-extern "C" void on_alarm(int /*signal*/) {
-    overdue = 1;
+extern "C" void on_question(int /*signal*/) {
+    asked_for_counters = 1;
 }
 
 extern "C" void on_child(int /*signal*/) {}  // it only has to end the wait
+
+constexpr struct {
+    int signal;
+    void (*handler)(int);
+} signals[] = {{SIGTERM, on_stop}, {SIGINT, on_stop}, {SIGUSR1, on_question}, {SIGCHLD, on_child}};
 
 void handle(int signal, void (*handler)(int)) {
     struct sigaction action {};
@@ -47,192 +43,169 @@ void handle(int signal, void (*handler)(int)) {
     sigaction(signal, &action, nullptr);
 }
 
-template <std::size_t size>
-sockaddr_un address_of(const char (&path)[size]) {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    static_assert(size <= sizeof(address.sun_path));
-    std::memcpy(address.sun_path, path, size);
-    return address;
+int served_for(void *pool, pid_t process) {
+    return static_cast<const Pool *>(pool)->served_for(process);
 }
 
-/// Services like this one have the lock. One of another kind does not.
-bool somebody_listens() {
-    const sockaddr_un address = address_of(service_socket);
-    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const bool connected = fd >= 0 && connect(fd, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0;
-    close(fd);
-    return connected;
+/// Time left, as a wait takes it.
+timespec until(std::int64_t deadline) {
+    const std::int64_t left = std::max<std::int64_t>(deadline - now_ms(), 0);
+    return {static_cast<time_t>(left / 1000), static_cast<long>(left % 1000 * 1'000'000)};
 }
 
-/// After a request to stop.
-constexpr unsigned grace_seconds = 2;
+constexpr int most_asked = 1 + most_connections + most_processes;
 
-/// What a killed service leaves is over, too.
-void end_with(pid_t service) {
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
-    if (getppid() != service) {
-        _exit(1);  // it was over before
+/// Waits for any of them, leaving out those without a descriptor: the system takes no more entries than a process may
+/// have descriptors.
+/// @return whether there is something to hear
+bool wait_for(pollfd (&asked)[most_asked], std::int64_t deadline, const sigset_t &mask) {
+    pollfd open[most_asked];
+    pollfd *const end =
+        std::copy_if(asked, asked + most_asked, open, [](const pollfd &entry) { return entry.fd >= 0; });
+    const timespec left = until(deadline);
+    if (ppoll(open, static_cast<nfds_t>(end - open), &left, &mask) <= 0) {
+        return false;
     }
-}
-
-[[noreturn]] void serve_in_child(int peer, pid_t service, const sigset_t &mask, const Settings &settings) {
-    end_with(service);
-    handle(SIGTERM, SIG_DFL);
-    handle(SIGINT, SIG_DFL);
-    handle(SIGALRM, SIG_DFL);
-    handle(SIGCHLD, SIG_DFL);
-    alarm(settings.request_seconds);  // the lock file and SQLite's locks go with the process
-    sigprocmask(SIG_SETMASK, &mask, nullptr);
-    const bool delivered = answer(peer, settings);
-    std::fflush(nullptr);
-    _exit(delivered ? 0 : 1);
+    const pollfd *heard = open;
+    for (pollfd &entry : asked) {
+        entry.revents = entry.fd >= 0 ? (heard++)->revents : short{0};
+    }
+    return true;
 }
 
 }  // namespace
 
-Server::~Server() {
-    if (fd_ >= 0) {
-        close(fd_);
-        unlink(service_socket);
-    }
-    if (lock_ >= 0) {
-        unlink(service_lock);
-        close(lock_);
-    }
-}
+Server::Server(const Settings &settings)
+    : settings_(settings),
+      connections_(counters_, settings_.request_seconds),
+      pool_(
+          settings_, counters_, [](void *server) { static_cast<Server *>(server)->leave_to_service(); }, this) {}
 
-bool Server::listen() {
+bool Server::start() {
     take_signals();  // from the first connection on, the end is an orderly one
-    if (!take_lock() || somebody_listens()) {
-        syslog(LOG_ERR, "%s is served already", service_socket);
+    manager::take_notify_socket();
+    if (!connections_.is_ready()) {
+        syslog(LOG_ERR, "no memory for requests: %m");
         return false;
     }
-    unlink(new_service_socket);
-    const mode_t mask = umask(0117);
-    const bool bound = bind_socket();
-    umask(mask);
-    if (!bound) {
-        syslog(LOG_ERR, "cannot listen on %s: %m", service_socket);
-        unlink(new_service_socket);
-    }
-    return bound;
-}
-
-/// Of services that start at the same moment one gets it. Without its file, as where it cannot be made, all do.
-bool Server::take_lock() {
-    for (;;) {
-        const int file = open(service_lock, O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-        if (file < 0) {
-            return true;
-        }
-        if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-            close(file);
-            return false;
-        }
-        struct stat locked {};
-        struct stat there {};
-        if (fstat(file, &locked) == 0 && stat(service_lock, &there) == 0 && locked.st_ino == there.st_ino) {
-            lock_ = file;
-            return true;
-        }
-        close(file);  // that of a service which has ended meanwhile, and removed it
-    }
+    return listener_.start(settings_) && (settings_.user == nullptr || become_user(settings_.user));
 }
 
 void Server::take_signals() {
     sigset_t ours;
     sigemptyset(&ours);
-    sigaddset(&ours, SIGTERM);
-    sigaddset(&ours, SIGINT);
-    sigaddset(&ours, SIGALRM);
-    sigaddset(&ours, SIGCHLD);
+    for (const auto &entry : signals) {
+        sigaddset(&ours, entry.signal);
+    }
     sigprocmask(SIG_BLOCK, &ours, &outside_);  // they come during the wait only, where nothing can be missed
-    handle(SIGTERM, on_stop);
-    handle(SIGINT, on_stop);
-    handle(SIGALRM, on_alarm);
-    handle(SIGCHLD, on_child);
+    for (const auto &entry : signals) {
+        handle(entry.signal, entry.handler);
+    }
 }
 
-bool Server::bind_socket() {
-    const sockaddr_un address = address_of(new_service_socket);
-    fd_ = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    return fd_ >= 0 && bind(fd_, reinterpret_cast<const sockaddr *>(&address), sizeof(address)) == 0 &&
-           ::listen(fd_, SOMAXCONN) == 0 && rename(new_service_socket, service_socket) == 0;
+/// In a process that has just been started.
+void Server::leave_to_service() {
+    listener_.abandon();
+    connections_.close_all();
+    for (const auto &entry : signals) {
+        handle(entry.signal, SIG_DFL);
+    }
+    sigprocmask(SIG_SETMASK, &outside_, nullptr);
 }
 
 void Server::run() {
+    pool_.fill();
+    manager::notify("READY=1\nSTATUS=Serving");
     while (stopping == 0) {
-        reap();
-        pollfd listener{free_place() != nullptr ? fd_ : -1, POLLIN, 0};
-        if (ppoll(&listener, 1, nullptr, &outside_) > 0) {
+        round();
+    }
+    manager::notify("STOPPING=1");
+    finish();
+}
+
+/// Requests under way are served, others are not taken any more.
+void Server::finish() {
+    listener_.stop();
+    end_ = now_ms() + grace_ms;
+    while ((!connections_.is_empty() || pool_.has_busy()) && now_ms() < end_) {
+        round();
+    }
+    connections_.close_all();
+    pool_.dismiss();
+    while (!pool_.is_empty()) {
+        const bool is_over = now_ms() >= end_;
+        if (is_over) {
+            pool_.kill_all();
+        }
+        const timespec left = until(end_);
+        ppoll(nullptr, 0, is_over ? nullptr : &left, &outside_);
+        pool_.reap();
+    }
+}
+
+/// Waits, takes what has come, and hands it out.
+void Server::round() {
+    pollfd asked[most_asked];
+    pollfd *const of_connections = asked + 1;
+    pollfd *const of_processes = of_connections + most_connections;
+    asked[0] = {connections_.take_more() ? listener_.fd() : -1, POLLIN, 0};
+    connections_.ask(of_connections);
+    pool_.ask(of_processes);
+    if (wait_for(asked, std::min(next_deadline(), now_ms() + 60'000), outside_)) {
+        pool_.hear(of_processes);
+        connections_.receive(of_connections);
+        if (asked[0].revents != 0) {
             accept_one();
         }
     }
-    close(fd_);  // new connections are refused from here on
-    unlink(service_socket);
-    fd_ = -1;
-    end_children();
+    pool_.reap();
+    pool_.end_overdue();
+    connections_.refuse_overdue();
+    pool_.fill();
+    hand_out();
+    if (asked_for_counters != 0) {
+        asked_for_counters = 0;
+        tell_counters();
+    }
 }
 
+std::int64_t Server::next_deadline() const {
+    return std::min({connections_.next_deadline(), pool_.next_deadline(), end_});
+}
+
+/// One at a time: those who have come before are heard first.
 void Server::accept_one() {
-    const int peer = accept4(fd_, nullptr, nullptr, SOCK_CLOEXEC);
-    if (peer < 0) {
-        if (errno != EAGAIN && errno != EINTR && errno != ECONNABORTED) {
-            syslog(LOG_ERR, "cannot accept a connection: %m");
-            usleep(10'000);  // what is short may come back
+    const int fd = accept4(listener_.fd(), nullptr, nullptr, SOCK_CLOEXEC);
+    if (fd >= 0) {
+        connections_.add(fd);
+    } else if (errno != EAGAIN && errno != EINTR && errno != ECONNABORTED && !connections_.give_up_oldest()) {
+        syslog(LOG_ERR, "cannot accept a connection: %m");
+        usleep(10'000);  // what is short may come back
+    }
+}
+
+void Server::hand_out() {
+    for (;;) {
+        Connection *const connection = connections_.next_whole(served_for, &pool_);
+        Process *const process = connection != nullptr ? pool_.find_idle() : nullptr;
+        if (process == nullptr) {
+            return;
         }
-        return;
-    }
-    const pid_t service = getpid();
-    const pid_t child = fork();
-    if (child == 0) {
-        close(fd_);
-        close(lock_);
-        serve_in_child(peer, service, outside_, settings_);
-    }
-    if (child < 0) {
-        syslog(LOG_ERR, "cannot start a process for a connection: %m");
-    } else {
-        *free_place() = child;
-    }
-    close(peer);
-}
-
-/// Where the next child is noted; null while there are as many as there may be.
-pid_t *Server::free_place() {
-    pid_t *const end = children_ + most_children;
-    pid_t *const place = std::find(children_, end, 0);
-    return place != end ? place : nullptr;
-}
-
-void Server::reap() {
-    int status = 0;
-    for (pid_t child = waitpid(-1, &status, WNOHANG); child > 0; child = waitpid(-1, &status, WNOHANG)) {
-        std::replace(children_, children_ + most_children, child, 0);
-        if (WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM) {
-            syslog(LOG_ERR, "a request took more than %u seconds, its process was ended", settings_.request_seconds);
-        } else if (WIFSIGNALED(status)) {
-            syslog(LOG_ERR, "a request ended its process with signal %d", WTERMSIG(status));
+        if (pool_.serve(*process, *connection)) {
+            counters_.note_wait(now_ms() - connection->began);
+            connections_.drop(*connection);
         }
     }
 }
 
-bool Server::has_children() const {
-    return std::any_of(children_, children_ + most_children, [](pid_t child) { return child != 0; });
-}
-
-/// Waits for those that are being served, and ends them when the time is over.
-void Server::end_children() {
-    alarm(grace_seconds);
-    for (reap(); has_children(); reap()) {
-        ppoll(nullptr, 0, nullptr, &outside_);  // until a child or the time ends
-        for (const pid_t child : children_) {
-            if (overdue != 0 && child != 0) {
-                kill(child, SIGKILL);
-            }
-        }
-    }
+void Server::tell_counters() const {
+    char text[192];
+    std::snprintf(text, sizeof(text),
+                  "STATUS=%lu requests, %lu refused, %lu timed out, %d workers, longest wait %lld ms",
+                  counters_.requests, counters_.refused, counters_.timed_out, pool_.count_ready(),
+                  static_cast<long long>(counters_.longest_wait_ms));
+    manager::notify(text);
+    syslog(LOG_INFO, "%s", text + sizeof("STATUS=") - 1);
 }
 
 }  // namespace sqld

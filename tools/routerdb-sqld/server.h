@@ -1,47 +1,46 @@
-// The service's socket and the processes that serve its connections.
+// The service: it collects requests and hands them to the processes that serve.
 #pragma once
-
-#include <sys/types.h>
 
 #include <csignal>
 
+#include "connections.h"
+#include "counters.h"
+#include "listener.h"
+#include "pool.h"
 #include "settings.h"
 
 namespace sqld {
 
-/// Connections served at once; further ones wait.
-inline constexpr int most_children = 32;
-
 class Server {
 public:
-    explicit Server(const Settings &settings) : settings_(settings) {}
+    explicit Server(const Settings &settings);
     Server(const Server &) = delete;
     Server &operator=(const Server &) = delete;
-    ~Server();
 
-    /// Listens on the service socket, which it creates with mode 0660, complete from the first moment on. A socket that
-    /// nobody listens on any more is replaced.
+    /// Listens, and gives up the rights that it needs for that alone.
     /// @return false after the reason went to the system log
-    bool listen();
+    bool start();
 
-    /// Serves connections until SIGTERM or SIGINT. Those being served then have two seconds.
+    /// Serves until SIGTERM or SIGINT. Requests under way then have two seconds.
     void run();
 
 private:
     void take_signals();
-    bool take_lock();
-    bool bind_socket();
+    void leave_to_service();
+    void round();
     void accept_one();
-    void reap();
-    bool has_children() const;
-    void end_children();
-    pid_t *free_place();
+    void hand_out();
+    std::int64_t next_deadline() const;
+    void tell_counters() const;
+    void finish();
 
     const Settings settings_;
-    int fd_ = -1;
-    int lock_ = -1;
-    pid_t children_[most_children]{};  // 0 for none
-    sigset_t outside_{};               // signals blocked outside of the wait
+    Counters counters_;
+    Listener listener_;
+    Connections connections_;
+    Pool pool_;
+    std::int64_t end_ = INT64_MAX;  // of those under way when it stops
+    sigset_t outside_{};            // signals blocked outside of the wait
 };
 
 }  // namespace sqld
