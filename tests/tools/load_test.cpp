@@ -1,20 +1,18 @@
-// Many peers at once, and peers that behave badly.
+// Many requests at once, and the processes that serve them.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <chrono>
 #include <csignal>
 #include <list>
 
 #include "routerdb.h"
 #include "support/database.h"
-#include "support/gate.h"
 #include "support/peer.h"
 #include "support/process.h"
-#include "support/record.h"
 #include "support/service.h"
 #include "support/system_log.h"
+#include "tools/question.h"
 
 namespace {
 
@@ -23,16 +21,6 @@ using support::Peer;
 using support::request;
 using support::told;
 using support::words;
-
-using Clock = std::chrono::steady_clock;
-
-std::string question() {
-    return request(100, 1, "select 'answer';");
-}
-
-std::string answer() {
-    return words({100, 1, 7}) + std::string("answer\0", 7);
-}
 
 /// Connections that have asked, and the lock that keeps them from being answered.
 class Waiting {
@@ -189,16 +177,8 @@ TEST(SqldLoad, serves_those_who_ask_for_little_before_those_who_ask_for_much) {
     EXPECT_EQ(support::value("select id from user_timegroup where name='the only one';"), "2");
 }
 
-constexpr char urls[] =
-    "with recursive numbers(n) as (select 1 union all select n + 1 from numbers where n < 128)"
-    "insert into filter_url(name) select n from numbers;";
-
-std::string url_list() {
-    return request(2, 1, "select * from filter_url;");
-}
-
 TEST(SqldLoad, has_at_most_32_processes_wait_for_clients_that_do_not_read) {
-    support::execute(urls);
+    support::execute(url_rows);
     const support::Service service({"--workers", "1"});
     const support::SystemLog log;
     std::list<Peer> peers(34);
@@ -213,83 +193,6 @@ TEST(SqldLoad, has_at_most_32_processes_wait_for_clients_that_do_not_read) {
     }));
     EXPECT_LE(most, 35U);  // with the worker, and one that is about to end
     EXPECT_EQ(exchange(question()), answer());
-}
-
-TEST(SqldLoad, gives_up_the_oldest_of_65_connections_of_a_process) {
-    const support::Service service;
-    const support::SystemLog log;
-    std::list<Peer> peers;
-    for (int n = 0; n < 64; ++n) {
-        peers.emplace_back();
-        peers.back().send(question().substr(0, 20));
-    }
-    support::Service::collect_all();  // the 65th
-    EXPECT_EQ(peers.front().receive(), "");
-    peers.pop_front();
-    for (const Peer &peer : peers) {
-        EXPECT_FALSE(peer.hung_up());
-        peer.send(question().substr(20));
-        EXPECT_EQ(peer.receive(), answer());
-    }
-    EXPECT_EQ(log.lines().front(), told("refused, its process has too many connections"));
-}
-
-TEST(SqldLoad, gives_up_the_oldest_of_257_connections) {
-    const support::Service service;
-    const Peer oldest;
-    oldest.send(question().substr(0, 20));
-    support::Service::collect_all();
-    std::list<support::Process> crowd;
-    const support::Gate end;
-    for (int n = 0; n < 5; ++n) {
-        crowd.emplace_back([&end] {
-            const std::list<Peer> peers(51);
-            for (const Peer &peer : peers) {
-                peer.send(question().substr(0, 20));
-            }
-            support::Service::collect_all();
-            end.wait();
-            return true;
-        });
-    }
-    EXPECT_EQ(oldest.receive(), "");
-    EXPECT_EQ(exchange(question()), answer());
-    end.open();
-}
-
-TEST(SqldLoad, drops_peers_that_dawdle_and_serves_the_others_meanwhile) {
-    support::execute(urls);
-    const support::Service service;
-    const support::SystemLog log;
-    const Clock::time_point start = Clock::now();
-    const Peer silent;
-    const Peer trickling;
-    const Peer not_reading;
-    not_reading.send(url_list());
-    const std::string slow = request(5, 2, std::string(1000, ' '));
-    trickling.send(slow.substr(0, 12));
-    std::size_t trickled = 12;
-    Clock::duration header{};
-    Clock::duration text{};
-    std::vector<std::string> reasons;
-    while (reasons.size() < 3 && Clock::now() - start < std::chrono::seconds(60)) {
-        header = silent.hung_up() ? header : Clock::now() - start;
-        text = trickling.hung_up() ? text : Clock::now() - start;
-        trickling.send(slow.substr(trickled++, 1));
-        EXPECT_EQ(exchange(question()), answer());
-        usleep(50'000);
-        for (const std::string &line : log.lines()) {
-            reasons.push_back(line);
-        }
-    }
-    EXPECT_GE(header, std::chrono::milliseconds(800));
-    EXPECT_LT(header, std::chrono::milliseconds(4500));
-    EXPECT_GE(text, std::chrono::milliseconds(4500));
-    EXPECT_LT(not_reading.receive().size(), std::size_t{128} * 1952);  // a connection holds less
-    std::sort(reasons.begin(), reasons.end());
-    EXPECT_EQ(reasons, (std::vector<std::string>{told("answered, its reply is not taken"),
-                                                 told("refused, its header comes too slowly"),
-                                                 told("refused, its text comes too slowly")}));
 }
 
 }  // namespace

@@ -17,6 +17,7 @@
 #include "support/record.h"
 #include "support/service.h"
 #include "support/system_log.h"
+#include "tools/question.h"
 
 namespace {
 
@@ -24,14 +25,6 @@ using support::exchange;
 using support::Process;
 using support::request;
 using support::words;
-
-std::string question() {
-    return request(100, 1, "select 7;");
-}
-
-std::string answer() {
-    return words({100, 1, 2}) + std::string("7\0", 2);
-}
 
 /// A local socket of that name; one that begins with a zero byte is no file.
 int bound(int type, const std::string &name) {
