@@ -13,6 +13,7 @@
 #include "support/gate.h"
 #include "support/peer.h"
 #include "support/process.h"
+#include "support/profile.h"
 #include "support/record.h"
 #include "support/service.h"
 #include "support/streams.h"
@@ -50,6 +51,11 @@ protected:
 class ShortLimits : public Limits {
 protected:
     ShortLimits() : Limits({"--request-seconds", "1"}) {}
+};
+
+class LongLimits : public Limits {
+protected:
+    LongLimits() : Limits({"--request-seconds", "60"}) {}
 };
 
 class ForkLimits : public Limits {
@@ -92,6 +98,38 @@ TEST(SqldLimits, count_what_a_client_waits_for_in_a_queue) {
     EXPECT_EQ(exchange(request(100, 1, "select 7;")), words({100, 1, 2}) + std::string("7\0", 2));
 }
 
+// It is in the hands of a worker for the second half of its time.
+TEST(SqldLimits, count_what_a_client_has_waited_before_it_was_served) {
+    const Service service({"--workers", "1", "--request-seconds", "6"});
+    const int lock = get_db_lock();
+    const auto start = std::chrono::steady_clock::now();
+    const Peer first;
+    first.send(request(100, 1, "select 7;"));
+    const Peer second;
+    second.send(request(100, 1, "select 7;"));
+    usleep(3'000'000);
+    kill(service.children().front(), SIGKILL);
+    EXPECT_EQ(first.receive(), "");
+    EXPECT_EQ(second.receive(), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(8));
+    free_db_lock(lock);
+}
+
+// Where lists are capped they end with their room, which is the library's doing.
+TEST(SqldLimits, of_rows_refuse_longer_lists_unless_lists_are_capped) {
+    support::execute(
+        "with recursive numbers(n) as (select 1 union all select n + 1 from numbers where n < 1000)"
+        "insert into user_timegroup(name) select n from numbers;");
+    const Service service;
+    const support::SystemLog log;
+    const std::string reply = exchange(request(5, 1, "select * from user_timegroup;"));
+    EXPECT_EQ(reply.size(), support::build_profile.caps_lists ? 12U + 128 * 380 : 0U);
+    EXPECT_EQ(log.lines(),
+              Lines{support::build_profile.caps_lists
+                        ? "27 user_timegroup has more rows than a list of 128 takes, the rest is left out\n"
+                        : told("refused, it has more rows than a list takes")});
+}
+
 #ifndef __SANITIZE_ADDRESS__  // which needs more memory than any limit allows
 TEST(SqldLimits, of_memory_refuse_what_takes_more) {
     const std::string large = request(100, 1, "select length(hex(zeroblob(20000000)));");
@@ -107,9 +145,11 @@ TEST(SqldLimits, of_memory_refuse_what_takes_more) {
 }
 #endif
 
-TEST_F(Limits, of_a_service_that_stops_are_two_seconds) {
+TEST_F(LongLimits, do_not_keep_a_service_that_stops_for_more_than_two_seconds) {
+    const auto start = std::chrono::steady_clock::now();
     service_.signal(SIGTERM);
     EXPECT_EQ(service_.wait(), 0);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(30));
     EXPECT_EQ(peer_.receive(), "");
     EXPECT_TRUE(support::lock_file_is_free());
 }
