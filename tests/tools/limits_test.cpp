@@ -81,6 +81,15 @@ TEST_F(ForkLimits, end_a_request_and_free_its_lock) {
     EXPECT_TRUE(service_.has_children(0));
 }
 
+TEST(SqldLimits, of_a_client_that_does_not_read_are_nobody_elses) {
+    const Service service;
+    const Peer peer;
+    peer.send(request(100, 1, "select hex(zeroblob(1000000));"));  // more than a connection holds
+    Service::collect_all();
+    EXPECT_EQ(exchange(request(100, 1, "select 7;")), words({100, 1, 2}) + std::string("7\0", 2));
+    EXPECT_EQ(peer.receive().size(), 12U + 2'000'001U) << "the others have waited until its time was over";
+}
+
 // With one worker each would take two seconds more than the one before.
 TEST(SqldLimits, count_what_a_client_waits_for_in_a_queue) {
     const Service service({"--workers", "1", "--request-seconds", "2"});

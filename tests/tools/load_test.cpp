@@ -181,7 +181,7 @@ TEST(SqldLoad, serves_those_who_ask_for_little_before_those_who_ask_for_much) {
 TEST(SqldLoad, has_at_most_32_processes_wait_for_clients_that_do_not_read) {
     support::execute(url_rows);
     const support::Service service({"--workers", "1"});
-    std::list<Peer> peers(60);
+    std::list<Peer> peers(44);
     for (const Peer &peer : peers) {
         peer.send(url_list());
     }
@@ -191,7 +191,7 @@ TEST(SqldLoad, has_at_most_32_processes_wait_for_clients_that_do_not_read) {
         most = std::max(most, service.children().size());
         return dropped();
     }));
-    EXPECT_LT(most, 45U);  // with the worker, and those that are about to end
+    EXPECT_LT(most, 41U);  // with the worker, and those that are about to end
     EXPECT_EQ(exchange(question()), answer());
 }
 

@@ -1,6 +1,7 @@
 #include "answer.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
 
 #include "database.h"
@@ -77,13 +78,20 @@ Outcome answer_list(const Exchange &exchange, const Builder &builder, unsigned r
     return exchange.reply(static_cast<char *>(list) + sizeof(count), std::size_t{count} * builder.record_size);
 }
 
+/// Nobody waits for the database while the client takes its reply: what is sent is a copy.
 Outcome answer_scalar(const Exchange &exchange) {
-    Query query(exchange.request.text);
-    const char *text = query.failure() == nullptr ? query.first_text() : nullptr;
-    if (query.failure() != nullptr) {
-        return exchange.refuse(query.failure());
+    char *copy = nullptr;
+    {
+        Query query(exchange.request.text);
+        const char *const text = query.failure() == nullptr ? query.first_text() : nullptr;
+        copy = text != nullptr ? strdup(text) : nullptr;
+        if (query.failure() != nullptr || (text != nullptr && copy == nullptr)) {
+            return exchange.refuse(query.failure() != nullptr ? query.failure() : "out of memory");
+        }
     }
-    return exchange.reply(text, text != nullptr ? std::strlen(text) + 1 : 0);
+    const Outcome outcome = exchange.reply(copy, copy != nullptr ? std::strlen(copy) + 1 : 0);
+    std::free(copy);
+    return outcome;
 }
 
 Outcome answer_query(const Exchange &exchange, unsigned rows) {
