@@ -6,6 +6,7 @@
 
 #include "fuzz/fuzz.h"
 #include "routerdb-sqld/answer.h"
+#include "routerdb-sqld/connections.h"
 #include "support/database.h"
 
 const char fuzz::what[] = "requests to routerdb-sqld: a reply that is whole, or none";
@@ -29,6 +30,29 @@ void extend(std::string &request) {
     }
 }
 
+int none_served(void * /*unused*/, pid_t /*process*/) {
+    return 0;
+}
+
+void wait_for_nobody(void * /*unused*/) {}
+
+/// Collects a request as the service does, and answers it as a worker does.
+bool serve(int fd) {
+    static sqld::Counters counters;
+    static sqld::Connections connections(counters, sqld::Settings().request_seconds);
+    connections.add(fd);
+    sqld::Connection *const whole = connections.next_whole(none_served, nullptr);
+    if (whole == nullptr) {
+        connections.give_up_oldest();
+        return false;
+    }
+    whole->request->text[whole->request->length] = '\0';
+    const bool answered =
+        sqld::answer(fd, *whole->request, sqld::Settings(), wait_for_nobody, nullptr) == sqld::Outcome::answered;
+    connections.drop(*whole);
+    return answered;
+}
+
 }  // namespace
 
 void fuzz::prepare() {
@@ -50,8 +74,7 @@ void fuzz::run(Input input) {
     setsockopt(ends[1], SOL_SOCKET, SO_SNDBUF, &room, sizeof(room));
     send(ends[0], request.data(), request.size(), MSG_DONTWAIT);
     shutdown(ends[0], SHUT_WR);
-    const bool answered = sqld::answer(ends[1], sqld::Settings());
-    close(ends[1]);
+    const bool answered = serve(ends[1]);
 
     static std::string reply(1 << 22, '\0');
     std::uint32_t header[3] = {};
