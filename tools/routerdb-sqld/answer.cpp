@@ -84,9 +84,12 @@ Outcome answer_scalar(const Exchange &exchange) {
     {
         Query query(exchange.request.text);
         const char *const text = query.failure() == nullptr ? query.first_text() : nullptr;
+        if (query.failure() != nullptr) {
+            return exchange.refuse(query.failure());
+        }
         copy = text != nullptr ? strdup(text) : nullptr;
-        if (query.failure() != nullptr || (text != nullptr && copy == nullptr)) {
-            return exchange.refuse(query.failure() != nullptr ? query.failure() : "out of memory");
+        if (text != nullptr && copy == nullptr) {
+            return exchange.refuse("out of memory");
         }
     }
     const Outcome outcome = exchange.reply(copy, copy != nullptr ? std::strlen(copy) + 1 : 0);

@@ -58,6 +58,7 @@ int prepare_watched(sqlite3 *db, sqlite3_stmt **statement) {
 // In front of the library's.
 extern "C" {
 
+// NOLINTNEXTLINE(readability-inconsistent-declaration-parameter-name): names as everywhere here
 int sqlite3_prepare_v2(sqlite3 *db, const char *sql, int size, sqlite3_stmt **statement, const char **rest) {
     static decltype(&sqlite3_prepare_v2) prepare = nullptr;
     return is_watched(sql) ? prepare_watched(db, statement)
@@ -90,6 +91,7 @@ WatchedQuery::~WatchedQuery() {
     watched = {};
 }
 
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): it is that of the one object that there can be
 const char *WatchedQuery::failure() const {
     return watched.failure;
 }
