@@ -146,12 +146,11 @@ ROUTERDB_API int DbSqlExec(char *sql);
 
 /// Copies the main database to its backup under "/var/tmpconfig/database", making that directory first. The copy is on
 /// disk when the call returns. It replaces the earlier backup whatever the main database is, a damaged one included.
-/// After a power loss during the call the backup may be missing, or part the one and part the other; the main database
-/// is as it was.
 ///
 /// What a killed writer left in the main database is rolled back first. While the database is busy, or gives I/O
 /// errors, this is tried again: for 60 seconds, or 1 second, of sleeping. If it has not succeeded by then, the copy may
-/// be in the middle of a change; the main database keeps its journal.
+/// be in the middle of a change; the main database keeps its journal. After a power loss during the call the backup may
+/// be missing, or part the one and part the other; the main database is as it was.
 ///
 /// In modern SQLite copies, into a new file that takes the backup's name when it is on disk: 0 means that the backup is
 /// what the main database was. A main database that is missing, damaged or without a table is refused. The earlier
@@ -162,8 +161,7 @@ ROUTERDB_API int DbSqlExec(char *sql);
 /// @note Holds the lock file meanwhile, not db_mutex: threads of one process must take turns, but in modern. In exact a
 ///       caller that is killed alone loses the lock while the "cp" that it started goes on.
 /// @remark errno: as get_db_lock(); ENOENT for a source that is missing, EINVAL for one that is refused, ETIMEDOUT
-/// after
-///         60 seconds of sleeping beside somebody who does not let go, EACCES, ENOSPC, ENOMEM, EIO
+///         beside somebody who does not let go for 60 seconds of sleeping, EACCES, ENOSPC, ENOMEM, EIO
 ROUTERDB_API int backup_sqlite_db(void);
 
 /// Copies the backup over the main database. Without a backup the main database stays as it is. The restored database

@@ -7,9 +7,9 @@
 
 namespace routerdb {
 
-/// Whether SQLite says that a file is no database that can be used, rather than that it is busy, or failing.
+/// Whether SQLite says that a file is no database, rather than that it is busy, failing, or not to be had.
 constexpr bool is_no_database(int code) {
-    return code == SQLITE_NOTADB || code == SQLITE_CORRUPT || code == SQLITE_CANTOPEN;
+    return code == SQLITE_NOTADB || code == SQLITE_CORRUPT;
 }
 
 inline constexpr char damaged[] = "it is damaged";
@@ -18,8 +18,6 @@ inline constexpr char damaged[] = "it is damaged";
 struct Check {
     int code;           // SQLITE_OK when it was looked at
     const char *fault;  // null when it is fit
-
-    bool passed() const { return code == SQLITE_OK && fault == nullptr; }
 };
 
 /// Takes a database out of write-ahead logging, which the router does not expect.

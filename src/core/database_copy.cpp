@@ -14,7 +14,6 @@
 #include "core/database_check.h"
 #include "core/paths.h"
 #include "core/retry.h"
-#include "core/shell.h"
 #include "text/text.h"
 
 namespace routerdb {
@@ -22,9 +21,13 @@ namespace routerdb {
 namespace {
 
 /// The path of a file that has another one's name and more.
-struct PathBeside : StackText<command_size> {
+struct PathBeside : StackText<128> {
     PathBeside(const char *path, const char *suffix) { append(path).append(suffix); }
 };
+
+bool is_there(const char *path) {
+    return access(path, F_OK) == 0;
+}
 
 /// What a writer to a file may have left beside it would be taken for a part of the one that gets its name.
 void remove_journals_of(const char *path) {
@@ -107,7 +110,7 @@ int DatabaseCopy::begin() {
 }
 
 int DatabaseCopy::open_source() {
-    if (access(from_, F_OK) != 0) {
+    if (!is_there(from_)) {
         fault_ = "it is not there";
         return SQLITE_NOTFOUND;
     }
@@ -121,8 +124,8 @@ int DatabaseCopy::open_source() {
 }
 
 int DatabaseCopy::open_destination() {
-    is_new_file_ = !into_database;
-    if (is_new_file_) {
+    is_new_file_ = false;
+    if (!into_database || !is_there(to_)) {
         return open_new_file();
     }
     int code = destination_.open_file(to_, SQLITE_OPEN_READWRITE);

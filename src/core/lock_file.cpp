@@ -131,8 +131,7 @@ int LockFile::release() {
         return 0;
     }
     const bool kept = build_profile.locks_threads && counted_ && lock_holder::keep(fd_);
-    const bool last = unlock();
-    if (kept && !last) {
+    if (!unlock() && kept) {
         hand_over();
         return 0;
     }

@@ -9,6 +9,7 @@
 #include <numeric>
 
 #include "core/killed_writer.h"
+#include "support/failing_files.h"
 #include "support/left_errno.h"
 #include "support/named.h"
 #include "support/process.h"
@@ -225,6 +226,15 @@ TEST_P(CopyToMain, replaces_a_main_database_that_is_none) {
     ASSERT_EQ(GetParam().run(), 0);
     EXPECT_FALSE(support::file_exists(support::main_database + std::string("-journal")));
     expect_source_in_place();
+}
+
+// It may be a good one, with columns that the source does not have.
+TEST_P(CopyToMain, leaves_a_main_database_that_cannot_be_opened_for_once) {
+    const std::string before = support::file_content(support::main_database);
+    const support::FailingFiles files(2, SQLITE_CANTOPEN);  // the first one is the source
+    support::expect_errno(EIO, [] { EXPECT_EQ(GetParam().run(), -1); });
+    EXPECT_TRUE(support::FailingFiles::failed());
+    EXPECT_EQ(support::file_content(support::main_database), before);
 }
 
 TEST_P(CopyToMain, replaces_a_main_database_that_is_gone) {

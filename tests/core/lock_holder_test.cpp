@@ -91,6 +91,15 @@ TEST_P(Nested, call_joins_what_the_program_has_locked_by_itself) {
 
 INSTANTIATE_TEST_SUITE_P(, Nested, ::testing::ValuesIn(writers), [](const auto &test) { return test.param.name; });
 
+/// Nobody has the lock; the next one gets it, and gives it back.
+void expect_next_handle_locks() {
+    EXPECT_TRUE(support::lock_file_is_free());
+    const int next = get_db_lock();
+    EXPECT_FALSE(support::lock_file_is_free());
+    free_db_lock(next);
+    EXPECT_TRUE(support::lock_file_is_free());
+}
+
 TEST(LockHandle, counts_like_any_other) {
     const int first = get_db_lock();
     const int second = get_db_lock();
@@ -115,28 +124,19 @@ TEST(LockHandle, counts_once_though_it_is_freed_twice) {
 TEST(LockHandle, can_be_freed_by_another_thread) {
     const int handle = get_db_lock();
     std::thread([=] { free_db_lock(handle); }).join();
-    EXPECT_TRUE(support::lock_file_is_free());
-    free_db_lock(get_db_lock());
-    EXPECT_TRUE(support::lock_file_is_free());
+    expect_next_handle_locks();
 }
 
 TEST(LockHandle, that_is_closed_by_hand_is_no_lock_any_more) {
     const int handle = get_db_lock();
     close(handle);
-    EXPECT_TRUE(support::lock_file_is_free());
-    const int next = get_db_lock();
-    EXPECT_FALSE(support::lock_file_is_free());
-    free_db_lock(next);
-    EXPECT_TRUE(support::lock_file_is_free());
+    expect_next_handle_locks();
 }
 
 TEST(LockHandle, whose_number_is_another_file_now_is_no_lock_any_more) {
     const int handle = get_db_lock();
     ASSERT_EQ(dup2(open("/dev/null", O_RDWR), handle), handle);
-    const int next = get_db_lock();
-    EXPECT_FALSE(support::lock_file_is_free());
-    free_db_lock(next);
-    EXPECT_TRUE(support::lock_file_is_free());
+    expect_next_handle_locks();
 }
 
 TEST(LockHandle, is_unlocked_by_lock_reg) {

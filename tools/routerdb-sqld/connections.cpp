@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 
 #include "clock.h"
 
@@ -24,6 +23,14 @@ constexpr std::size_t requests_size = most_connections * stride;
 
 }  // namespace
 
+void Connection::drop() {
+    close(fd);
+    fd = -1;
+    if (received > page) {
+        madvise(request, stride, MADV_DONTNEED);
+    }
+}
+
 Connections::Connections(Counters &counters, unsigned request_seconds)
     : counters_(counters), request_ms_(std::int64_t{request_seconds} * 1000) {
     void *const memory =
@@ -36,7 +43,7 @@ Connections::Connections(Counters &counters, unsigned request_seconds)
     }
 }
 
-Connection *Connections::find_free() const {
+Connection *Connections::find_free() {
     for (Connection &connection : connections_) {
         if (connection.fd < 0) {
             return &connection;
@@ -46,7 +53,7 @@ Connection *Connections::find_free() const {
 }
 
 /// @param of  whose; null for anybody's
-Connection *Connections::oldest_incomplete(const Client *of) const {
+Connection *Connections::oldest_incomplete(const Client *of) {
     Connection *oldest = nullptr;
     for (Connection &connection : connections_) {
         const bool counts =
@@ -163,13 +170,13 @@ std::int64_t Connections::next_deadline() const {
 
 Connection *Connections::next_whole(int (*served)(void *context, pid_t process), void *context) {
     Connection *next = nullptr;
-    int least = INT_MAX;
+    int least = 0;
     for (Connection &connection : connections_) {
         if (connection.fd < 0 || !connection.is_whole) {
             continue;
         }
         const int count = served(context, connection.client.process) + count_of(connection.client.process);
-        if (count < least || (count == least && connection.began < next->began)) {
+        if (next == nullptr || count < least || (count == least && connection.began < next->began)) {
             next = &connection;
             least = count;
         }
@@ -184,15 +191,7 @@ bool Connections::is_empty() const {
 void Connections::refuse(Connection &connection, const char *reason) {
     tell_refusal(connection.client, reason);
     ++counters_.refused;
-    drop(connection);
-}
-
-void Connections::drop(Connection &connection) {
-    close(connection.fd);
-    connection.fd = -1;
-    if (connection.received > page) {
-        madvise(connection.request, stride, MADV_DONTNEED);
-    }
+    connection.drop();
 }
 
 void Connections::close_all() {

@@ -25,6 +25,9 @@ struct Connection {
     bool is_whole;
 
     std::size_t size() const { return header_size + request->length; }
+
+    /// Closes it.
+    void drop();
 };
 
 class Connections {
@@ -38,7 +41,7 @@ public:
     bool is_ready() const { return requests_ != nullptr; }
 
     /// Whether one more finds a place.
-    bool take_more() const { return find_free() != nullptr || oldest_incomplete(nullptr) != nullptr; }
+    bool take_more() { return find_free() != nullptr || oldest_incomplete(nullptr) != nullptr; }
 
     /// Takes in a new one and what it has sent so far.
     void add(int fd);
@@ -65,15 +68,12 @@ public:
 
     bool is_empty() const;
 
-    /// Closes one that somebody else has.
-    void drop(Connection &connection);
-
     /// Closes all, without a word.
     void close_all();
 
 private:
-    Connection *find_free() const;
-    Connection *oldest_incomplete(const Client *of) const;
+    Connection *find_free();
+    Connection *oldest_incomplete(const Client *of);
     int count_of(pid_t process) const;
     void receive(Connection &connection);
     void accept_bytes(Connection &connection, std::size_t count);
@@ -83,7 +83,7 @@ private:
     Counters &counters_;
     const std::int64_t request_ms_;
     char *requests_;
-    mutable Connection connections_[most_connections];
+    Connection connections_[most_connections];
 };
 
 }  // namespace sqld

@@ -44,7 +44,35 @@ bool is_ready(const Process &process) {
     return is_idle(process) || process.state == Process::serving;
 }
 
+void tell_end(const Process &process, int status) {
+    if (is_busy(process)) {
+        char outcome[64];
+        std::snprintf(outcome, sizeof(outcome), "ended, signal %d has ended its process",
+                      WIFSIGNALED(status) ? WTERMSIG(status) : 0);
+        tell(process.client, outcome);
+    } else if (process.state == Process::idle && WIFSIGNALED(status)) {
+        syslog(LOG_WARNING, "signal %d has ended a worker", WTERMSIG(status));
+    }
+}
+
 }  // namespace
+
+bool Process::serve(const Connection &connection) {
+    if (!hand_over(channel, connection.fd, *connection.request, connection.size())) {
+        has_hung_up = true;
+        return false;
+    }
+    was_used = true;
+    state = serving;
+    client = connection.client;
+    began = connection.began;
+    return true;
+}
+
+void Process::retire() {
+    kill(id, SIGKILL);
+    state = ending;
+}
 
 Pool::Pool(const Settings &settings, Counters &counters, void (*in_child)(void *), void *context)
     : settings_(settings), counters_(counters), in_child_(in_child), context_(context) {}
@@ -104,18 +132,6 @@ Process *Pool::find_idle() {
     return settings_.forks && count_ready() < most_serving && now_ms() >= next_start_ ? start() : nullptr;
 }
 
-bool Pool::serve(Process &process, const Connection &connection) {
-    if (!hand_over(process.channel, connection.fd, *connection.request, connection.size())) {
-        process.has_hung_up = true;
-        return false;
-    }
-    process.was_used = true;
-    process.state = Process::serving;
-    process.client = connection.client;
-    process.began = connection.began;
-    return true;
-}
-
 int Pool::served_for(pid_t client) const {
     return static_cast<int>(std::count_if(processes_, processes_ + most_processes, [client](const Process &process) {
         return process.state == Process::serving && process.client.process == client;
@@ -156,12 +172,6 @@ void Pool::note(Process &process, const Report &report) {
     process.state = report.is_last ? Process::ending : Process::idle;
 }
 
-/// Ends a process whose client gets no more.
-void Pool::retire(Process &process) {
-    kill(process.id, SIGKILL);
-    process.state = Process::ending;
-}
-
 /// Ends the one that has waited longest when there are too many.
 void Pool::limit_waiting() {
     Process *oldest = nullptr;
@@ -174,7 +184,7 @@ void Pool::limit_waiting() {
     }
     if (count > most_waiting) {
         tell(oldest->client, "answered, its reply is not taken");
-        retire(*oldest);
+        oldest->retire();
     }
 }
 
@@ -195,17 +205,6 @@ void Pool::reap() {
     }
 }
 
-void Pool::tell_end(const Process &process, int status) const {
-    if (is_busy(process)) {
-        char outcome[64];
-        std::snprintf(outcome, sizeof(outcome), "ended, signal %d has ended its process",
-                      WIFSIGNALED(status) ? WTERMSIG(status) : 0);
-        tell(process.client, outcome);
-    } else if (process.state == Process::idle && WIFSIGNALED(status)) {
-        syslog(LOG_WARNING, "signal %d has ended a worker", WTERMSIG(status));
-    }
-}
-
 void Pool::end_overdue() {
     const std::int64_t patience_ms = std::int64_t{settings_.request_seconds} * 1000;
     for (Process &process : processes_) {
@@ -217,7 +216,7 @@ void Pool::end_overdue() {
             std::snprintf(outcome, sizeof(outcome), "ended, it took more than %u seconds", settings_.request_seconds);
             tell(process.client, outcome);
             ++counters_.timed_out;
-            retire(process);
+            process.retire();
         }
     }
 }
@@ -256,7 +255,7 @@ void Pool::dismiss() {
 void Pool::kill_all() {
     for (Process &process : processes_) {
         if (process.id != 0) {
-            retire(process);
+            process.retire();
         }
     }
 }

@@ -35,6 +35,12 @@ struct Process {
     bool has_hung_up;
     Client client;  // whose request it serves
     std::int64_t began;
+
+    /// @return false if it is about to end
+    bool serve(const Connection &connection);
+
+    /// Ends it: its client gets no more.
+    void retire();
 };
 
 class Pool {
@@ -49,9 +55,6 @@ public:
 
     /// A process for the next request; null if it has to wait.
     Process *find_idle();
-
-    /// @return false if the process is about to end
-    bool serve(Process &process, const Connection &connection);
 
     /// How many requests of a client's process are being served.
     int served_for(pid_t client) const;
@@ -85,9 +88,7 @@ private:
     Process *find(pid_t id);
     void hear(Process &process);
     void note(Process &process, const Report &report);
-    void retire(Process &process);
     void limit_waiting();
-    void tell_end(const Process &process, int status) const;
 
     const Settings &settings_;
     Counters &counters_;

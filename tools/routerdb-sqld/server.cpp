@@ -191,9 +191,9 @@ void Server::hand_out() {
         if (process == nullptr) {
             return;
         }
-        if (pool_.serve(*process, *connection)) {
+        if (process->serve(*connection)) {
             counters_.note_wait(now_ms() - connection->began);
-            connections_.drop(*connection);
+            connection->drop();
         }
     }
 }

@@ -11,7 +11,7 @@ inline constexpr unsigned nobody = static_cast<unsigned>(-1);
 struct Settings {
     bool may_change_schema = false;  // a request to execute
     bool forks = false;              // a process for each request instead of workers
-    unsigned workers = 0;            // started in advance; 0 for as many as processors, but no more than four
+    unsigned workers = 1;            // started in advance; the command line knows the processors
     unsigned request_seconds = 8;    // for a request in all, below the ten seconds that clients wait
     unsigned memory_mib = 64;        // of a process that serves, beside the room for a list
     unsigned rows = 128;             // of a list, the capacity of a client's

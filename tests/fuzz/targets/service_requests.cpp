@@ -49,7 +49,7 @@ bool serve(int fd) {
     whole->request->text[whole->request->length] = '\0';
     const bool answered =
         sqld::answer(fd, *whole->request, sqld::Settings(), wait_for_nobody, nullptr) == sqld::Outcome::answered;
-    connections.drop(*whole);
+    whole->drop();
     return answered;
 }
 
