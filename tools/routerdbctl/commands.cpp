@@ -1,0 +1,68 @@
+#include "commands.h"
+
+namespace ctl {
+
+// clang-format off
+extern const Command commands[] = {
+    {"table", "list", "", "the tables: name, name in SQL, record, rows that there are and that fit",
+     0, 0, 0, list_tables},
+    {"table", "show", "TABLE", "the fields of a table: name, kind, width in bytes, values",
+     0, 1, 1, show_table},
+    {"rule", "list", "TABLE", "the rows of a table",
+     option_where | option_fields | option_sort | option_limit, 1, 1, list_rules},
+    {"rule", "get", "TABLE ID[.FIELD]", "one row, or the bare value of one field",
+     option_fields, 2, 2, get_rule},
+    {"rule", "add", "TABLE FIELD=VALUE...", "adds a row and prints its id",
+     option_from | option_force, 1, any_number, add_rule},
+    {"rule", "set", "TABLE ID FIELD=VALUE...", "changes a row; with --if only while it still is as expected",
+     option_if | option_force, 2, any_number, set_rule},
+    {"rule", "rm", "TABLE ID...|--all", "removes rows, but no group that rules still use",
+     option_all | option_force, 1, any_number, remove_rules},
+    {"rule", "enable", "TABLE ID...", "lets rows apply",
+     0, 2, any_number, enable_rules},
+    {"rule", "disable", "TABLE ID...", "lets rows not apply",
+     0, 2, any_number, disable_rules},
+    {"export", "", "[TABLE...]", "all rows of all tables, or of some: -o json, set or sql",
+     0, 0, any_number, export_tables},
+    {"import", "", "FILE|-", "checks what was exported as JSON, then writes all of it or nothing",
+     option_check | option_merge | option_replace | option_force, 1, 1, import_tables},
+    {"diff", "", "[FILE|backup|factory] [TABLE...]", "what has changed since then, a line per field",
+     0, 0, any_number, show_differences},
+    {"ap", "list", "", "the access points",
+     option_where | option_sort | option_limit, 0, 0, list_access_points},
+    {"ap", "show", "SN|IP|MAC|NAME", "all that is known of one",
+     0, 1, 1, show_access_point},
+    {"ap", "set", "AP FIELD=VALUE...", "changes fields of one, such as Name=Attic",
+     option_force, 2, any_number, set_access_point},
+    {"ap", "status", "AP online|offline", "marks one",
+     0, 2, 2, set_access_point_status},
+    {"ap", "group", "AP GROUP", "puts one into a WLAN group, by name or #ID; #0 for none",
+     option_force, 2, 2, set_access_point_group},
+    {"db", "backup", "", "copies the database to its backup",
+     0, 0, 0, back_up},
+    {"db", "restore", "", "puts the backup in the database's place, after showing what changes",
+     0, 0, 0, restore},
+    {"db", "reset", "", "puts the factory's database in its place, after showing what changes",
+     0, 0, 0, reset},
+    {"db", "exec", "SQL", "executes statements",
+     0, 1, 1, execute_sql},
+    {"db", "query", "SQL", "prints the rows of a query",
+     0, 1, 1, query_sql},
+    {"db", "count", "SQL", "prints the number that a query has",
+     0, 1, 1, count_sql},
+    {"lock", "", "", "who holds the lock file; exit status 1 while it is held",
+     0, 0, 0, show_lock},
+    {"doctor", "", "", "looks at everything: files, tables, service, rules",
+     option_json, 0, 0, examine},
+    {"completion", "", "bash", "prints what makes bash complete commands and tables",
+     0, 1, 1, complete},
+    {"help", "", "[COMMAND]", "says how commands are used",
+     0, 0, 2, help},
+    {"version", "", "", "this program's version, and profile and version of the library",
+     0, 0, 0, show_version},
+};
+// clang-format on
+
+extern const Command *const commands_end = commands + sizeof(commands) / sizeof(*commands);
+
+}  // namespace ctl

@@ -1,0 +1,92 @@
+#include "database.h"
+
+#include "weekdays.h"
+
+namespace ctl {
+
+namespace {
+
+Status fail_with(sqlite3 *db, const char *what) {
+    return fail(Status::unreachable, "cannot read %s: %s", what, db != nullptr ? sqlite3_errmsg(db) : "out of memory");
+}
+
+}  // namespace
+
+Status Database::open(const char *path, unsigned seconds) {
+    // A journal that a killed writer has left is undone by who may write only.
+    if (sqlite3_open_v2(path, &db_, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+        return fail_with(db_, path);
+    }
+    sqlite3_busy_timeout(db_, static_cast<int>(seconds) * 1000);
+    add_days_function(db_);
+    constexpr char look[] = "pragma query_only = 1; select count(*) from sqlite_master;";
+    return sqlite3_exec(db_, look, nullptr, nullptr, nullptr) == SQLITE_OK ? Status::done : fail_with(db_, path);
+}
+
+Status Database::open_in_memory() {
+    return sqlite3_open(":memory:", &db_) == SQLITE_OK ? Status::done : fail_with(db_, "memory");
+}
+
+Status Database::attach(const char *path, const char *schema) {
+    Query attachment(*this, "attach ?1 as ?2");
+    attachment.bind(1, path).bind(2, schema).next();
+    return attachment.status();
+}
+
+Status Database::run(const char *sql) {
+    return sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) == SQLITE_OK ? Status::done
+                                                                          : fail_with(db_, "the database");
+}
+
+Status Database::hold() {
+    return run("begin; select count(*) from sqlite_master;");
+}
+
+Status Database::release() {
+    return run("commit;");
+}
+
+Query::Query(const Database &database, const char *sql) {
+    if (sqlite3_prepare_v2(database.handle(), sql, -1, &statement_, nullptr) != SQLITE_OK || statement_ == nullptr) {
+        status_ = fail_with(database.handle(), "the database");
+    }
+}
+
+Query &Query::bind(int number, std::string_view value) {
+    sqlite3_bind_text(statement_, number, value.data(), static_cast<int>(value.size()), SQLITE_STATIC);
+    return *this;
+}
+
+Query &Query::bind(int number, std::int64_t value) {
+    sqlite3_bind_int64(statement_, number, value);
+    return *this;
+}
+
+bool Query::next() {
+    if (status_ != Status::done) {
+        return false;
+    }
+    const int code = sqlite3_step(statement_);
+    if (code != SQLITE_ROW && code != SQLITE_DONE) {
+        status_ = fail_with(sqlite3_db_handle(statement_), "the database");
+    }
+    return code == SQLITE_ROW;
+}
+
+void Query::rewind() {
+    sqlite3_reset(statement_);
+}
+
+std::string_view Query::text(int column) const {
+    const unsigned char *const text = sqlite3_column_text(statement_, column);
+    return text == nullptr ? std::string_view()
+                           : std::string_view(reinterpret_cast<const char *>(text),
+                                              static_cast<std::size_t>(sqlite3_column_bytes(statement_, column)));
+}
+
+std::int64_t number_of(const Database &database, const char *sql) {
+    Query query(database, sql);
+    return query.next() ? query.number(0) : 0;
+}
+
+}  // namespace ctl
