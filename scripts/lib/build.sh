@@ -10,7 +10,7 @@ build_packages=(build-essential cmake ninja-build libsqlite3-dev sqlite3 bubblew
 header_readers=(bindgen castxml luajit python3 swig)
 
 # What the tests need beyond that.
-test_packages=(libgtest-dev googletest clang pkg-config libc6-dev-i386 lib32stdc++-12-dev nlohmann-json3-dev strace
+test_packages=(libgtest-dev googletest clang pkg-config python3-cram libc6-dev-i386 lib32stdc++-12-dev nlohmann-json3-dev strace
     "${header_readers[@]}")
 
 # What scripts/fuzz needs beyond what every build does.

@@ -63,7 +63,7 @@ Status update(const Invocation &invocation, const Session &session, const Access
     }
     Sql proof;
     proof.add("SELECT count(*) FROM DevInfo WHERE Dev_Sn = %s%s", which.sn, conditions.text());
-    const Status status = change_and_look(invocation, session.database(), sql, proof);
+    const Status status = change(invocation, session.database(), add_guard(sql, 1).text(), proof);
     return status == Status::refused ? fail(status, "another program has changed access point %s meanwhile", which.sn)
                                      : status;
 }
@@ -170,10 +170,13 @@ Status set_access_point_status(Invocation &invocation) {
         call_apart(set_status, const_cast<NewStatus *>(&wanted), invocation.seconds(), WhenOverdue::end, message);
     Sql proof;
     proof.add("SELECT count(*) FROM DevInfo WHERE Dev_Sn = %s AND Dev_Status = %Q", which.sn, wanted.text);
-    status = look(invocation, session.database(), outcome == Outcome::overdue ? Status::unknown : Status::done, proof);
-    return status == Status::refused ? fail(Status::unreachable, "the status was not set: %s",
-                                            *message.text() != '\0' ? message.text() : "the database cannot be written")
-                                     : status;
+    if (outcome == Outcome::overdue) {
+        return look(invocation, session.database(), proof);
+    }
+    return number_of(session.database(), proof.text()) != 0
+               ? Status::done
+               : fail(Status::unreachable, "the status was not set: %s",
+                      *message.text() != '\0' ? message.text() : "the database cannot be written");
 }
 
 Status set_access_point_group(Invocation &invocation) {

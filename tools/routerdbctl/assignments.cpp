@@ -140,6 +140,9 @@ Status Assignments::fail_unknown(const char *field) const {
     Sql known;
     for (const Column &column : columns_) {
         const bool is_day = column.field->kind == Kind::weekdays;
+        if (column.field->kind == Kind::zero) {
+            continue;
+        }
         if (!is_day || column.name[std::strlen(column.name) - 1] == '1') {
             known.add(", %s", is_day ? "days" : column.name);
         }

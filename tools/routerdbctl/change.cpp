@@ -77,6 +77,9 @@ int execute(void *context) {
     return DbSqlExec(static_cast<char *>(context));
 }
 
+/// What SQLite says of the greatest number that it cannot turn round.
+constexpr char what_a_guard_says[] = "integer overflow";
+
 /// What SQLite says of a database that is not in a state to be changed, rather than of the statement.
 bool is_about_the_database(const char *message) {
     constexpr const char *texts[] = {"cannot open", "locked",         "readonly",       "disk",
@@ -121,7 +124,28 @@ Outcome call_apart(int (*call)(void *context), void *context, unsigned seconds, 
     return !is_over ? Outcome::overdue : status == 0 ? Outcome::done : Outcome::failed;
 }
 
-Status change(const Invocation &invocation, const char *sql) {
+Sql &add_guard(Sql &sql, int rows) {
+    return sql.add(" SELECT CASE changes() WHEN %d THEN 0 ELSE abs(-9223372036854775807 - 1) END;", rows);
+}
+
+Status look(const Invocation &invocation, const Database &database, const Sql &proof) {
+    if (proof.is_empty()) {
+        return fail(Status::unknown, "it took more than %u s and was ended: look whether it has happened",
+                    invocation.seconds());
+    }
+    Query query(database, proof.text());
+    if (query.next() && query.number(0) != 0) {
+        return Status::done;
+    }
+    return query.status() != Status::done
+               ? fail(Status::unknown, "whether it has happened cannot be seen")
+               : fail(Status::unreachable,
+                      "the database was not free within %u s; nothing was changed, and will not be later (see "
+                      "\"routerdbctl lock\")",
+                      invocation.seconds());
+}
+
+Status change(const Invocation &invocation, const Database &database, const char *sql, const Sql &proof) {
     Sql message;
     Sql text;
     text.add("%s", sql);  // the function takes a text that could be written to
@@ -129,37 +153,18 @@ Status change(const Invocation &invocation, const char *sql) {
         case Outcome::done:
             return Status::done;
         case Outcome::overdue:
-            return Status::unknown;
+            return look(invocation, database, proof);
         default:
             break;
     }
     constexpr char start[] = "cannot exec sql cmdline, Error: ";
     const char *reason = message.text();
-    const bool is_about_statement = !is_about_the_database(reason);
     reason += std::strncmp(reason, start, sizeof(start) - 1) == 0 ? sizeof(start) - 1 : 0;
-    return fail(is_about_statement ? Status::refused : Status::unreachable, "nothing was changed: %s",
+    if (std::strcmp(reason, what_a_guard_says) == 0) {
+        return Status::refused;
+    }
+    return fail(is_about_the_database(reason) ? Status::unreachable : Status::refused, "nothing was changed: %s",
                 *reason != '\0' ? reason : "the database cannot be written");
-}
-
-Status look(const Invocation &invocation, const Database &database, Status status, const Sql &proof) {
-    Query query(database, proof.text());
-    const bool is_there = query.next() && query.number(0) != 0;
-    if (is_there) {
-        return Status::done;
-    }
-    if (query.status() != Status::done) {
-        return fail(Status::unknown, "whether it has happened cannot be seen");
-    }
-    return status == Status::done ? Status::refused
-                                  : fail(Status::unreachable,
-                                         "the database was not free within %u seconds; nothing was changed, and will "
-                                         "not be later (see \"routerdbctl lock\")",
-                                         invocation.seconds());
-}
-
-Status change_and_look(const Invocation &invocation, const Database &database, const Sql &sql, const Sql &proof) {
-    const Status status = change(invocation, sql.text());
-    return status == Status::done || status == Status::unknown ? look(invocation, database, status, proof) : status;
 }
 
 }  // namespace ctl

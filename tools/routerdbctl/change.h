@@ -20,20 +20,19 @@ enum class WhenOverdue : unsigned char { end, leave };
 /// @param message  receives what the library has said
 Outcome call_apart(int (*call)(void *context), void *context, unsigned seconds, WhenOverdue when_overdue, Sql &message);
 
+/// Makes statements fail unless the last one has changed so many rows. Whoever wants to know what its conditions have
+/// come to says so: a row that looks as it should may be another program's.
+Sql &add_guard(Sql &sql, int rows);
+
 /// Executes statements through DbSqlExec(), all of them or none if they are a transaction. One that takes longer than
-/// it may is ended: then nothing of it happens later.
-/// @return done; refused or unreachable, which fail() has said; unknown, of which nothing has been said: whoever has
-///         called looks whether it has happened
-Status change(const Invocation &invocation, const char *sql);
+/// it may is ended: nothing of it happens later.
+/// @param proof  a query whose first number is not 0 when it has happened, asked when it was ended; empty for none
+/// @return done; refused, of which nothing has been said, when a guard has failed; or what fail() has said
+Status change(const Invocation &invocation, const Database &database, const char *sql, const Sql &proof);
 
-/// The same, and looks.
-/// @param proof  a query whose first number is not 0 when it has happened
-/// @return done; refused, of which nothing has been said, when it has not happened; or what fail() has said
-Status change_and_look(const Invocation &invocation, const Database &database, const Sql &sql, const Sql &proof);
-
-/// What has become of a change, or a call, that may have been ended.
-/// @param status  what it has come to: done or unknown
-/// @param proof   as in change_and_look(), and the result as well
-Status look(const Invocation &invocation, const Database &database, Status status, const Sql &proof);
+/// Says what has become of something that was ended.
+/// @param proof  as in change()
+/// @return done, or what fail() has said
+Status look(const Invocation &invocation, const Database &database, const Sql &proof);
 
 }  // namespace ctl

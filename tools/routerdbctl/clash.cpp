@@ -1,28 +1,28 @@
 #include "clash.h"
 
+#include "meaning.h"
+
 namespace ctl {
 
 namespace {
 
-/// The columns that say who and where.
-constexpr const char *unique_columns[] = {"mac", "ip"};
-
-bool is_unique(const Table &table) {
-    return table.rules->id == ROUTERDB_TABLE_DHCP_STATIC;
-}
-
 /// Calls visit(column, value) for each value that no other row may have.
 template <typename Visit>
 void each_unique(const Assignments &values, Visit visit) {
-    for (const char *const column : unique_columns) {
-        const Assignments::Value *const value = is_unique(values.table()) ? values.find(column) : nullptr;
+    for (const Column &column : Columns(values.table())) {
+        const Assignments::Value *const value = is_unique(values.table(), column) ? values.find(column.name) : nullptr;
         if (value != nullptr && *value->text != '\0') {
-            visit(column, *value);
+            visit(column.name, *value);
         }
     }
 }
 
 }  // namespace
+
+bool is_unique(const Table &table, const Column &column) {
+    const Meaning meaning = meaning_of(*column.field);
+    return table.rules->id == ROUTERDB_TABLE_DHCP_STATIC && (meaning == Meaning::mac || meaning == Meaning::address);
+}
 
 Status check_no_clash(const Database &database, const Assignments &values, std::int32_t id) {
     Status status = Status::done;

@@ -7,6 +7,9 @@
 
 namespace ctl {
 
+/// Whether no two rows of a table may have the same value in a column.
+bool is_unique(const Table &table, const Column &column);
+
 /// @param id  of the row that gets the values; 0 for a new one
 /// @return done, or refused, which fail() has said
 Status check_no_clash(const Database &database, const Assignments &values, std::int32_t id);

@@ -250,11 +250,14 @@ Status find_command(char **words, int &count, const Command *&command) {
         count = 1;
         return status;
     }
+    const char *const group = command->group;
     if (count < 2) {
-        return fail(Status::usage, "usage: routerdbctl %s COMMAND; \"routerdbctl help %s\" lists them", command->group,
-                    command->group);
+        command = nullptr;
+        return fail(Status::usage, "usage: routerdbctl %s COMMAND; \"routerdbctl help %s\" lists them", group, group);
     }
-    Choices names(command->group, words[1]);
+    char what[32];
+    std::snprintf(what, sizeof(what), "%s command", group);
+    Choices names(what, words[1]);
     for (const Command *one = command; one != commands_end && std::strcmp(one->group, command->group) == 0; ++one) {
         names.offer(one->name, one);
     }

@@ -46,9 +46,11 @@ Status Database::release() {
     return run("commit;");
 }
 
-Query::Query(const Database &database, const char *sql) {
-    if (sqlite3_prepare_v2(database.handle(), sql, -1, &statement_, nullptr) != SQLITE_OK || statement_ == nullptr) {
-        status_ = fail_with(database.handle(), "the database");
+Query::Query(const Database &database, const char *sql, const char *failure) : failure_(failure) {
+    if (sqlite3_prepare_v2(database.handle(), sql, -1, &statement_, nullptr) != SQLITE_OK) {
+        status_ = fail(Status::unreachable, "%s: %s", failure_, sqlite3_errmsg(database.handle()));
+    } else if (statement_ == nullptr) {
+        status_ = fail(Status::unreachable, "%s: it is empty", failure_);
     }
 }
 
@@ -68,7 +70,7 @@ bool Query::next() {
     }
     const int code = sqlite3_step(statement_);
     if (code != SQLITE_ROW && code != SQLITE_DONE) {
-        status_ = fail_with(sqlite3_db_handle(statement_), "the database");
+        status_ = fail(Status::unreachable, "%s: %s", failure_, sqlite3_errmsg(sqlite3_db_handle(statement_)));
     }
     return code == SQLITE_ROW;
 }

@@ -57,7 +57,8 @@ private:
 /// The rows of one query.
 class Query {
 public:
-    Query(const Database &database, const char *sql);
+    /// @param failure  what to say of one that cannot be run
+    Query(const Database &database, const char *sql, const char *failure = "cannot read the database");
     Query(const Query &) = delete;
     Query &operator=(const Query &) = delete;
     ~Query() { sqlite3_finalize(statement_); }
@@ -87,6 +88,7 @@ public:
 
 private:
     sqlite3_stmt *statement_ = nullptr;
+    const char *failure_;
     Status status_ = Status::done;
 };
 

@@ -127,29 +127,39 @@ Status Comparison::add_table(const char *name) {
 
 /// Prints a value in a line for people.
 void print_value(const Query &query, int column) {
-    const std::string_view text = query.text(column);
-    if (query.type(column) == SQLITE_TEXT) {
-        std::printf("'%.*s'", static_cast<int>(text.size()), text.data());
-    } else {
-        std::printf("%.*s", static_cast<int>(text.size()), text.empty() ? "NULL" : text.data());
+    const int type = query.type(column);
+    const char *const quote = type == SQLITE_TEXT || type == SQLITE_BLOB ? "'" : "";
+    std::fputs(quote, stdout);
+    print_shown(type == SQLITE_NULL ? "NULL" : query.text(column));
+    std::fputs(quote, stdout);
+}
+
+/// What there is of a row, or of a table or a column: "- url-filter 3 name='Homework' status=1".
+void print_whole(const Query &query, bool is_gone) {
+    std::printf("%s%s ", is_gone ? "- " : "+ ", name_for_people(query.text(0)));
+    if (query.number(1) != 0) {
+        std::printf("%lld ", static_cast<long long>(query.number(1)));
     }
+    print_shown(query.text(is_gone ? 3 : 4));
+}
+
+/// "url-filter 3 name: 'Homework' -> 'Games'"
+void print_change(const Query &query) {
+    std::printf("%s %lld %s: ", name_for_people(query.text(0)), static_cast<long long>(query.number(1)),
+                query.text(2).data());
+    print_value(query, 3);
+    std::fputs(" -> ", stdout);
+    print_value(query, 4);
 }
 
 void print_line(const Query &query) {
-    const bool is_gone = query.type(4) == SQLITE_NULL && query.text(2).empty();
+    const bool is_gone = query.type(4) == SQLITE_NULL;
     const bool is_change = !query.text(2).empty();
     std::fputs(begin_look(is_change ? Look::doubtful : is_gone ? Look::bad : Look::good), stdout);
-    std::printf("%s%s", is_change ? "" : is_gone ? "- " : "+ ", name_for_people(query.text(0)));
-    if (query.number(1) != 0) {
-        std::printf(" %lld", static_cast<long long>(query.number(1)));
-    }
     if (is_change) {
-        std::printf(" %s: ", query.text(2).data());
-        print_value(query, 3);
-        std::fputs(" -> ", stdout);
-        print_value(query, 4);
+        print_change(query);
     } else {
-        std::printf(" %s", query.text(is_gone ? 3 : 4).data());
+        print_whole(query, is_gone);
     }
     std::printf("%s\n", end_look());
 }
@@ -168,10 +178,11 @@ Status compare(Database &database, const char *from, const char *to, char **name
     if (status != Status::done || count != 0) {
         return status;
     }
-    Query all(
-        database,
-        "SELECT name FROM main.sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' UNION SELECT name FROM "
-        "other.sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
+    // An export has some of the tables only, and says nothing of the others.
+    Query all(database,
+              "SELECT name FROM other.sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' UNION SELECT name "
+              "FROM main.sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%' AND EXISTS (SELECT 1 FROM "
+              "pragma_database_list AS place WHERE place.name = 'other' AND place.file <> '')");
     while (status == Status::done && all.next()) {
         status = comparison.add_table(all.text(0).data());
     }

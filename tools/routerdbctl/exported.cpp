@@ -21,8 +21,10 @@ public:
     Status read(std::string_view text);
 
 private:
+    Status make_table(const Table &table);
     void read_table(const Table &table, std::string_view rows);
     void read_row(const Table &table, const Columns &columns, int number, std::string_view row);
+    bool check_id(const Table &table, int number, std::string_view row);
     bool add_cell(Sql &values, const Column *column, const Query &cell, const char *place);
     void complain(const char *place, std::string_view value, const char *fault);
 
@@ -68,6 +70,24 @@ bool Reader::add_cell(Sql &values, const Column *column, const Query &cell, cons
     return true;
 }
 
+/// Each row has an id of its own.
+bool Reader::check_id(const Table &table, int number, std::string_view row) {
+    Sql sql;
+    sql.add(
+        "SELECT id, EXISTS (SELECT 1 FROM %s.\"%w\" AS one WHERE one.id = given.id) FROM (SELECT "
+        "coalesce(json_extract(?1, '$.id'), json_extract(?1, '$.Id')) AS id) AS given",
+        other, table.in_sql());
+    Query query(database_, sql.text());
+    const bool is_id = query.bind(1, row).next() && query.type(0) == SQLITE_INTEGER;
+    const bool is_taken = is_id && query.number(1) != 0;
+    if (!is_id || is_taken) {
+        Sql place;
+        place.add("%s[%d].id", table.in_sql(), number);
+        complain(place.text(), is_taken ? query.text(0) : "", is_taken ? "is another row's" : "is no id");
+    }
+    return is_id && !is_taken;
+}
+
 void Reader::read_row(const Table &table, const Columns &columns, int number, std::string_view row) {
     Sql names;
     Sql values;
@@ -92,17 +112,29 @@ void Reader::read_row(const Table &table, const Columns &columns, int number, st
         values.add(values.is_empty() ? "" : ", ");
         is_good = add_cell(values, columns.find(name), cell, place.text()) && is_good;
     }
-    if (is_good && !names.is_empty()) {
+    if (is_good && check_id(table, number, row)) {
         Sql sql;
         sql.add("INSERT INTO %s.\"%w\"(%s) VALUES(%s)", other, table.in_sql(), names.text(), values.text());
         status_ = database_.run(sql.text()) == Status::done ? status_ : Status::unreachable;
     }
 }
 
-void Reader::read_table(const Table &table, std::string_view rows) {
+/// Makes a table in "other" with the columns of the one in "main": its rows have the ids as their numbers, too.
+Status Reader::make_table(const Table &table) {
+    Sql columns;
+    columns.add("SELECT name, type, pk FROM pragma_table_info(%Q)", table.in_sql());
     Sql sql;
-    sql.add("CREATE TABLE %s.\"%w\" AS SELECT * FROM main.\"%w\" WHERE 0", other, table.in_sql(), table.in_sql());
-    if (database_.run(sql.text()) != Status::done) {
+    sql.add("CREATE TABLE %s.\"%w\"(", other, table.in_sql());
+    const char *before = "";
+    for (Query column(database_, columns.text()); column.next(); before = ", ") {
+        sql.add("%s\"%w\" %s", before, column.text(0).data(), column.text(1).data());
+        sql.add("%s", column.number(2) != 0 ? " PRIMARY KEY" : "");
+    }
+    return database_.run(sql.add(")").text());
+}
+
+void Reader::read_table(const Table &table, std::string_view rows) {
+    if (make_table(table) != Status::done) {
         status_ = Status::unreachable;
         return;
     }

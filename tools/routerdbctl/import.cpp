@@ -2,6 +2,7 @@
 #include <cstdio>
 
 #include "change.h"
+#include "clash.h"
 #include "commands.h"
 #include "exported.h"
 #include "question.h"
@@ -30,7 +31,8 @@ private:
     void check_numbers(const Table &table);
     void check_references(const Table &groups);
     void complain(const Table &table, const char *rows, const char *fault);
-    Status add_proof(Sql &proof) const;
+    void add_removal(Sql &sql, const Table &table) const;
+    void add_proof(Sql &proof) const;
 
     const Invocation &invocation_;
     Database &database_;
@@ -55,8 +57,8 @@ Status Import::make_result(const Table &table) const {
         sql.add("%s.\"%w\"", other, name);
     } else {
         sql.add(
-            "%s.\"%w\" UNION ALL SELECT * FROM main.\"%w\" WHERE id NOT IN (SELECT id FROM %s.\"%w\" WHERE id IS "
-            "NOT NULL)",
+            "%s.\"%w\" UNION ALL SELECT * FROM main.\"%w\" WHERE id NOT IN (SELECT id FROM "
+            "%s.\"%w\")",
             other, name, name, other, name);
     }
     return database_.run(sql.text());
@@ -66,27 +68,25 @@ void Import::complain(const Table &table, const char *rows, const char *fault) {
     status_ = fail(Status::refused, "%s %s: %s", table.in_sql(), rows, fault);
 }
 
-/// As many as fit, each id once, no two bindings of one device or to one address.
+/// As many as fit, no two bindings of one device or to one address.
 void Import::check_numbers(const Table &table) {
     Sql count;
     count.add("SELECT count(*) FROM \"result of %w\"", table.in_sql());
     if (number_of(database_, count.text()) > ROUTERDB_LIST_CAPACITY) {
         complain(table, "rows", "they would be more than programs have room for");
     }
-    constexpr const char *columns[] = {"id", "mac", "ip"};
-    const bool is_binding = table.rules->id == ROUTERDB_TABLE_DHCP_STATIC;
-    for (const char *const column : columns) {
-        if (column != columns[0] && !is_binding) {
-            break;
+    for (const Column &column : Columns(table)) {
+        if (!is_unique(table, column)) {
+            continue;
         }
         Sql sql;
         sql.add(
             "SELECT group_concat(id, ', ') FROM \"result of %w\" WHERE \"%w\" <> '' GROUP BY \"%w\" COLLATE NOCASE "
             "HAVING count(*) > 1",
-            table.in_sql(), column, column);
+            table.in_sql(), column.name, column.name);
         for (Query query(database_, sql.text()); query.next();) {
             Sql fault;
-            fault.add("they would have the same %s", column);
+            fault.add("they would have the same %s", column.name);
             complain(table, query.text(0).data(), fault.text());
         }
     }
@@ -123,20 +123,32 @@ Status Import::check() {
 }
 
 /// Adds a query that answers 1 when the tables have all rows of the file.
-Status Import::add_proof(Sql &proof) const {
+void Import::add_proof(Sql &proof) const {
     proof.add("SELECT 1");
     for (const Table &table : tables) {
         if (!has(table)) {
             continue;
         }
         const char *const name = table.in_sql();
-        proof.add(" AND NOT EXISTS (SELECT * FROM %s.\"%w\" WHERE id IS NOT NULL EXCEPT SELECT * FROM main.\"%w\")",
-                  other, name, name);
+        proof.add(" AND NOT EXISTS (SELECT * FROM %s.\"%w\" EXCEPT SELECT * FROM main.\"%w\")", other, name, name);
         if (replaces_) {
             proof.add(" AND (SELECT count(*) FROM %s.\"%w\") = (SELECT count(*) FROM main.\"%w\")", other, name, name);
         }
     }
-    return Status::done;
+}
+
+/// Adds what removes the rows that give way.
+void Import::add_removal(Sql &sql, const Table &table) const {
+    if (replaces_) {
+        sql.add("DELETE FROM \"%w\";\n", table.in_sql());
+        return;
+    }
+    Sql ids;
+    ids.add("SELECT group_concat(id, ', ') FROM %s.\"%w\"", other, table.in_sql());
+    Query query(database_, ids.text());
+    if (query.next() && !query.text(0).empty()) {
+        sql.add("DELETE FROM \"%w\" WHERE id IN (%s);\n", table.in_sql(), query.text(0).data());
+    }
 }
 
 Status Import::write() const {
@@ -146,17 +158,7 @@ Status Import::write() const {
         if (!has(table)) {
             continue;
         }
-        sql.add("DELETE FROM \"%w\"", table.in_sql());
-        if (!replaces_) {
-            sql.add(" WHERE id IN (0");
-            Sql ids;
-            ids.add("SELECT id FROM %s.\"%w\" WHERE id IS NOT NULL", other, table.in_sql());
-            for (Query query(database_, ids.text()); query.next();) {
-                sql.add(", %lld", query.number(0));
-            }
-            sql.add(")");
-        }
-        sql.add(";\n");
+        add_removal(sql, table);
         const Status status = add_rows(sql, database_, other, table);
         if (status != Status::done) {
             return status;
@@ -169,8 +171,7 @@ Status Import::write() const {
     }
     Sql proof;
     add_proof(proof);
-    const Status status = change_and_look(invocation_, database_, sql, proof);
-    return status == Status::refused ? fail(status, "another program has changed the tables meanwhile") : status;
+    return change(invocation_, database_, sql.text(), proof);
 }
 
 }  // namespace

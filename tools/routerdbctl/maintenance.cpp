@@ -33,7 +33,7 @@ Status copy(const Invocation &invocation, int (*call)(void *)) {
         case Outcome::done:
             return Status::done;
         case Outcome::overdue:
-            return fail(Status::unknown, "it takes more than %u seconds and still goes on; see \"routerdbctl lock\"",
+            return fail(Status::unknown, "it takes more than %u s and still goes on; see \"routerdbctl lock\"",
                         seconds);
         default:
             return fail(Status::unreachable, "it has failed: %s",
@@ -110,12 +110,10 @@ Status execute_sql(Invocation &invocation) {
         std::puts(sql);
         return Status::done;
     }
-    Status status = confirm(invocation, "Execute this?");
-    status = status != Status::done ? status : change(invocation, sql);
-    return status != Status::unknown
-               ? status
-               : fail(status, "it took more than %u seconds and was ended: look whether it has happened",
-                      invocation.seconds());
+    const Status status = confirm(invocation, "Execute this?");
+    const Database none;
+    const Sql no_proof;
+    return status != Status::done ? status : change(invocation, none, sql, no_proof);
 }
 
 Status query_sql(Invocation &invocation) {
@@ -124,7 +122,7 @@ Status query_sql(Invocation &invocation) {
         return session.status();
     }
     sqlite3_set_authorizer(session.database().handle(), permit_reading, nullptr);
-    Query query(session.database(), invocation.arguments[0]);
+    Query query(session.database(), invocation.arguments[0], "this is no query that reads");
     return query.status() == Status::done ? print_rows(invocation, query) : Status::refused;
 }
 
@@ -134,7 +132,7 @@ Status count_sql(Invocation &invocation) {
         return session.status();
     }
     sqlite3_set_authorizer(session.database().handle(), permit_reading, nullptr);
-    Query query(session.database(), invocation.arguments[0]);
+    Query query(session.database(), invocation.arguments[0], "this is no query that reads");
     if (!query.next()) {
         return query.status() != Status::done ? Status::refused : fail(Status::not_found, "the query has no row");
     }

@@ -64,7 +64,8 @@ Layout measure(Query &query, bool has_header) {
     }
     while (query.next()) {
         for (int i = 0; i < layout.columns; ++i) {
-            layout.is_number[i] = layout.is_number[i] && query.type(i) == SQLITE_INTEGER;
+            layout.is_number[i] =
+                layout.is_number[i] && (query.type(i) == SQLITE_INTEGER || query.type(i) == SQLITE_NULL);
             layout.note(i, query.text(i));
         }
     }
@@ -204,6 +205,10 @@ void print_json(const Query &query, int column) {
     } else {
         print_json(text);
     }
+}
+
+void print_shown(std::string_view text) {
+    put_cut(text, ~0U);
 }
 
 void print_quoted(std::string_view text) {

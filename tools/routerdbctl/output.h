@@ -25,6 +25,9 @@ void print_json(const Query &query, int column);
 /// Prints a text as JSON has it, with its quotes.
 void print_json(std::string_view text);
 
+/// Prints a text with "?" in place of what a terminal should not get.
+void print_shown(std::string_view text);
+
 /// Prints a text as a shell takes it, in one piece.
 void print_quoted(std::string_view text);
 

@@ -85,7 +85,7 @@ Status add_and_print_id(const Invocation &invocation, const Session &session, co
     Sql proof;
     proof.add("SELECT id FROM \"%w\" WHERE id > %lld AND ", table, last_id);
     add_pairs(proof, values, "IS", " AND ").add(" ORDER BY id LIMIT 1");
-    const Status status = change_and_look(invocation, session.database(), insert, proof);
+    const Status status = change(invocation, session.database(), add_guard(insert, 1).text(), proof);
     if (status == Status::refused) {
         return fail(status, "nothing was added: another program has changed the table meanwhile");
     }
@@ -140,7 +140,7 @@ Status set_row(const Invocation &invocation, const Session &session, const Assig
     Sql proof;
     proof.add("SELECT count(*) FROM \"%w\" WHERE id = %d AND ", table.in_sql(), id);
     add_pairs(proof, values, "IS", " AND ");
-    const Status status = change_and_look(invocation, session.database(), update, proof);
+    const Status status = change(invocation, session.database(), add_guard(update, 1).text(), proof);
     return status == Status::refused
                ? fail(status, "nothing was changed: another program has changed row %d of %s meanwhile", id, table.name)
                : status;
@@ -180,7 +180,7 @@ Status set_status(Invocation &invocation, int applies) {
     Sql proof;
     proof.add("SELECT count(*) = %d FROM \"%w\" WHERE id IN (%s) AND \"status\" = %d", invocation.count - 1,
               table->in_sql(), ids.text(), applies);
-    status = change_and_look(invocation, session.database(), update, proof);
+    status = change(invocation, session.database(), add_guard(update, invocation.count - 1).text(), proof);
     return status == Status::refused ? fail(status, "another program has changed %s meanwhile", table->name) : status;
 }
 
@@ -273,7 +273,8 @@ Status remove_rules(Invocation &invocation) {
     }
     Sql proof;
     proof.add("SELECT count(*) = 0 FROM \"%w\" WHERE %s", table->in_sql(), rows.text());
-    status = change_and_look(invocation, session.database(), removal, proof);
+    status = change(invocation, session.database(),
+                    all ? removal.text() : add_guard(removal, invocation.count - 1).text(), proof);
     return status == Status::refused ? fail(status, "another program has changed %s meanwhile", table->name) : status;
 }
 

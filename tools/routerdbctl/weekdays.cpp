@@ -59,7 +59,7 @@ bool read_days(std::string_view text, int (&days)[days_of_a_week]) {
     if (text == "daily" || text == "none") {
         return true;
     }
-    if (text.empty()) {
+    if (text.empty() || text[text.size() - 1] == ',') {
         return false;
     }
     while (!text.empty()) {
