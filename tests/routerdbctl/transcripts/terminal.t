@@ -28,19 +28,16 @@ What cannot be taken back is asked for:
 
   $ in_terminal 80 'n
   > ' routerdbctl rule rm user-url --all
-  Remove all rows of user-url? [y/N] n
-  routerdbctl: nothing was changed
+  Remove all rows of user-url? [y/N] routerdbctl: nothing was changed
   [1]
   $ in_terminal 80 '
   > ' routerdbctl rule rm user-url --all
-  
   Remove all rows of user-url? [y/N] routerdbctl: nothing was changed
   [1]
   $ routerdbctl rule get user-url 1.name
   A name that is long
   $ in_terminal 80 'y
   > ' routerdbctl rule rm user-url --all
-  y
   Remove all rows of user-url? [y/N]  (no-eol)
   $ routerdbctl rule list user-url
   id  name  url  mark
@@ -50,18 +47,14 @@ What cannot be taken back is asked for:
   $ routerdbctl rule set user-url 2 name=changed
   $ in_terminal 80 'y
   > ' routerdbctl db restore
-  y
   <ESC>[33muser-url 2 name: 'changed' -> 'again'<ESC>[0m
   Put the backup in the database's place? [y/N]  (no-eol)
   $ in_terminal 80 'y
   > ' routerdbctl db exec "update user_urlinfo set name = 'typed';"
-  y
   Execute this? [y/N]  (no-eol)
   $ in_terminal 80 'y
   > ' routerdbctl db reset
-  y
   <ESC>[31m- user-url 2 name='typed'<ESC>[0m
   Put the factory in the database's place? [y/N]  (no-eol)
   $ in_terminal 80 'y
   > ' routerdbctl -y rule rm user-url --all
-  y
