@@ -95,7 +95,7 @@ Status Assignments::take_group(const Table &groups, const char *value, const Dat
 }
 
 Status Assignments::take_days(const char *value) {
-    int days[days_of_a_week];
+    int days[days_of_a_week]{};
     if (!read_days(value, days)) {
         return fail(Status::usage, "\"%s\" are no days, such as mon-fri, sat,sun, daily or none", value);
     }

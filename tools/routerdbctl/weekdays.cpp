@@ -43,7 +43,7 @@ bool read_span(std::string_view text, int (&days)[days_of_a_week]) {
 }
 
 void call_days(sqlite3_context *context, int count, sqlite3_value **values) {
-    int days[days_of_a_week];
+    int days[days_of_a_week]{};
     for (int i = 0; i < count; ++i) {
         days[i] = sqlite3_value_int(values[i]);
     }
