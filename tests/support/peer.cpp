@@ -29,6 +29,13 @@ Peer::~Peer() {
     close(fd_);
 }
 
+pid_t Peer::listener() const {
+    ucred credentials{};
+    socklen_t size = sizeof(credentials);
+    getsockopt(fd_, SOL_SOCKET, SO_PEERCRED, &credentials, &size);
+    return credentials.pid;
+}
+
 bool Peer::send(const std::string &bytes) const {
     return ::send(fd_, bytes.data(), bytes.size(), MSG_NOSIGNAL) == static_cast<ssize_t>(bytes.size());
 }

@@ -1,6 +1,8 @@
 // A connection to the SQL service, byte by byte.
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstddef>
 #include <string>
 
@@ -14,6 +16,9 @@ public:
     ~Peer();
 
     bool connected() const { return connected_; }
+
+    /// Who listens there.
+    pid_t listener() const;
 
     /// @return whether the service has taken all of it
     bool send(const std::string &bytes) const;

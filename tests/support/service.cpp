@@ -23,10 +23,11 @@ std::string told(const std::string &outcome) {
 
 Service::Service(const std::vector<std::string> &arguments)
     : process_([&arguments] { return become(sqld(arguments)); }) {
-    const bool served = eventually([] {
+    const bool served = eventually([this] {
         const Peer peer;
         peer.finish();
-        return peer.connected() && peer.receive().empty();
+        // One that was killed a moment ago may still listen.
+        return peer.connected() && peer.listener() == process_.id() && peer.receive().empty();
     });
     if (!served) {
         throw std::runtime_error("the service does not start");
