@@ -1,5 +1,5 @@
-# The manual pages of the tools. They name the paths that are compiled in, and the commands and options of routerdbctl as
-# its own tables have them.
+# The manual pages of the tools, and the script among them. They name the paths that are compiled in, and the commands and
+# options of routerdbctl as its own tables have them.
 
 set(commands tools/routerdbctl/commands.cpp)
 set(command_line tools/routerdbctl/command_line.cpp)
@@ -44,5 +44,8 @@ string(REGEX REPLACE "\n\\\\fB([a-z\\\\-]+)" "\n\\\\fB\\\\-\\\\-\\1" option_list
 string(REGEX REPLACE " (nullptr,|)\\\\fR" "\\\\fR" option_list "${option_list}")
 string(REGEX REPLACE "\"([^\"\n]*)\",\\\\fR\n" "\\1\\\\fR\n" option_list "${option_list}")
 
+set(schema_directory ${CMAKE_INSTALL_FULL_DATADIR}/routerdb)
+configure_file(tools/routerdb-setup/routerdb-setup.in routerdb-setup @ONLY)
+configure_file(tools/routerdb-setup/routerdb-setup.8.in routerdb-setup.8 @ONLY)
 configure_file(tools/routerdb-sqld/routerdb-sqld.8.in routerdb-sqld.8 @ONLY)
 configure_file(tools/routerdbctl/routerdbctl.1.in routerdbctl.1 @ONLY)

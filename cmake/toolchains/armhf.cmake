@@ -5,6 +5,12 @@ set(CMAKE_SYSTEM_PROCESSOR arm)
 set(architecture armhf)
 include(${CMAKE_CURRENT_LIST_DIR}/sysroot.cmake)
 
+find_program(clang clang)
+find_program(lld ld.lld)
+if(NOT clang OR NOT lld)
+    message(FATAL_ERROR "Builds for ARM need the packages clang and lld")
+endif()
+
 # As plain options, so that whoever compiles without this file can be handed all that it takes.
 set(target_options "--target=arm-linux-gnueabihf -march=armv7-a -mthumb --sysroot=${sysroot}")
 set(CMAKE_C_COMPILER clang)

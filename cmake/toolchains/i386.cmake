@@ -6,6 +6,10 @@ set(CMAKE_SYSTEM_PROCESSOR i386)
 set(architecture i386)
 include(${CMAKE_CURRENT_LIST_DIR}/sysroot.cmake)
 
+if(NOT EXISTS /usr/lib32/Scrt1.o)
+    message(FATAL_ERROR "Builds for 32-bit x86 need the packages libc6-dev-i386 and lib32stdc++-12-dev")
+endif()
+
 set(CMAKE_C_COMPILER gcc)
 set(CMAKE_CXX_COMPILER g++)
 # The kernel's headers serve both word sizes, but gcc does not look for them there with -m32.
