@@ -44,7 +44,6 @@ string(REGEX REPLACE "\n\\\\fB([a-z\\\\-]+)" "\n\\\\fB\\\\-\\\\-\\1" option_list
 string(REGEX REPLACE " (nullptr,|)\\\\fR" "\\\\fR" option_list "${option_list}")
 string(REGEX REPLACE "\"([^\"\n]*)\",\\\\fR\n" "\\1\\\\fR\n" option_list "${option_list}")
 
-set(schema_directory ${CMAKE_INSTALL_FULL_DATADIR}/routerdb)
 configure_file(tools/routerdb-setup/routerdb-setup.in routerdb-setup @ONLY)
 configure_file(tools/routerdb-setup/routerdb-setup.8.in routerdb-setup.8 @ONLY)
 configure_file(tools/routerdb-sqld/routerdb-sqld.8.in routerdb-sqld.8 @ONLY)

@@ -1,5 +1,7 @@
 // The service as a process: its socket, its start and its end.
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -72,6 +74,19 @@ TEST(SqldSocket, left_by_a_killed_service_is_replaced) {
         EXPECT_EQ(service.wait(), 128 + SIGKILL);
     }
     EXPECT_TRUE(support::file_exists(service_socket));
+    const support::Service service;
+    EXPECT_TRUE(serves());
+}
+
+// Of a service that was killed a worker may live on for a moment.
+TEST(SqldSocket, whose_lock_is_released_in_a_moment_is_waited_for) {
+    const int lock = open("/var/sqlserver_socket.lock", O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_EQ(flock(lock, LOCK_EX), 0);
+    const Process release([lock] {
+        usleep(300'000);
+        return flock(lock, LOCK_UN) == 0;
+    });
+    close(lock);
     const support::Service service;
     EXPECT_TRUE(serves());
 }

@@ -11,12 +11,15 @@
 #include <cstdio>
 #include <cstring>
 
+#include "clock.h"
 #include "core/paths.h"
 #include "manager.h"
 
 namespace sqld {
 
 namespace {
+
+constexpr std::int64_t patience_ms = 1'000;
 
 using routerdb::paths::new_service_socket;
 using routerdb::paths::service_lock;
@@ -52,7 +55,7 @@ Listener::~Listener() {
 
 bool Listener::start(const Settings &settings) {
     fd_ = manager::take_socket();
-    if (!take_lock() || (fd_ < 0 && somebody_listens())) {
+    if (!become_the_one()) {
         syslog(LOG_ERR, "%s is served already", service_socket);
         return false;
     }
@@ -68,6 +71,16 @@ bool Listener::start(const Settings &settings) {
         unlink(new_service_socket);
     }
     return is_own_;
+}
+
+/// The workers of a service that was killed have what they inherited until they end, too.
+bool Listener::become_the_one() {
+    for (const std::int64_t end = now_ms() + patience_ms; now_ms() < end; usleep(10'000)) {
+        if ((lock_ >= 0 || take_lock()) && (fd_ >= 0 || !somebody_listens())) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// Of services that start at the same moment one gets it. Without its file, as where it cannot be made, all do.

@@ -26,6 +26,7 @@ public:
     void abandon();
 
 private:
+    bool become_the_one();
     bool take_lock();
     bool bind_socket(const Settings &settings);
 

@@ -6,6 +6,7 @@
 #include "options.h"
 #include "server.h"
 #include "shared/library_note.h"
+#include "surroundings.h"
 
 namespace {
 
@@ -16,6 +17,7 @@ int serve(const sqld::Settings &settings) {
         std::fprintf(stderr, "routerdb-sqld: cannot listen, see the system log\n");
         return 1;
     }
+    sqld::tell_what_is_missing();
     syslog(LOG_INFO, "started");
     server.run();
     syslog(LOG_INFO, "stopped");
