@@ -12,24 +12,29 @@ namespace {
 
 namespace members = routerdb::members;
 
-/// Whether a column is that of a member: of the access point, of one of its networks, or of one of its radios.
+/// Takes a start off a text that has it.
+bool take_off(std::string_view &text, std::string_view start) {
+    const bool has_it = text.size() >= start.size() && std::memcmp(text.data(), start.data(), start.size()) == 0;
+    text.remove_prefix(has_it ? start.size() : 0);
+    return has_it;
+}
+
+/// Whether a column is that of a member: of the access point, of one of its networks ("Dev_Wlan3_Ssid"), or of one of its
+/// radios ("Dev_Wlan_Channel_sec").
 bool is_column_of(const members::Member &member, const char *column) {
+    std::string_view rest = column;
     if (member.kind == members::Kind::device) {
-        return std::strcmp(member.name, column) == 0;
+        return rest == member.name;
     }
-    char name[40];
-    if (member.kind == members::Kind::network) {
-        for (int network = 1; network <= 8; ++network) {
-            std::snprintf(name, sizeof(name), "Dev_Wlan%d_%s", network, member.name);
-            if (std::strcmp(name, column) == 0) {
-                return true;
-            }
-        }
+    if (!take_off(rest, "Dev_Wlan")) {
         return false;
     }
-    std::snprintf(name, sizeof(name), "Dev_Wlan_%s_sec", member.name);
-    const std::size_t length = std::strlen(name) - (sizeof("_sec") - 1);
-    return std::strcmp(name, column) == 0 || (std::strncmp(name, column, length) == 0 && column[length] == '\0');
+    if (member.kind == members::Kind::network) {
+        const bool has_number = !rest.empty() && rest[0] >= '1' && rest[0] <= '8';
+        rest.remove_prefix(has_number ? 1 : 0);
+        return has_number && take_off(rest, "_") && rest == member.name;
+    }
+    return take_off(rest, "_") && take_off(rest, member.name) && (rest.empty() || rest == "_sec");
 }
 
 /// The bytes of a column's member, its terminator included; 0 for a column that no member has.
