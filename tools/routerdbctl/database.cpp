@@ -23,6 +23,16 @@ Status Database::open(const char *path, unsigned seconds) {
     return sqlite3_exec(db_, look, nullptr, nullptr, nullptr) == SQLITE_OK ? Status::done : fail_with(db_, path);
 }
 
+int Database::open_to_look(const char *path, int milliseconds) {
+    int code = sqlite3_open_v2(path, &db_, SQLITE_OPEN_READONLY, nullptr);
+    if (code == SQLITE_OK) {
+        sqlite3_extended_result_codes(db_, 1);
+        sqlite3_busy_timeout(db_, milliseconds);
+        code = sqlite3_exec(db_, "select count(*) from sqlite_master;", nullptr, nullptr, nullptr);
+    }
+    return code;
+}
+
 Status Database::open_in_memory() {
     return sqlite3_open(":memory:", &db_) == SQLITE_OK ? Status::done : fail_with(db_, "memory");
 }
@@ -46,7 +56,8 @@ Status Database::release() {
     return run("commit;");
 }
 
-Query::Query(const Database &database, const char *sql, const char *failure) : failure_(failure) {
+Query::Query(const Database &database, const char *sql, const char *failure)
+    : db_(database.handle()), failure_(failure) {
     if (sqlite3_prepare_v2(database.handle(), sql, -1, &statement_, nullptr) != SQLITE_OK) {
         status_ = fail(Status::unreachable, "%s: %s", failure_, sqlite3_errmsg(database.handle()));
     } else if (statement_ == nullptr) {

@@ -23,6 +23,11 @@ public:
     /// @return done, or what fail() has said
     Status open(const char *path, unsigned seconds);
 
+    /// Opens a file such that nothing of it changes: even what a killed writer has left is not undone.
+    /// @param milliseconds  how long to wait for whoever has it locked
+    /// @return the result code of SQLite, with what it adds to it
+    int open_to_look(const char *path, int milliseconds);
+
     /// Opens what is in memory only: values that are put into it.
     Status open_in_memory();
 
@@ -77,6 +82,9 @@ public:
     /// Done, or what fail() has said.
     Status status() const { return status_; }
 
+    /// What SQLite says of it then.
+    const char *error() const { return sqlite3_errmsg(db_); }
+
     int columns() const { return sqlite3_column_count(statement_); }
     const char *name(int column) const { return sqlite3_column_name(statement_, column); }
     int type(int column) const { return sqlite3_column_type(statement_, column); }
@@ -87,6 +95,7 @@ public:
     std::string_view text(int column) const;
 
 private:
+    sqlite3 *db_;
     sqlite3_stmt *statement_ = nullptr;
     const char *failure_;
     Status status_ = Status::done;
