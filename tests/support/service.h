@@ -31,6 +31,9 @@ public:
     /// Waits until the service has all that has been sent to it, by two requests that are refused.
     static void collect_all();
 
+    /// The process that listens.
+    pid_t id() const { return process_.id(); }
+
     void signal(int number) const;
 
     /// Waits for its end.

@@ -21,6 +21,8 @@ int size_of(std::string_view text) {
     return static_cast<int>(text.size());
 }
 
+// A column between quotation marks that is not there would be a text: with its table before it, it is an error.
+
 /// Reports rows that refer to rows of another table that are not there.
 /// @param sql  a query for a row with their ids
 void report_dangling(Examination &examination, const Database &database, const Sql &sql, const char *user,
@@ -43,10 +45,9 @@ void look_at_references_to(Examination &examination, const Database &database, c
         }
         Sql sql;
         sql.add(
-            "SELECT group_concat(id, ', ') FROM \"%w\" WHERE \"%w\" = %d AND NOT EXISTS (SELECT 1 FROM \"%w\" AS "
-            "groups WHERE groups.id = \"%w\".\"%w\")",
-            user.in_sql(), control_of(user, field).column, routerdb::control_referenced, groups.in_sql(), user.in_sql(),
-            field.column);
+            "SELECT group_concat(id, ', ') FROM \"%w\" AS rule WHERE rule.\"%w\" = %d AND NOT EXISTS (SELECT 1 FROM"
+            " \"%w\" AS groups WHERE groups.id = rule.\"%w\")",
+            user.in_sql(), control_of(user, field).column, routerdb::control_referenced, groups.in_sql(), field.column);
         report_dangling(examination, database, sql, user.name, groups.name);
     });
 }
@@ -55,9 +56,9 @@ void look_at_references_to(Examination &examination, const Database &database, c
 void look_for_twins(Examination &examination, const Database &database, const Table &table, const char *column) {
     Sql sql;
     sql.add(
-        "SELECT group_concat(id, ', '), lower(\"%w\") FROM \"%w\" WHERE \"%w\" <> '' GROUP BY lower(\"%w\")"
-        " HAVING count(*) > 1 ORDER BY min(id)",
-        column, table.in_sql(), column, column);
+        "SELECT group_concat(id, ', '), lower(rule.\"%w\") AS value FROM \"%w\" AS rule WHERE value <> ''"
+        " GROUP BY value HAVING count(*) > 1 ORDER BY min(id)",
+        column, table.in_sql());
     Query query(database, sql.text());
     each_row(examination, query, [&](const Query &row) {
         examination.report.warn("\"routerdbctl rule rm static-binding ID\" removes one", "%s %.*s all have %s %.*s",

@@ -17,10 +17,11 @@ Places::Places(Examination &examination, const Database &database, const char *t
 void Places::expect(unsigned place, const char *column) {
     Query query(database_, "SELECT name, name = ?3 COLLATE NOCASE FROM pragma_table_info(?1) WHERE cid = ?2");
     query.bind(1, table_).bind(2, std::int64_t{place}).bind(3, column);
-    const bool has_column = query.next();
-    if (!has_column || query.number(1) == 0) {
-        examination_.report.fail(mend_tables, "column %u of %s is %s%s instead of %s", place, table_,
-                                 has_column ? "" : "not there", has_column ? query.text(0).data() : "", column);
+    if (!query.next()) {
+        examination_.report.fail(mend_tables, "%s has no column %u, which should be %s", table_, place, column);
+    } else if (query.number(1) == 0) {
+        examination_.report.fail(mend_tables, "column %u of %s is %s instead of %s", place, table_,
+                                 query.text(0).data(), column);
     }
 }
 
