@@ -33,7 +33,7 @@ const std::string not_looked_at = "not looked at -> mend what is said of main-da
 void expect_no_other_look() {
     const Lines checks{"content", "rule-tables", "ap-tables",   "app-tables", "capacities", "access-points",
                        "groups",  "bindings",    "apostrophes", "json",       "utf-8"};
-    const Lines lines = doctor_lines(checks, {"--timeout", "2", "doctor"});
+    const Lines lines = doctor_lines(checks, {"--timeout", "6", "doctor"});
     ASSERT_EQ(lines.size(), checks.size());
     for (std::size_t i = 0; i < checks.size(); ++i) {
         std::string line = "warn  " + checks[i];
@@ -73,6 +73,13 @@ TEST(DoctorMainDatabase, that_is_a_pipe_keeps_nobody_waiting) {
     EXPECT_EQ(doctor_line("main-database"), "FAIL  main-database  " + path + " is no file" + mend_main);
 }
 
+TEST(DoctorMainDatabase, that_this_user_may_not_read) {
+    chmod(main_database, 0);
+    EXPECT_EQ(doctor_line("main-database"),
+              "FAIL  main-database  " + path + ": Permission denied -> try again as root");
+    expect_no_other_look();
+}
+
 TEST(DoctorMainDatabase, open_to_everybody) {
     chmod(main_database, 0666);
     EXPECT_EQ(doctor_line("main-database"),
@@ -86,7 +93,7 @@ TEST(DoctorMainDatabase, open_to_everybody) {
 TEST(DoctorMainDatabase, locked_by_somebody) {
     const support::Database other;
     other.execute("begin exclusive;");
-    EXPECT_EQ(doctor_line("main-database", {"--timeout", "2", "doctor"}),
+    EXPECT_EQ(doctor_line("main-database", {"--timeout", "6", "doctor"}),
               "FAIL  main-database  " + path + " is locked -> end the program that has it; \"fuser\" names it");
     expect_no_other_look();
 }
@@ -217,7 +224,7 @@ TEST(DoctorBackup, missing_old_or_garbage) {
                               support::own_user() + ", mode 0644";
     EXPECT_EQ(doctor_line("backup"), sound);
 
-    constexpr std::time_t week = 7 * 24 * 60 * 60;
+    constexpr std::time_t week = std::time_t{7} * 24 * 60 * 60;
     const std::time_t now = std::time(nullptr);
     timespec times[2] = {{now, 0}, {now, 0}};
     utimensat(AT_FDCWD, main_database, times, 0);

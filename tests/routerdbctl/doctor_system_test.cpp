@@ -67,9 +67,9 @@ TEST(DoctorService, that_has_been_killed) {
 TEST(DoctorService, that_is_stopped_keeps_nobody_waiting) {
     const support::Service service;
     service.signal(SIGSTOP);
-    EXPECT_EQ(doctor_line("service", {"--timeout", "1", "doctor"}),
+    EXPECT_EQ(doctor_line("service", {"--timeout", "5", "doctor"}),
               "FAIL  service        process " + std::to_string(service.id()) +
-                  " does not answer within 1 seconds -> start routerdb-sqld again; the system log says what it is at");
+                  " does not answer within 5 seconds -> start routerdb-sqld again; the system log says what it is at");
     service.signal(SIGCONT);
 }
 
@@ -92,6 +92,16 @@ TEST(DoctorService, that_everybody_may_connect_to) {
     EXPECT_EQ(doctor_line("service"),
               "warn  service        everybody may connect to /var/sqlserver_socket, and change everything -> \"chmod "
               "o-w\" it");
+}
+
+TEST(DoctorConverter, that_is_missing) {
+    ASSERT_EQ(mkdir("/tmp/converters", 0755), 0);
+    support::write_file("/tmp/converters/gconv-modules", "module GB2312// INTERNAL nowhere 1\n");
+    setenv("GCONV_PATH", "/tmp/converters", 1);
+    EXPECT_EQ(
+        doctor_line("converter"),
+        "warn  converter      GB2312 is not converted: names of networks stay as they are -> install the converter "
+        "of the C library, such as its gconv modules");
 }
 
 TEST(DoctorPrograms, that_are_missing_are_named) {

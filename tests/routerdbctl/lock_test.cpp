@@ -119,6 +119,11 @@ TEST(Lock, without_its_file) {
     EXPECT_FALSE(support::file_exists(lock_file));
 }
 
+TEST(Lock, whose_file_this_user_may_not_open) {
+    chmod(lock_file, 0);
+    expect(run({"lock"}), 4, "", "routerdbctl: cannot look at /var/databaselock: Permission denied\n");
+}
+
 TEST(Lock, whose_file_is_a_link_to_itself) {
     unlink(lock_file);
     ASSERT_EQ(symlink(lock_file, lock_file), 0);

@@ -15,10 +15,10 @@ namespace {
 
 using routerdb::paths::lock_file;
 
-/// Most hold it for a moment: who has it again and again for a second is worth a word.
+/// Most hold it for a moment: that it is held whenever one looks for a while is worth a word.
 LockHolders find_lasting_holders() {
     LockHolders found = LockHolders::find();
-    for (int again = 0; again < 10 && found.state == LockState::held; ++again) {
+    for (int again = 0; again < 5 && found.state == LockState::held; ++again) {
         usleep(100'000);
         found = LockHolders::find();
     }

@@ -29,11 +29,13 @@ void look_at_rule_table(Examination &examination, const Database &database, cons
         return;
     }
     places.expect(0, "id");
-    const Field *first = nullptr;  // of the columns of a field, which stand side by side
+    const Column *before = nullptr;
     unsigned place = 0;
     for (const Column &column : Columns(table)) {
-        place = column.field == first ? place + 1 : static_cast<unsigned>(column.field->position);
-        first = column.field;
+        // The columns of one field stand side by side.
+        const bool is_first = before == nullptr || before->field != column.field;
+        place = is_first ? static_cast<unsigned>(column.field->position) : place + 1;
+        before = &column;
         if (column.field->position == routerdb::by_name) {
             places.expect(column.name);
         } else {
