@@ -21,7 +21,8 @@ bool hold(LockKind kind, Visible visible) {
         // Another program would be visible again: this one stays, and looks like the test.
         prctl(PR_SET_DUMPABLE, 0);
     }
-    if (fd < 0 || fcntl(fd, kind == LockKind::of_process ? F_SETLK : F_OFD_SETLK, &lock) != 0) {
+    // It waits, for the test takes the lock a moment each time it looks whether somebody has it.
+    if (fd < 0 || fcntl(fd, kind == LockKind::of_process ? F_SETLKW : F_OFD_SETLKW, &lock) != 0) {
         return false;
     }
     if (visible == Visible::no) {

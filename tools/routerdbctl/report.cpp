@@ -72,23 +72,20 @@ void Report::start(Health health, const char *advice) {
 }
 
 void Report::add(Health health, const char *advice, const char *format, std::va_list arguments) {
-    constexpr char more[] = "; and more";
+    constexpr char more[] = "and more";
     if (is_pending_ || health > health_) {
         start(health, advice);
     }
     if (health < health_ || is_full_) {
         return;
     }
-    char text[400];
+    char text[sizeof(found_) / 2];
     std::vsnprintf(text, sizeof(text), format, arguments);
     const std::size_t added = make_fit_to_be_shown(text);
-    is_full_ = length_ + added + 2 * sizeof(more) > sizeof(found_);
-    const int size = std::snprintf(found_ + length_, sizeof(found_) - length_, "%s%s",
-                                   length_ == 0 ? ""
-                                   : is_full_   ? more
-                                                : "; ",
-                                   is_full_ && length_ != 0 ? "" : text);
-    length_ += static_cast<std::size_t>(size);
+    const char *const before = length_ == 0 ? "" : "; ";
+    is_full_ = length_ + added + 2 * sizeof("; ") + sizeof(more) > sizeof(found_);
+    length_ += static_cast<std::size_t>(
+        std::snprintf(found_ + length_, sizeof(found_) - length_, "%s%s", before, is_full_ ? more : text));
 }
 
 }  // namespace ctl
