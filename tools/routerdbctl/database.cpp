@@ -10,6 +10,11 @@ Status fail_with(sqlite3 *db, const char *what) {
     return fail(Status::unreachable, "cannot read %s: %s", what, db != nullptr ? sqlite3_errmsg(db) : "out of memory");
 }
 
+/// A name between double quotes that no column has is an error, not a text.
+void refuse_unknown_columns(sqlite3 *db) {
+    sqlite3_db_config(db, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+}
+
 }  // namespace
 
 Status Database::open(const char *path, unsigned seconds) {
@@ -18,6 +23,7 @@ Status Database::open(const char *path, unsigned seconds) {
         return fail_with(db_, path);
     }
     sqlite3_busy_timeout(db_, static_cast<int>(seconds) * 1000);
+    refuse_unknown_columns(db_);
     add_days_function(db_);
     constexpr char look[] = "pragma query_only = 1; select count(*) from sqlite_master;";
     return sqlite3_exec(db_, look, nullptr, nullptr, nullptr) == SQLITE_OK ? Status::done : fail_with(db_, path);
@@ -28,6 +34,7 @@ int Database::open_to_look(const char *path, int milliseconds) {
     if (code == SQLITE_OK) {
         sqlite3_extended_result_codes(db_, 1);
         sqlite3_busy_timeout(db_, milliseconds);
+        refuse_unknown_columns(db_);
         code = sqlite3_exec(db_, "select count(*) from sqlite_master;", nullptr, nullptr, nullptr);
     }
     return code;
