@@ -16,6 +16,7 @@ from roff import ended, escape, filled, section, see_also, sentence, tagged
 
 SYNOPSIS = [".SH SYNOPSIS", ".nf", ".B #include <routerdb.h>", ".PP"]
 LINE = 72  # of a prototype, which is indented by seven
+EXAMPLES = pathlib.Path(__file__).parent / "examples"
 UNBROKEN = "\0"
 FONTS = re.compile(r"\\f[BIP]")
 ERRORS_HOLD = (
@@ -68,11 +69,21 @@ def function_page(function, group, header):
     lines += section("RETURN VALUE", [sentence(text) for text in function.result])
     lines += section("ERRORS", [ERRORS_HOLD] + [ended(text) for text in function.errors])
     lines += section("DIAGNOSTICS", [sentence(text) for text in function.messages])
+    lines += example(function.name)
     lines += section("NOTES", function.notes)
     if group.text.paragraphs != [""]:
         lines += [] if function.notes else [".SH NOTES"]
         lines += [f'.SS "{escape(group.title)}"'] + section("", group.text.paragraphs)[1:]
     return lines + see_also(["routerdb"] + header.neighbours(function, group))
+
+
+def example(name):
+    """The program of docs/man/examples that shows a function, line by line."""
+    path = EXAMPLES / f"{name}.c"
+    if not path.exists():
+        return []
+    lines = [escape(line) for line in path.read_text(encoding="ascii").splitlines()]
+    return [".SH EXAMPLES", ".EX"] + ["\\&" + line if line.startswith(".") else line for line in lines] + [".EE"]
 
 
 def data_page(symbol, group, header):
