@@ -17,6 +17,7 @@ from roff import ended, escape, filled, section, see_also, sentence, tagged
 SYNOPSIS = [".SH SYNOPSIS", ".nf", ".B #include <routerdb.h>", ".PP"]
 LINE = 72  # of a prototype, which is indented by seven
 EXAMPLES = pathlib.Path(__file__).parent / "examples"
+LONGEST_NAME = 60
 UNBROKEN = "\0"
 FONTS = re.compile(r"\\f[BIP]")
 ERRORS_HOLD = (
@@ -27,8 +28,10 @@ LIBRARY = [".SH LIBRARY", "Access to the configuration databases", ".RI ( librou
 
 
 def heading(name, brief):
-    """NAME says in one line what the page is about, without the full stop of a sentence."""
+    """NAME says in one short line what the page is about, without the full stop of a sentence."""
     brief = FONTS.sub("", brief).rstrip(".")
+    if len(brief) > LONGEST_NAME:
+        brief = re.split(r"[,:] | \(", brief)[0]
     if not brief[1:2].isupper():
         brief = brief[:1].lower() + brief[1:]
     return [".SH NAME"] + filled(f"{name} \\- {brief}")
