@@ -11,6 +11,7 @@ namespace {
 
 using web::answer;
 using web::headers;
+using web::post;
 
 /// An answer with so many elements of access points in it: "192.168.1.2 192.168.1.3".
 std::string addresses_in(const std::string &text) {
@@ -93,7 +94,7 @@ TEST(CgiAccessPoints, answers_short_when_nothing_matches) {
 TEST(CgiStations, asks_the_access_point_for_its_stations) {
     std::filesystem::create_directory("/var/stations");
     support::write_file("/var/stations/192.168.1.2", "02:00:00:00:00:09+120+-67\n");
-    EXPECT_EQ(answer("stations", "ap=192.168.1.2"),
+    EXPECT_EQ(post("stations", "ap=192.168.1.2"),
               std::string(headers) +
                   "{\"DevStalist\":\n"
                   R"({"sta":[{"mac":"02:00:00:00:00:09","time":"120","signal":"-67"},)"
@@ -106,24 +107,20 @@ TEST(CgiStations, asks_the_access_point_for_its_stations) {
 TEST(CgiStations, keeps_requests_at_the_same_moment_apart) {
     std::filesystem::create_directory("/var/stations");
     std::vector<std::unique_ptr<support::Process>> requests;
-    for (int n = 1; n <= 8; ++n) {
-        const std::string address = "10.0.0." + std::to_string(n);
-        support::write_file("/var/stations/" + address, address + "+1+-1\n");
-    }
-    const auto run = [](int n) {
-        const std::string number = std::to_string(n);
-        const std::string file = "/tmp/answer" + number;
-        setenv("QUERY_STRING", ("ap=10.0.0." + number).c_str(), 1);
-        dup2(open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600), STDOUT_FILENO);
-        return support::become({CGI_PROGRAMS "/stations"});
+    const auto ask = [](const std::string &number) {
+        return web::become_program("stations", web::own_page(), "/tmp/answer" + number, "ap=10.0.0." + number);
     };
-    for (int n = 1; n <= 8; ++n) {
-        requests.push_back(std::make_unique<support::Process>([&run, n] { return run(n); }));
+    for (const char *number : {"1", "2", "3", "4"}) {
+        const std::string address = std::string("10.0.0.") + number;
+        support::write_file("/var/stations/" + address, address + "+1+-1\n");
+        requests.push_back(std::make_unique<support::Process>([&ask, number] { return ask(number); }));
     }
-    for (int n = 1; n <= 8; ++n) {
-        const std::string number = std::to_string(n);
-        EXPECT_EQ(requests[static_cast<std::size_t>(n) - 1]->wait(), 0);
-        EXPECT_NE(support::file_content("/tmp/answer" + number).find("[{\"mac\":\"10.0.0." + number + "\""),
+    for (const auto &request : requests) {
+        EXPECT_EQ(request->wait(), 0);
+    }
+    for (const char *number : {"1", "2", "3", "4"}) {
+        EXPECT_NE(support::file_content(std::string("/tmp/answer") + number)
+                      .find(std::string("[{\"mac\":\"10.0.0.") + number + "\""),
                   std::string::npos);
     }
 }

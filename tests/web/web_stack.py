@@ -2,6 +2,7 @@
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -21,14 +22,21 @@ class Server:
         self._process = subprocess.Popen(
             [CHECKOUT / "scripts/private-root", "--share-net",
              "--seed", example / "network.sql", "--seed", CHECKOUT / "tests/web/awkward.sql",
-             "--catalog-seed", example / "catalogue.sql", example / "run", programs],
-            stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True, cwd=CHECKOUT)
+             "--catalog-seed", example / "catalogue.sql", CHECKOUT / "tests/web/commanded", example / "run", programs],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, cwd=CHECKOUT)
         self.address = self._process.stdout.readline().strip()
         if not self.address:
             raise RuntimeError(f"the server ended with status {self._process.wait()}")
 
+    def inside(self, command):
+        """Does something in the private root, as `commanded` says."""
+        self._process.stdin.write(command + "\n")
+        self._process.stdin.flush()
+        if self._process.stdout.readline() != "done\n":
+            raise RuntimeError(f"failed: {command}")
+
     def close(self):
-        self._process.terminate()
+        self._process.stdin.close()
         self._process.wait()
         self._process.stdout.close()
 
@@ -57,3 +65,18 @@ class Browser(webdriver.Chrome):
     def resize(self, width, height, phone=False):
         self.execute_cdp_cmd("Emulation.setDeviceMetricsOverride", {
             "width": width, "height": height, "deviceScaleFactor": 2 if phone else 1, "mobile": phone})
+
+    def prefer(self, **features):
+        """Media features: prefer(forced_colors="active"). Those that are not named are as they come."""
+        self.execute_cdp_cmd("Emulation.setEmulatedMedia", {"features": [
+            {"name": name.replace("_", "-"), "value": value} for name, value in features.items()]})
+
+    def read_axe(self):
+        """The source of axe-core, which Chromium has in its developer tools."""
+        self.get("devtools://devtools/bundled/third_party/lighthouse/lighthouse-dt-bundle.js")
+        tools = self.execute_script("return document.documentElement.textContent")
+        literal = re.search(r"`/\*! axe v(?:[^`\\]|\\.)*`", tools, re.DOTALL)
+        if not literal:
+            raise RuntimeError("the developer tools of this Chromium have no axe-core")
+        self.get("about:blank")
+        return self.execute_script("return " + literal[0])

@@ -8,6 +8,8 @@
 #include <routerdb.h>
 #include <string.h>
 
+#include "answer.h"
+#include "checks.h"
 #include "request.h"
 
 enum { PAGE, SIZE, FILTER, IP, MAC, COUNT };
@@ -22,11 +24,11 @@ static int mode_of(const char *filter) {
 
 int main(void) {
     Parameter parameters[COUNT] = {
-        [PAGE] = {"page", is_number, "a number from 1 to 9999", "1"},
-        [SIZE] = {"size", is_number, "a number from 1 to 9999", "17"},
-        [FILTER] = {"filter", is_filter, "all, online or offline", "all"},
-        [IP] = {"ip", is_address_part, "digits and dots, 15 at most", ""},
-        [MAC] = {"mac", is_mac_part, "hexadecimal digits and colons, 17 at most", ""},
+        [PAGE] = {"page", is_number, "a number from 1 to 9999", "1", 0},
+        [SIZE] = {"size", is_number, "a number from 1 to 9999", "17", 0},
+        [FILTER] = {"filter", is_filter, "all, online or offline", "all", 0},
+        [IP] = {"ip", is_address_part, "digits and dots, 15 at most", "", 0},
+        [MAC] = {"mac", is_mac_part, "hexadecimal digits and colons, 17 at most", "", 0},
     };
     read_request(parameters, COUNT);
     const char *ip = parameters[IP].value;
@@ -38,7 +40,8 @@ int main(void) {
         }
         mode = SEARCH;
     }
-    print_headers();
+    need_database(MAIN_DATABASE);
+    begin_answer("database", "busy");
     GetApDevList_cgi(number_in(parameters[PAGE].value), mode, 0, 0, ip, mac, number_in(parameters[SIZE].value));
-    return finish();
+    return end_answer();
 }

@@ -6,16 +6,19 @@
  * has no use for it. */
 #include <routerdb.h>
 
+#include "answer.h"
+#include "checks.h"
 #include "request.h"
 
 int main(void) {
-    Parameter parameters[] = {{"class", is_number, "a number from 1 to 9999", ""}};
+    Parameter parameters[] = {{"class", is_number, "a number from 1 to 9999", "", 0}};
     read_request(parameters, 1);
-    print_headers();
+    need_database(CATALOGUE);
+    begin_answer("database", "busy");
     if (*parameters[0].value == '\0') {
         GetAppClassItemList();
     } else {
         GetAppInfoItemListByClassid(parameters[0].value);
     }
-    return finish();
+    return end_answer();
 }

@@ -1,59 +1,13 @@
 #include "request.h"
 
-#include <arpa/inet.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
 
-#define DIGITS "0123456789"
+#include "answer.h"
+#include "guard.h"
 
-static int consists_of(const char *value, const char *characters) {
-    return *value != '\0' && value[strspn(value, characters)] == '\0';
-}
-
-int number_in(const char *value) {
-    return (int)strtol(value, NULL, 10);
-}
-
-int is_number(const char *value) {
-    return consists_of(value, DIGITS) && strlen(value) <= 4 && number_in(value) > 0;
-}
-
-int is_filter(const char *value) {
-    return strcmp(value, "all") == 0 || strcmp(value, "online") == 0 || strcmp(value, "offline") == 0;
-}
-
-int is_address_part(const char *value) {
-    return consists_of(value, DIGITS ".") && strlen(value) <= 15;
-}
-
-int is_mac_part(const char *value) {
-    return consists_of(value, DIGITS "abcdefABCDEF:") && strlen(value) <= 17;
-}
-
-int is_address(const char *value) {
-    struct in_addr address;
-    return is_address_part(value) && inet_pton(AF_INET, value, &address) == 1;
-}
-
-void print_headers(void) {
-    fputs("Content-Type: application/json; charset=utf-8\r\nCache-Control: no-store\r\n\r\n", stdout);
-}
-
-int finish(void) {
-    return fflush(stdout) == 0 && !ferror(stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
-}
-
-static _Noreturn void answer(const char *status, const char *subject, const char *text) {
-    printf("Status: %s\r\n", status);
-    print_headers();
-    printf("{\"error\":\"%s: %s\"}\n", subject, text);
-    exit(finish());
-}
-
-void refuse(const char *subject, const char *text) {
-    answer("400 Bad Request", subject, text);
-}
+enum { LONGEST_FORM = 8192 };
 
 static int digit_value(char digit) {
     static const char digits[] = "0123456789abcdef0123456789ABCDEF";
@@ -119,23 +73,50 @@ static void take(const char *text, const char *end, Parameter *parameters, size_
     }
     *given |= bit;
     if (!decode_all(equals + 1, end, parameter->value, sizeof(parameter->value)) ||
+        (parameter->longest != 0 && strlen(parameter->value) > parameter->longest) ||
         !parameter->accepts(parameter->value)) {
         refuse(parameter->name, parameter->expected);
     }
 }
 
-void read_request(Parameter *parameters, size_t count) {
-    const char *method = getenv("REQUEST_METHOD");
-    const char *text = getenv("QUERY_STRING");
+static void read_pairs(const char *text, Parameter *parameters, size_t count) {
     unsigned given = 0;
-    if (method != NULL && strcmp(method, "GET") != 0 && strcmp(method, "HEAD") != 0) {
-        answer("405 Method Not Allowed", "method", "only GET and HEAD are answered");
-    }
-    while (text != NULL && *text != '\0') {
+    while (*text != '\0') {
         const char *end = text + strcspn(text, "&");
         if (end > text) {
             take(text, end, parameters, count, &given);
         }
         text = end + strspn(end, "&");
     }
+}
+
+static int is_method(const char *name) {
+    const char *method = getenv("REQUEST_METHOD");
+    return strcmp(method == NULL ? "GET" : method, name) == 0;
+}
+
+int is_change(void) {
+    return is_method("POST");
+}
+
+void read_request(Parameter *parameters, size_t count) {
+    const char *text = getenv("QUERY_STRING");
+    if (!is_method("GET") && !is_method("HEAD")) {
+        fail("405 Method Not Allowed", "method", "only GET and HEAD are answered");
+    }
+    read_pairs(text == NULL ? "" : text, parameters, count);
+}
+
+void read_form(Parameter *parameters, size_t count) {
+    char form[LONGEST_FORM + 1];
+    if (!is_method("POST")) {
+        fail("405 Method Not Allowed", "method", "only POST is answered");
+    }
+    need_own_page();
+    const size_t length = fread(form, 1, sizeof(form), stdin);
+    if (length > LONGEST_FORM || memchr(form, '\0', length) != NULL) {
+        refuse("form", "longer than any, or no text");
+    }
+    form[length] = '\0';
+    read_pairs(form, parameters, count);
 }

@@ -1,36 +1,24 @@
-/* What a request asks for: its query string, decoded and checked before anything else is done with it. */
+/* What a request asks for: its query string or its form, decoded and checked before anything else is done with it. */
 #pragma once
 
 #include <stddef.h>
 
-/* A parameter that a program knows. It is filled with what the query gives. */
+/* A parameter that a program knows. It is filled with what the request gives. */
 typedef struct Parameter {
     const char *name;
-    int (*accepts)(const char *value);
-    const char *expected; /* what a value has to be, for people */
-    char value[32];       /* what it is without one */
+    int (*accepts)(const char *value); /* one of checks.h */
+    const char *expected;              /* what a value has to be, for people */
+    char value[1040];                  /* what it is without one; the longest text of a record fits */
+    size_t longest;                    /* bytes that its place in a record takes; 0 if `accepts` says it all */
 } Parameter;
 
-/* Checks, for `accepts`. */
-int is_number(const char *value);       /* 1 to 9999, digits only */
-int is_filter(const char *value);       /* "all", "online" or "offline" */
-int is_address_part(const char *value); /* digits and dots */
-int is_mac_part(const char *value);     /* hexadecimal digits and colons */
-int is_address(const char *value);      /* a whole dotted IPv4 address: safe in a shell command */
-
-/* What a value that is_number accepts says. */
-int number_in(const char *value);
+/* Whether something is to be done, not only told. */
+int is_change(void);
 
 /* Reads the query string into the parameters. A request that is not as it should be is answered here, with status 400
- * or 405 and a JSON object that says why, and the program ends. Standard input is never read. */
+ * or 405 and a JSON object that says why, and the program ends. Standard input is not read. */
 void read_request(Parameter *parameters, size_t count);
 
-/* Answers with status 400 and ends the program. Both texts are constants without quotes. */
-_Noreturn void refuse(const char *subject, const char *text);
-
-/* The header lines of a JSON answer. They go through the standard output stream, as the library's JSON does. */
-void print_headers(void);
-
-/* Sends what is still in the stream.
- * Returns the program's exit status. */
-int finish(void);
+/* The same with the form that the page sends. Others than the page are refused first; see guard.h. Standard input is
+ * read to its end, before the library is called, whose functions may close it. */
+void read_form(Parameter *parameters, size_t count);

@@ -1,11 +1,13 @@
 /* The zero-configuration groups, keys included: to be served only to whoever may know them. */
 #include <routerdb.h>
 
+#include "answer.h"
 #include "request.h"
 
 int main(void) {
     read_request(NULL, 0);
-    print_headers();
+    need_database(MAIN_DATABASE);
+    begin_answer("database", "busy");
     GetWlanZeroCfgGroupList();
-    return finish();
+    return end_answer();
 }

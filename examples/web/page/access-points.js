@@ -1,20 +1,12 @@
 // The list of access points: pages, filter, search.
-import { getList, latest } from "./api.js";
-import { bar, button, byId, element, hideNotice, showNotice } from "./dom.js";
+import { get, listIn } from "./api.js";
+import { bar, button, byId, cell, element, showNotice } from "./dom.js";
+import { part } from "./part.js";
 import { openStations } from "./stations.js";
 
 const pageSize = 17;
-const begin = latest();
 const state = { page: 1, pages: 1, filter: "all", search: "" };
 const totals = { all: 0, online: 0, stations: 0 };
-
-// Digits and dots are part of an address, hexadecimal digits and colons part of a MAC address.
-function searchParameters(text) {
-  if (/^[0-9.]{1,15}$/.test(text)) {
-    return { ip: text };
-  }
-  return /^[0-9a-f:]{1,17}$/i.test(text) ? { mac: text } : undefined;
-}
 
 function badge(online) {
   return element("span", { class: online ? "badge good" : "badge muted" }, online ? "Online" : "Offline");
@@ -23,10 +15,6 @@ function badge(online) {
 function network(ssid, channel) {
   return ssid && element("span", { class: "network" }, ssid, " ",
     element("span", { class: "hint" }, channel ? `channel ${channel}` : ""));
-}
-
-function cell(label, ...children) {
-  return element("td", { "data-label": label }, ...children);
 }
 
 function row(device, most) {
@@ -57,85 +45,98 @@ function showTotals(list) {
   byId("total-stations").textContent = totals.stations;
 }
 
-function matches(rows) {
-  if (state.search) {
-    return state.pages > 1 ? undefined : rows;
-  }
-  return { all: totals.all, online: totals.online, offline: totals.all - totals.online }[state.filter];
+// A text may be part of a name, of an address or of a MAC address. The library looks for addresses only, so the page
+// asks for all and looks for itself.
+function isFound(device) {
+  const text = state.search.toLowerCase();
+  return [device.m_dev_name, device.m_dev_modelname, device.m_dev_ip, device.m_dev_mac]
+    .some((value) => (value ?? "").toLowerCase().includes(text));
 }
 
-function showPager(rows) {
+// The rows of the page that is shown, and how many there are on all pages.
+function shownOf(list) {
+  if (state.search === "") {
+    state.pages = Math.max(1, Number(list.pagecount)); // what fits one page is counted as no page
+    const all = { all: totals.all, online: totals.online, offline: totals.all - totals.online }[state.filter];
+    return { rows: list.rows, all };
+  }
+  const found = list.rows.filter(isFound);
+  const first = (state.page - 1) * pageSize;
+  state.pages = Math.max(1, Math.ceil(found.length / pageSize));
+  return { rows: found.slice(first, first + pageSize), all: found.length };
+}
+
+function showPager(rows, all) {
   const first = (state.page - 1) * pageSize + 1;
-  const all = matches(rows);
-  byId("page-range").textContent =
-    rows === 0 ? "" : `${first}–${first + rows - 1}${all === undefined ? "" : ` of ${all}`}`;
+  const after = Math.max(0, all - first - rows + 1);
+  const more = after > 0 ? `, ${after} more on the next page` : "";
+  byId("page-range").textContent = rows === 0 ? "" : `${first}–${first + rows - 1} of ${all}${more}`;
   byId("page-number").textContent = `Page ${state.page} of ${state.pages}`;
-  byId("page-previous").disabled = state.page <= 1;
-  byId("page-next").disabled = state.page >= state.pages;
+  byId("page-next").textContent = after > 0 ? `Next ${Math.min(after, pageSize)}` : "Next";
+  byId("pager").hidden = rows === 0;
 }
 
-function show(list) {
-  const notice = byId("access-points-notice");
-  // What fits one page is counted as no page.
-  state.pages = Math.max(1, Number(list.pagecount));
+// Turning over while an answer is awaited would lead to a page that nobody has counted.
+function setBusy(busy) {
+  byId("access-points-view").setAttribute("aria-busy", String(busy));
+  byId("page-previous").disabled = busy || state.page <= 1;
+  byId("page-next").disabled = busy || state.page >= state.pages;
+}
+
+function emptyWords() {
+  if (state.search) {
+    const which = state.filter === "all" ? "" : ` that is ${state.filter}`;
+    return `No access point${which} matches “${state.search}”.`;
+  }
+  return state.filter === "all" ? "No access point is known yet." : `No access point is ${state.filter}.`;
+}
+
+function show(answer) {
+  const list = listIn(answer, "ApDevList");
   showTotals(list);
-  showPager(list.rows.length);
-  const most = Math.max(1, ...list.rows.map((device) => Number(device.m_stanum)));
-  byId("access-points-rows").replaceChildren(...list.rows.map((device) => row(device, most)));
-  byId("access-points-table").hidden = list.rows.length === 0;
-  if (list.rows.length === 0) {
-    showNotice(notice, state.search ? `No access point matches “${state.search}”.` : "There are none.");
-  } else {
-    hideNotice(notice);
+  const { rows, all } = shownOf(list);
+  if (rows.length === 0 && state.page > 1) {
+    goTo(1); // the list has become shorter
+    return;
+  }
+  const most = Math.max(1, ...rows.map((device) => Number(device.m_stanum)));
+  byId("access-points-rows").replaceChildren(...rows.map((device) => row(device, most)));
+  byId("access-points-table").hidden = rows.length === 0;
+  showPager(rows.length, all);
+  setBusy(false);
+  if (rows.length === 0) {
+    showNotice(byId("access-points-notice"), emptyWords());
+  } else if (list.unread > 0) {
+    showNotice(byId("access-points-notice"),
+      `Access points that cannot be shown: ${list.unread}. A name with quotation marks hides what belongs to it.`);
   }
 }
 
-export async function loadAccessPoints() {
-  const current = begin();
-  const search = state.search ? searchParameters(state.search) : { filter: state.filter };
-  try {
-    const list = await getList("access-points", { page: state.page, size: pageSize, ...search }, "ApDevList");
-    if (!current()) {
-      return;
-    }
-    if (list.rows.length === 0 && state.page > 1) {
-      goTo(1); // the list has become shorter
-      return;
-    }
-    show(list);
-  } catch (error) {
-    if (current()) {
-      byId("access-points-table").hidden = true;
-      byId("access-points-rows").replaceChildren();
-      state.pages = state.page;
-      showPager(0);
-      showNotice(byId("access-points-notice"), error.message, "bad", loadAccessPoints);
-    }
-  }
+function clear() {
+  byId("access-points-rows").replaceChildren();
+  byId("access-points-table").hidden = true;
+  showPager(0, 0);
 }
+
+export const loadAccessPoints = part({
+  notice: () => byId("access-points-notice"),
+  ask: () => get("access-points", state.search === ""
+    ? { page: state.page, size: pageSize, filter: state.filter }
+    : { size: 9999, filter: state.filter }),
+  show,
+  clear,
+  busy: setBusy,
+});
 
 function goTo(page) {
   state.page = page;
   loadAccessPoints();
 }
 
-function choose(filter) {
-  state.filter = filter;
-  state.search = "";
-  byId("search").value = "";
-  byId("search-hint").textContent = "";
-  goTo(1);
-}
-
 function search() {
   const text = byId("search").value.trim();
-  const allowed = text === "" || searchParameters(text) !== undefined;
-  byId("search-hint").textContent = allowed ? "" : "An address has digits and dots, a MAC address 0–9, A–F and colons.";
-  byId("search").setAttribute("aria-invalid", String(!allowed));
-  if (allowed && text !== state.search) {
+  if (text !== state.search) {
     state.search = text;
-    state.filter = "all";
-    byId("access-points-form").elements.filter.value = "all"; // a search is among all of them
     goTo(1);
   }
 }
@@ -152,7 +153,10 @@ export function startAccessPoints() {
     timer = setTimeout(search, 250);
   });
   for (const radio of form.elements.filter) {
-    radio.addEventListener("click", () => choose(radio.value)); // the chosen one too: it ends a search
+    radio.addEventListener("change", () => {
+      state.filter = radio.value;
+      goTo(1);
+    });
   }
   byId("page-previous").addEventListener("click", () => goTo(state.page - 1));
   byId("page-next").addEventListener("click", () => goTo(state.page + 1));

@@ -1,32 +1,94 @@
-// Asking the router. Every list comes as {"<name>":{"data":[{...},{...},{}],"count":"2"}}: the last element only closes
-// it, all its values empty. An empty list has no array at all.
+// Asking the router, within ten seconds, and the words for what may go wrong.
+import { recover } from "./recover.js";
+
+const deadline = 10000;
+
+// What the programs answer when they cannot do what they were asked for.
+const words = {
+  "database: away": "The router’s database is not there.",
+  "database: without its lock file": "The router’s database is not ready: its lock file is missing.",
+  "database: busy": "The database is busy: another program holds it.",
+  "database: unreadable": "The router’s database cannot be read.",
+  "access point: slow": "The access point does not answer.",
+  "requests: too many at once": "Others are asking at the moment.",
+};
+
+// An error for people. `refused` is what the program said of a value: "name: ..."; `unsure` after a request that may
+// have been carried out or not.
+class Failure extends Error {
+  constructor(message, { refused, unsure = false } = {}) {
+    super(message);
+    this.refused = refused;
+    this.unsure = unsure;
+  }
+}
+
+async function answerOf(path, options) {
+  try {
+    const response = await fetch(path, { ...options, signal: AbortSignal.timeout(deadline) });
+    return [response, await response.text()];
+  } catch (error) {
+    const late = error.name === "TimeoutError";
+    throw new Failure(late ? "The router has not answered within ten seconds." : "The router does not answer.",
+      { unsure: true });
+  }
+}
 
 function parse(text) {
   try {
     return JSON.parse(text);
   } catch {
-    // Values are sent as they are stored: a quotation mark in a name breaks the list that has it.
-    throw new Error("The router's answer cannot be read. A name with a quotation mark or a backslash may be the cause.");
+    const recovered = recover(text);
+    if (!recovered) {
+      throw new Failure("The router’s answer cannot be read.");
+    }
+    return recovered;
   }
 }
 
-// The list that a program of the router answers: its rows and what else it says.
-export async function getList(program, parameters, name, array = "data") {
-  let response;
-  let text;
+// The failure that an answer tells.
+function failureOf(response, text) {
+  let said;
   try {
-    response = await fetch(`cgi/${program}?${new URLSearchParams(parameters)}`);
-    text = await response.text();
+    said = JSON.parse(text).error;
   } catch {
-    throw new Error("The router does not answer.");
+    return new Failure("The router could not do this."); // not a program's answer
   }
-  if (response.status >= 500) {
-    throw new Error("The router could not do this.");
+  if (Object.hasOwn(words, said)) {
+    return new Failure(words[said]);
   }
-  const answer = parse(text);
+  return new Failure(response.status < 500 ? `The router refuses this: ${said}.` : "The router could not do this.",
+    { refused: said });
+}
+
+async function ask(path, options = {}) {
+  const [response, text] = await answerOf(path, options);
   if (!response.ok) {
-    throw new Error(`The router refuses this: ${answer.error}.`);
+    throw failureOf(response, text);
   }
+  return parse(text);
+}
+
+export const get = (program, parameters = {}) => ask(`cgi/${program}?${new URLSearchParams(parameters)}`);
+
+let token;
+
+// Asks for something that costs or changes something. Only a page of this server has the token to do so.
+export async function post(program, form) {
+  token ??= (await get("token")).token;
+  try {
+    return await ask(`cgi/${program}`,
+      { method: "POST", headers: { "X-Page-Token": token }, body: new URLSearchParams(form) });
+  } catch (error) {
+    token = undefined; // a server that was started again has another one
+    throw error;
+  }
+}
+
+// The rows of a list and what else it says. Every list of the library comes as
+// {"<name>":{"data":[{...},{...},{}],"count":"2"}}: the last element only closes it, all its values empty. An empty
+// list has no array at all.
+export function listIn(answer, name, array = "data") {
   const list = answer[name] ?? {};
   return { ...list, rows: (list[array] ?? []).slice(0, -1) };
 }

@@ -5,7 +5,11 @@ import { byId } from "./dom.js";
 import { loadGroups } from "./groups.js";
 import { startStations } from "./stations.js";
 
-const sections = { "access-points": loadAccessPoints, groups: loadGroups, applications: loadCatalogue };
+const sections = {
+  "access-points": loadAccessPoints,
+  groups: loadGroups,
+  applications: loadCatalogue,
+};
 
 function showSection() {
   const name = location.hash.slice(1);
@@ -19,9 +23,12 @@ function showSection() {
     link.toggleAttribute("aria-current", section === chosen);
     if (section === chosen) {
       link.setAttribute("aria-current", "page");
+      document.title = `${link.textContent} – Wi-Fi of the house`;
     }
   }
-  byId("stations").close();
+  for (const dialog of document.querySelectorAll("dialog")) {
+    dialog.close();
+  }
   sections[chosen]();
 }
 

@@ -1,8 +1,7 @@
 // The application catalogue: classes, and the applications of the chosen one. Names are Chinese, with an English one.
-import { getList, latest } from "./api.js";
-import { button, byId, element, hideNotice, showNotice } from "./dom.js";
-
-const begin = latest();
+import { get, listIn } from "./api.js";
+import { button, byId, element, showNotice } from "./dom.js";
+import { part } from "./part.js";
 
 function names(chinese, english) {
   return [
@@ -19,27 +18,28 @@ function application(item) {
     element("span", { class: "code hint" }, item.features));
 }
 
-async function choose(item, chosen) {
-  const current = begin();
-  const panel = byId("applications");
+// The applications of a class, below its title.
+const loadApplications = part({
+  notice: () => byId("class-notice"),
+  ask: (item) => get("catalogue", { class: item.id }),
+  show(answer) {
+    const { rows } = listIn(answer, "ItemList");
+    byId("class-applications").replaceChildren(...rows.map(application));
+    if (rows.length === 0) {
+      showNotice(byId("class-notice"), "No application of this class is known.");
+    }
+  },
+  clear: () => byId("class-applications").replaceChildren(),
+});
+
+function choose(item, chosen) {
   for (const other of byId("classes").querySelectorAll("button")) {
     other.setAttribute("aria-pressed", String(other === chosen));
   }
-  const title = element("h2", {}, ...names(item.name, item.name_en));
-  try {
-    const { rows } = await getList("catalogue", { class: item.id }, "ItemList");
-    if (current()) {
-      panel.replaceChildren(title, rows.length > 0
-        ? element("ul", { class: "grid" }, ...rows.map(application))
-        : element("p", { class: "notice" }, "No application of this class is known."));
-    }
-  } catch (error) {
-    if (current()) {
-      const notice = element("p", {});
-      showNotice(notice, error.message, "bad", () => choose(item, chosen));
-      panel.replaceChildren(title, notice);
-    }
-  }
+  byId("class-title").replaceChildren(...names(item.name, item.name_en));
+  byId("class-applications").replaceChildren();
+  byId("class").hidden = false;
+  loadApplications(item);
 }
 
 function entry(item) {
@@ -50,20 +50,22 @@ function entry(item) {
   return element("li", {}, open);
 }
 
-export async function loadCatalogue() {
-  const notice = byId("applications-notice");
-  byId("applications").replaceChildren();
-  try {
-    const { rows } = await getList("catalogue", {}, "ItemList");
-    byId("classes").replaceChildren(...rows.map(entry));
+function showClasses(rows) {
+  byId("classes").replaceChildren(...rows.map(entry));
+  byId("class").hidden = rows.length === 0;
+}
+
+export const loadCatalogue = part({
+  notice: () => byId("applications-notice"),
+  ask: () => get("catalogue"),
+  show(answer) {
+    const { rows } = listIn(answer, "ItemList");
+    showClasses(rows);
     if (rows.length > 0) {
-      hideNotice(notice);
       choose(rows[0], byId("classes").querySelector("button"));
     } else {
-      showNotice(notice, "The catalogue is empty.");
+      showNotice(byId("applications-notice"), "The catalogue is empty.");
     }
-  } catch (error) {
-    byId("classes").replaceChildren();
-    showNotice(notice, error.message, "bad", loadCatalogue);
-  }
-}
+  },
+  clear: () => showClasses([]),
+});

@@ -20,6 +20,26 @@ export function button(text, onClick, attributes = {}) {
   return made;
 }
 
+// Words for those who hear the page, behind those that everybody sees.
+export const unseen = (text) => element("span", { class: "unseen" }, text);
+
+// A cell of a list, with the title of its column for screens on which rows are cards.
+export function cell(label, ...children) {
+  return element("td", { "data-label": label }, ...children);
+}
+
+// Lets a dialog be closed with its buttons of class "close", and with a click beside it.
+export function closesByItself(dialog) {
+  for (const close of dialog.querySelectorAll("button.close")) {
+    close.addEventListener("click", () => dialog.close());
+  }
+  dialog.addEventListener("click", (event) => {
+    if (event.target === dialog) {
+      dialog.close(); // the backdrop
+    }
+  });
+}
+
 // A bar of a share from 0 to 1. It only repeats what a text beside it says.
 export function bar(share, kind = "") {
   const fill = element("span", { class: "fill" });
@@ -32,12 +52,12 @@ export function hideNotice(notice) {
   notice.replaceChildren();
 }
 
-// A line in place of a list: "" while waiting, "bad" for an error, with a button to try again.
-export function showNotice(notice, text, kind = "", retry = undefined) {
+// A line in place of a list: "" while waiting, "bad" for an error, with a button that leads on.
+export function showNotice(notice, text, kind = "", retry = undefined, way = "Try again") {
   notice.className = `notice ${kind}`.trim();
   notice.replaceChildren(text);
   if (retry) {
-    notice.append(" ", button("Try again", retry));
+    notice.append(" ", button(way, retry));
   }
   notice.hidden = false;
 }

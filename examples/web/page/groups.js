@@ -1,6 +1,7 @@
 // The zero-configuration groups as cards. A key is in the page only while it is shown.
-import { getList } from "./api.js";
-import { button, byId, element, hideNotice, showNotice } from "./dom.js";
+import { get, listIn } from "./api.js";
+import { button, byId, element, showNotice, unseen } from "./dom.js";
+import { part } from "./part.js";
 
 const dots = "••••••••";
 
@@ -13,14 +14,16 @@ function protection(group, wlan) {
   return Number(group[`${wlan}_AuthMode`]) === 1 ? ["Pre-shared key", group[`${wlan}_Psk_Value`]] : ["Open", ""];
 }
 
-function keyOf(key, ssid) {
+// `whose` is part of the button's label, so that each says what it shows.
+function keyOf(key, whose) {
   const text = element("span", { class: "code" }, dots);
-  const toggle = button("Show", () => {
-    const shown = toggle.getAttribute("aria-pressed") !== "true";
+  const word = element("span", {}, "Show");
+  const toggle = button("", () => {
+    const shown = word.textContent === "Show";
     text.textContent = shown ? key : dots;
-    toggle.textContent = shown ? "Hide" : "Show";
-    toggle.setAttribute("aria-pressed", String(shown));
-  }, { class: "small", "aria-pressed": "false", "aria-label": `Key of ${ssid}` });
+    word.textContent = shown ? "Hide" : "Show";
+  }, { class: "small" });
+  toggle.append(word, unseen(` key of ${whose}`));
   return element("span", { class: "key" }, text, toggle);
 }
 
@@ -36,7 +39,7 @@ function radio(title, group, wlan, channel, power) {
     element("h3", {}, title),
     element("p", { class: "ssid" }, ssid || "no name", " ", badge),
     element("dl", { class: "facts" },
-      key ? fact("Key", keyOf(key, ssid)) : undefined,
+      key ? fact("Key", keyOf(key, `${ssid}, ${title.toLowerCase()} of ${group.WlanGroup_Name}`)) : undefined,
       fact("Channel", Number(channel) === 0 ? "automatic" : channel),
       fact("Power", `${power || "–"} %`)));
 }
@@ -57,18 +60,15 @@ function card(group) {
     element("p", { class: "hint" }, restart(group)));
 }
 
-export async function loadGroups() {
-  const notice = byId("groups-notice");
-  try {
-    const { rows } = await getList("zero-config-groups", {}, "WlanGroupList");
+export const loadGroups = part({
+  notice: () => byId("groups-notice"),
+  ask: () => get("zero-config-groups"),
+  show(answer) {
+    const { rows } = listIn(answer, "WlanGroupList");
     byId("groups-cards").replaceChildren(...rows.map(card));
-    if (rows.length > 0) {
-      hideNotice(notice);
-    } else {
-      showNotice(notice, "There is no zero-configuration group.");
+    if (rows.length === 0) {
+      showNotice(byId("groups-notice"), "There is no zero-configuration group.");
     }
-  } catch (error) {
-    byId("groups-cards").replaceChildren();
-    showNotice(notice, error.message, "bad", loadGroups);
-  }
-}
+  },
+  clear: () => byId("groups-cards").replaceChildren(),
+});

@@ -1,8 +1,7 @@
 // One access point and the stations in its networks.
-import { getList, latest } from "./api.js";
-import { bar, byId, element, hideNotice, showNotice } from "./dom.js";
-
-const begin = latest();
+import { listIn, post } from "./api.js";
+import { bar, byId, closesByItself, element, showNotice } from "./dom.js";
+import { part } from "./part.js";
 
 // Signals in dBm: from -90, hardly there, to -40, next to the access point.
 const strength = (signal) => (signal + 90) / 50;
@@ -54,47 +53,29 @@ function show(rows) {
   byId("stations-table").hidden = rows.length === 0;
 }
 
-async function load(device) {
-  const current = begin();
-  const notice = byId("stations-notice");
-  show([]);
-  if (device.m_dev_status !== "1") {
-    showNotice(notice, "This access point is offline.");
-    return;
-  }
-  showNotice(notice, "Asking the access point …");
-  try {
-    const list = await getList("stations", { ap: device.m_dev_ip }, "DevStalist", "sta");
-    if (!current()) {
-      return;
+const load = part({
+  notice: () => byId("stations-notice"),
+  waiting: "Asking the access point …",
+  ask: (device) => (device.m_dev_status === "1" ? post("stations", { ap: device.m_dev_ip }) : undefined),
+  show(answer) {
+    const { rows } = listIn(answer ?? {}, "DevStalist", "sta");
+    rows.sort((a, b) => Number(b.signal) - Number(a.signal));
+    show(rows);
+    if (rows.length === 0) {
+      showNotice(byId("stations-notice"), answer ? "No station is connected." : "This access point is offline.");
     }
-    list.rows.sort((a, b) => Number(b.signal) - Number(a.signal));
-    show(list.rows);
-    if (list.rows.length > 0) {
-      hideNotice(notice);
-    } else {
-      showNotice(notice, "No station is connected.");
-    }
-  } catch (error) {
-    if (current()) {
-      showNotice(notice, error.message, "bad", () => load(device));
-    }
-  }
-}
+  },
+  clear: () => show([]),
+});
 
 export function openStations(device) {
   byId("stations-title").textContent = device.m_dev_name || device.m_dev_mac;
   byId("stations-facts").replaceChildren(...facts(device));
+  show([]);
   byId("stations").showModal();
   load(device);
 }
 
 export function startStations() {
-  const dialog = byId("stations");
-  byId("stations-close").addEventListener("click", () => dialog.close());
-  dialog.addEventListener("click", (event) => {
-    if (event.target === dialog) {
-      dialog.close(); // the backdrop
-    }
-  });
+  closesByItself(byId("stations"));
 }
