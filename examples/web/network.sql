@@ -1,5 +1,5 @@
--- A small hotel: 20 access points, some of them offline, and three zero-configuration groups. stations.txt has the
--- stations that are counted here.
+-- A small hotel: 20 access points, some of them offline, three zero-configuration groups, and rules for what the house
+-- keeps from its guests. stations.txt has the stations that are counted here.
 
 create temporary table place(n, name, radios, status, stations, stations_sec, channel, channel_sec, since);
 insert into place values
@@ -53,3 +53,14 @@ insert into WlanZeroCfgGroupInfo(WlanGroup_Id, WlanGroup_Name,
     (3, 'Old devices 旧设备',
         'Devices', '1', '0', '1', '0badcafe00', '', '11', '50',
         'Demo room', '0', '0', '0', '', '', '149', '30', '0', '3');
+
+insert into user_timegroup(id, name, weekday1, weekday2, weekday3, weekday4, weekday5, weekday6, weekday7,
+    start_time, end_time, mark) values
+    (1, 'Working hours 上班时间', 1, 1, 1, 1, 1, 0, 0, '08:00', '18:00', 'Rooms of the staff'),
+    (2, 'Quiet nights 安静夜晚', 1, 1, 1, 1, 1, 1, 1, '22:00', '23:59', '');
+
+insert into filter_url(Id, name, url, timecontrol, timegroup_id, weekday1, weekday2, weekday3, weekday4, weekday5,
+    weekday6, weekday7, start_time, end_time, status, mark) values
+    (1, 'No videos 视频', 'video.example', 2, 1, 0, 0, 0, 0, 0, 0, 0, '', '', 1, ''),
+    (2, 'No games 游戏', 'games.example', 2, 2, 0, 0, 0, 0, 0, 0, 0, '', '', 1, 'The children may play by day'),
+    (3, 'Quiet lobby 大堂', 'radio.example', 1, 0, 0, 0, 0, 0, 0, 1, 1, '09:00', '12:00', 0, '');

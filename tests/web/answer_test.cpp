@@ -21,7 +21,7 @@ std::string unavailable(const char *error) {
 TEST(CgiAnswer, says_that_a_database_is_away_and_makes_none) {
     std::filesystem::remove(support::main_database);
     std::filesystem::remove(support::catalogue_database);
-    for (const char *program : {"access-points", "zero-config-groups", "catalogue"}) {
+    for (const char *program : {"access-points", "zero-config-groups", "catalogue", "url-filters"}) {
         EXPECT_EQ(answer(program, ""), unavailable("database: away")) << program;
     }
     EXPECT_FALSE(support::file_exists(support::main_database));

@@ -13,7 +13,7 @@ import unittest
 
 from page import stage
 
-MODULES = ["page_access_points", "page_accessibility", "page_sections", "page_states", "requests_test"]
+MODULES = ["page_access_points", "page_accessibility", "page_rules", "page_sections", "page_states", "requests_test"]
 
 arguments = argparse.ArgumentParser()
 arguments.add_argument("programs", type=pathlib.Path)

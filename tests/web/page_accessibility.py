@@ -58,6 +58,23 @@ class Views(PageTest):
         self.open("applications")
         self.eventually(4, lambda: len(self.texts("#class-applications li")))
 
+    def url_filters(self):
+        self.open("url-filters")
+        self.eventually(3, lambda: len(self.texts("#filters-rows tr")))
+
+    def form(self):
+        self.url_filters()
+        self.press("Add a filter")
+
+    def refused_form(self):
+        self.form()
+        self.press("Store", "#rule")
+        self.eventually("true", lambda: self.find("#rule-form [name=name]").get_attribute("aria-invalid"))
+
+    def removal(self):
+        self.url_filters()
+        self.press("Remove", "#filters-rows")
+
     def failure(self):
         self.open("access-points")
         come_back = self.taken_away("$database")
@@ -67,7 +84,7 @@ class Views(PageTest):
 
     def views(self):
         return (self.access_points, self.nothing_found, self.stations, self.groups, self.applications,
-                self.failure)
+                self.url_filters, self.form, self.refused_form, self.removal, self.failure)
 
     def each(self):
         """Every view, on a desktop and on a phone."""

@@ -5,7 +5,8 @@ from page import PageTest
 
 class Sections(PageTest):
     def test_name_themselves_in_the_title(self):
-        for section, title in (("groups", "Groups"), ("applications", "Applications"), ("access-points", "Access points")):
+        for section, title in (("groups", "Groups"), ("applications", "Applications"), ("url-filters", "Filters"),
+                               ("access-points", "Access points")):
             self.find(f"nav a[href='#{section}']").click()
             self.eventually(f"{title} – Wi-Fi of the house", lambda: self.browser.title)
             self.assertEqual(self.texts("[aria-current]"), [title])

@@ -9,7 +9,8 @@ class Waiting(PageTest):
     def test_says_that_it_loads_then_that_the_database_is_busy(self):
         let_go = self.held()
         for section, words in (("access-points", "The database is busy: another program holds it."),
-                               ("groups", "The database is busy: another program holds it.")):
+                               ("groups", "The database is busy: another program holds it."),
+                               ("url-filters", "The service that keeps these rules is busy.")):
             self.open(section)
             self.eventually([f"{words} Try again"], lambda: self.texts("main .notice"))
             self.assertIn("Loading …", self.said(), section)
@@ -17,7 +18,7 @@ class Waiting(PageTest):
             self.assertEqual(self.texts("main .pager"), [], section)
         let_go()
         self.press("Try again")
-        self.eventually(["Guests 客人", "Staff 员工", "Old devices 旧设备"], lambda: self.texts(".card h2"))
+        self.eventually(["Working hours 上班时间", "Quiet nights 安静夜晚"], lambda: self.texts("#groups-rows .name"))
 
     def test_turns_no_page_while_it_waits(self):
         self.eventually("Page 1 of 2", lambda: self.text("#page-number"))
@@ -58,7 +59,7 @@ class Away(PageTest):
 
     def test_database(self):
         come_back = self.taken_away("$database")
-        for section in ("groups", "access-points"):
+        for section in ("groups", "url-filters", "access-points"):
             self.open(section)
             self.eventually(["The router’s database is not there. Try again"], lambda: self.texts("main .notice"))
             self.assertNotIn("quotation", " ".join(self.said()), section)
@@ -94,6 +95,9 @@ class Away(PageTest):
         self.press("Try again")
         self.eventually(5, lambda: len(self.texts("#class-applications li")))
 
+    def test_service(self):
+        self.check("$socket", "url-filters", "The service that keeps these rules is not running.", "#rules button")
+
     def test_tables(self):
         self.sql("drop table DevInfo;")
         self.open("access-points")
@@ -102,12 +106,14 @@ class Away(PageTest):
 
 class Empty(PageTest):
     def test_sections_say_so(self):
-        self.sql("delete from DevInfo; delete from WlanZeroCfgGroupInfo;")
+        self.sql("delete from DevInfo; delete from WlanZeroCfgGroupInfo; delete from filter_url; "
+                 "delete from user_timegroup;")
         self.addCleanup(self.server.inside, 'sqlite3 "$catalogue" ".restore /tmp/catalogue.db"')
         self.server.inside('sqlite3 "$catalogue" "delete from App_Class;"')
         for section, words in (("access-points", ["No access point is known yet."]),
                                ("groups", ["There is no zero-configuration group."]),
-                               ("applications", ["The catalogue is empty."])):
+                               ("applications", ["The catalogue is empty."]),
+                               ("url-filters", ["There is no filter yet.", "There is no time group yet."])):
             self.open(section)
-            self.eventually(words, lambda: self.texts("main .notice"))
+            self.eventually(words, lambda: self.texts("main .notice, #filters-none, #groups-none"))
             self.assertEqual(self.texts("main table"), [], section)

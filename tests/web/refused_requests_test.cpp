@@ -79,6 +79,7 @@ TEST(CgiRefuses, what_is_unknown_missing_or_given_twice) {
         {"access-points", "mac=1&filter=offline", "filter: a search is among all access points"},
         {"catalogue", "id=1", "query: unknown parameter"},
         {"zero-config-groups", "page=1", "query: unknown parameter"},
+        {"url-filters", "page=1", "query: unknown parameter"},
         {"token", "page=1", "query: unknown parameter"},
     };
     for (const Refused &refused : cases) {
@@ -103,6 +104,8 @@ TEST(CgiRefuses, other_methods) {
         EXPECT_EQ(answer(program, "", "POST"),
                   failure("405 Method Not Allowed", "method: only GET and HEAD are answered"));
     }
+    EXPECT_EQ(answer("url-filters", "", "PUT"),
+              failure("405 Method Not Allowed", "method: only GET and HEAD are answered"));
     EXPECT_EQ(answer("stations", "ap=1.2.3.4"), failure("405 Method Not Allowed", "method: only POST is answered"));
 }
 
@@ -111,10 +114,12 @@ TEST(CgiRefuses, forms_of_other_pages) {
     for (const char *origin : {"", "null", "http://elsewhere.example", "http://192.168.1.1", "http://192.168.1.1:80",
                                "http://192.168.1.1:8080.elsewhere.example", "192.168.1.1:8080",
                                "ftp://192.168.1.1:8080", "http://192.168.1.1:8080/"}) {
-        web::Variables variables = web::own_page();
-        variables["HTTP_ORIGIN"] = origin;
-        EXPECT_EQ(web::call("stations", variables, "ap=1.2.3.4"), failure("403 Forbidden", "origin: another page"))
-            << origin;
+        for (const char *program : {"stations", "url-filters", "time-groups"}) {
+            web::Variables variables = web::own_page();
+            variables["HTTP_ORIGIN"] = origin;
+            EXPECT_EQ(web::call(program, variables, "ap=1.2.3.4"), failure("403 Forbidden", "origin: another page"))
+                << program << " from " << origin;
+        }
     }
     web::Variables without_host = web::own_page();
     without_host["HTTP_HOST"] = "";

@@ -55,7 +55,8 @@ class Requests(unittest.TestCase):
                          (400, {"error": "ap: the address of an access point, such as 192.168.1.2"}))
 
     def test_only_the_page_changes_or_costs_something(self):
-        for program, form in (("stations", b"ap=192.168.1.11"),):
+        for program, form in (("stations", b"ap=192.168.1.11"), ("url-filters", b"action=remove&id=1"),
+                              ("time-groups", b"action=remove&id=1")):
             for headers, error in (({"Origin": "http://elsewhere.example"}, "origin: another page"),
                                    ({"Origin": "null"}, "origin: another page"),
                                    ({"X_Page_Token": "0" * 32}, "token: not that of this server")):

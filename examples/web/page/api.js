@@ -9,8 +9,17 @@ const words = {
   "database: without its lock file": "The router’s database is not ready: its lock file is missing.",
   "database: busy": "The database is busy: another program holds it.",
   "database: unreadable": "The router’s database cannot be read.",
+  "service: away": "The service that keeps these rules is not running.",
+  "service: slow": "The service that keeps these rules is busy.",
+  "service: failed": "The service that keeps these rules could not do this.",
   "access point: slow": "The access point does not answer.",
   "requests: too many at once": "Others are asking at the moment.",
+  "row: changed meanwhile": "It was changed elsewhere since this page showed it. Nothing was stored.",
+  "row: gone": "It was removed elsewhere since this page showed it. Nothing was stored.",
+  "row: not stored as sent": "The router did not store this as it was sent.",
+  "rows: no more fit": "There are 128 of them, and no more fit.",
+  "group: gone": "That time group was removed elsewhere. Nothing was stored.",
+  "group: in use": "Rules still follow this time group. Nothing was removed.",
 };
 
 // An error for people. `refused` is what the program said of a value: "name: ..."; `unsure` after a request that may
@@ -55,7 +64,7 @@ function failureOf(response, text) {
     return new Failure("The router could not do this."); // not a program's answer
   }
   if (Object.hasOwn(words, said)) {
-    return new Failure(words[said]);
+    return new Failure(words[said], { unsure: said === "service: slow" });
   }
   return new Failure(response.status < 500 ? `The router refuses this: ${said}.` : "The router could not do this.",
     { refused: said });

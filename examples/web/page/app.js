@@ -1,14 +1,16 @@
-// The page: three sections, one of them shown. The address says which.
+// The page: four sections, one of them shown. The address says which.
 import { loadAccessPoints, startAccessPoints } from "./access-points.js";
 import { loadCatalogue } from "./catalogue.js";
 import { byId } from "./dom.js";
 import { loadGroups } from "./groups.js";
+import { loadRules, startRules } from "./rules.js";
 import { startStations } from "./stations.js";
 
 const sections = {
   "access-points": loadAccessPoints,
   groups: loadGroups,
   applications: loadCatalogue,
+  "url-filters": loadRules,
 };
 
 function showSection() {
@@ -33,6 +35,7 @@ function showSection() {
 }
 
 startAccessPoints();
+startRules();
 startStations();
 window.addEventListener("hashchange", showSection);
 showSection();
