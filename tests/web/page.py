@@ -24,13 +24,14 @@ class Stage:
     """Opened once for all tests."""
 
     def open(self, programs, screenshots):
+        self.programs = programs
         self.screenshots = screenshots
         installed = programs.parents[1] / "installed"
         version = subprocess.run([installed / "sbin/routerdb-sqld", "--version"], text=True, check=True,
                                  capture_output=True, env={"LD_LIBRARY_PATH": str(installed / "lib")})
         self.profile = version.stdout.split("\n")[1].split()[1]  # exact or modern
         self.server = Server(programs)
-        self.server.inside('cp "$database" /tmp/seeded.db; cp "$catalogue" /tmp/catalogue.db')
+        self.server.inside("keep_copies")
         self.browser = Browser()
         self.axe = self.browser.read_axe()
         self.browser.execute_cdp_cmd("Page.addScriptToEvaluateOnNewDocument", {"source": RECORD_NOTICES})
@@ -101,10 +102,10 @@ class PageTest(unittest.TestCase):
         """What notices have said since the page was opened."""
         return self.browser.execute_script("return window.said")
 
-    def sql(self, statements):
-        """Changes the main database, beside the library, until the end of the test."""
-        self.addCleanup(self.server.inside, 'sqlite3 "$database" ".restore /tmp/seeded.db"')
-        self.server.inside(f'sqlite3 "$database" "{statements}"')
+    def sql(self, statements, database="$database"):
+        """Changes a database, beside the library, until the end of the test."""
+        self.addCleanup(self.server.inside, "restore_copies")
+        self.server.inside(f'change "{database}" "{statements}"')
 
     def taken_away(self, what):
         """Takes a file of the private root away until the function that it returns is called."""

@@ -12,7 +12,7 @@ class Rules(PageTest):
 
     def setUp(self):
         super().setUp()
-        self.addCleanup(self.server.inside, 'sqlite3 "$database" ".restore /tmp/seeded.db"')
+        self.addCleanup(self.server.inside, "restore_copies")
         self.eventually(["No videos 视频", "No games 游戏", "Quiet lobby 大堂"], self.filters)
 
     def filters(self):

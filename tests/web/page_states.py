@@ -108,8 +108,7 @@ class Empty(PageTest):
     def test_sections_say_so(self):
         self.sql("delete from DevInfo; delete from WlanZeroCfgGroupInfo; delete from filter_url; "
                  "delete from user_timegroup;")
-        self.addCleanup(self.server.inside, 'sqlite3 "$catalogue" ".restore /tmp/catalogue.db"')
-        self.server.inside('sqlite3 "$catalogue" "delete from App_Class;"')
+        self.sql("delete from App_Class;", "$catalogue")
         for section, words in (("access-points", ["No access point is known yet."]),
                                ("groups", ["There is no zero-configuration group."]),
                                ("applications", ["The catalogue is empty."]),
