@@ -907,10 +907,10 @@ ROUTERDB_API int GetDomainIpItemListInServer(DomainIpItemList *list, const char 
 /// @defgroup client_operations Rule tables: client operations
 ///
 /// Each sends one statement to the SQL service with sqlclient_cmd(), or several where it asks for a clash first. The
-/// messages of sqlclient_cmd() are the only report: when the service cannot be reached a list comes back empty, a record
-/// cleared, and nothing is changed; after a time-out a change may still happen. In modern errno tells all that from an
-/// empty table. What the service made of a statement neither tells. Members beyond the table's own columns are not read.
-/// Thread-safe.
+/// messages of sqlclient_cmd() are the only report: when the service cannot be reached a list comes back empty, a
+/// record cleared, and nothing is changed; after a time-out a change may still happen. In modern errno tells all that
+/// from an empty table. What the service made of a statement neither tells. Members beyond the table's own columns are
+/// not read. Thread-safe.
 ///
 /// After a power loss a change is there as after DbSqlExec(), with which routerdb-sqld makes it before it replies.
 ///

@@ -19,8 +19,8 @@ bool take_off(std::string_view &text, std::string_view start) {
     return has_it;
 }
 
-/// Whether a column is that of a member: of the access point, of one of its networks ("Dev_Wlan3_Ssid"), or of one of its
-/// radios ("Dev_Wlan_Channel_sec").
+/// Whether a column is that of a member: of the access point, of one of its networks ("Dev_Wlan3_Ssid"), or of one of
+/// its radios ("Dev_Wlan_Channel_sec").
 bool is_column_of(const members::Member &member, const char *column) {
     std::string_view rest = column;
     if (member.kind == members::Kind::device) {
