@@ -7,6 +7,7 @@
 // The header is C's, and C++ has another word for that. NOLINTNEXTLINE(bugprone-reserved-identifier)
 #define _Noreturn [[noreturn]]
 extern "C" {
+#include "web/cgi/checks.h"
 #include "web/cgi/request.h"
 }
 
@@ -64,11 +65,11 @@ void fuzz::run(Input input) {
     const std::string text = input.take_rest();
     setenv("QUERY_STRING", text.substr(0, text.find('\0')).c_str(), 1);
     Parameter parameters[] = {
-        {"page", is_number, "1 to 9999", "1"},
-        {"filter", is_filter, "all, online or offline", "all"},
-        {"part", is_address_part, "part of an address", ""},
-        {"mac", is_mac_part, "part of a MAC address", ""},
-        {"ip", is_address, "an address", "10.0.0.1"},
+        {"page", is_number, "1 to 9999", "1", 0},
+        {"filter", is_filter, "all, online or offline", "all", 0},
+        {"part", is_address_part, "part of an address", "", 0},
+        {"mac", is_mac_part, "part of a MAC address", "", 0},
+        {"ip", is_address, "an address", "10.0.0.1", 0},
     };
     if (read(parameters, sizeof(parameters) / sizeof(*parameters))) {
         expect_refusal();
