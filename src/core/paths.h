@@ -12,6 +12,7 @@ inline constexpr char lock_file[] = "/var/databaselock";
 inline constexpr char backup_directory[] = "/var/tmpconfig/database";
 inline constexpr char backup_database[] = "/var/tmpconfig/database/myrouter.db";
 inline constexpr char factory_database[] = "/rom/etc/config/systemconf/database/myrouter.db";
+inline constexpr char factory_catalogue[] = "/rom/etc/config/systemconf/database/dpilib.db";
 inline constexpr char send_event[] = "/bin/send_event";
 inline constexpr char station_trace[] = "/tmp/sta_log";
 inline constexpr char station_list_start[] = "/var/stalist_";  // and a number

@@ -52,6 +52,8 @@ Status reset(Invocation &invocation);
 Status execute_sql(Invocation &invocation);
 Status query_sql(Invocation &invocation);
 Status count_sql(Invocation &invocation);
+// In upgrade.cpp
+Status upgrade_databases(Invocation &invocation);
 // In lock.cpp and doctor.cpp
 Status show_lock(Invocation &invocation);
 Status examine(Invocation &invocation);

@@ -40,6 +40,16 @@ int Database::open_to_look(const char *path, int milliseconds) {
     return code;
 }
 
+Status Database::open_to_write(const char *uri, unsigned seconds) {
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_URI;
+    if (sqlite3_open_v2(uri, &db_, flags, nullptr) != SQLITE_OK) {
+        return fail_with(db_, uri);
+    }
+    sqlite3_busy_timeout(db_, static_cast<int>(seconds) * 1000);
+    sqlite3_db_config(db_, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    return Status::done;
+}
+
 Status Database::open_in_memory() {
     return sqlite3_open(":memory:", &db_) == SQLITE_OK ? Status::done : fail_with(db_, "memory");
 }

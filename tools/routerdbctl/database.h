@@ -10,7 +10,7 @@
 
 namespace ctl {
 
-/// A connection that changes nothing.
+/// A connection, which changes nothing unless it was opened to write.
 class Database {
 public:
     Database() = default;
@@ -27,6 +27,9 @@ public:
     /// @param milliseconds  how long to wait for whoever has it locked
     /// @return the result code of SQLite, with what it adds to it
     int open_to_look(const char *path, int milliseconds);
+
+    /// Opens a file, or what an URI names, to write to it and to what is put beside it. No trigger runs.
+    Status open_to_write(const char *uri, unsigned seconds);
 
     /// Opens what is in memory only: values that are put into it.
     Status open_in_memory();

@@ -76,6 +76,18 @@ Status copy_over(const Invocation &invocation, const char *name, int (*call)(voi
     return status != Status::done ? status : check_copy(invocation, name);
 }
 
+/// Whether the backup lacks a column of the database, or has it in another place. The library does not restore that in
+/// the modern profile.
+bool is_of_another_schema(const Invocation &invocation) {
+    Session session(invocation);
+    return session.status() == Status::done && put_beside(session.database(), "backup") == Status::done &&
+           number_of(session.database(),
+                     "SELECT count(*) FROM main.sqlite_master AS live, pragma_table_info(live.name, 'main') AS wanted "
+                     "WHERE live.type = 'table' AND live.name NOT LIKE 'sqlite%' AND NOT EXISTS (SELECT 1 FROM "
+                     "pragma_table_info(live.name, 'other') AS found WHERE found.cid = wanted.cid AND found.name = "
+                     "wanted.name COLLATE NOCASE)") != 0;
+}
+
 /// Lets nothing but reading through.
 int permit_reading(void *, int action, const char *, const char *, const char *, const char *) {
     const bool reads =
@@ -97,7 +109,12 @@ Status back_up(Invocation &invocation) {
 }
 
 Status restore(Invocation &invocation) {
-    return copy_over(invocation, "backup", [](void *) { return restore_sqlite_db(); });
+    const Status status = copy_over(invocation, "backup", [](void *) { return restore_sqlite_db(); });
+    if (status == Status::unreachable && is_of_another_schema(invocation)) {
+        warn("the backup is of another schema; \"routerdbctl db upgrade --from %s\" can bring its rows over",
+             paths::backup_database);
+    }
+    return status;
 }
 
 Status reset(Invocation &invocation) {
