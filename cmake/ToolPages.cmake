@@ -5,7 +5,7 @@ set(commands tools/routerdbctl/commands.cpp)
 set(command_line tools/routerdbctl/command_line.cpp)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS src/core/paths.h ${commands} ${command_line})
 
-foreach(name backup_database catalogue_database factory_database lock_file main_database service_lock service_socket)
+foreach(name backup_database catalogue_database factory_catalogue factory_database lock_file main_database service_lock service_socket)
     file(STRINGS src/core/paths.h line REGEX " ${name}\\[\\] = ")
     string(REGEX REPLACE ".*\"(.*)\".*" "\\1" ${name} "${line}")
 endforeach()

@@ -75,6 +75,10 @@ void Disk::resize(const std::string &path, std::size_t size) {
     note({Kind::size, "", names_.at(path), size});
 }
 
+void Disk::link(const std::string &from, const std::string &to) {
+    note({Kind::name, to, names_.at(from)});
+}
+
 void Disk::rename(const std::string &from, const std::string &to) {
     note({Kind::name, to, names_.at(from)});
     note({Kind::name, from, none});

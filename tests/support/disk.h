@@ -28,6 +28,7 @@ public:
     void create(const std::string &path);
     void write(const std::string &path, std::size_t offset, const std::string &bytes);
     void resize(const std::string &path, std::size_t size);
+    void link(const std::string &from, const std::string &to);
     void rename(const std::string &from, const std::string &to);
     void remove(const std::string &path);
     void sync_file(const std::string &path);

@@ -20,7 +20,7 @@ constexpr char start_file[] = "/tmp/disk-trace-start";
 // With a question mark in front a call need not exist on every processor.
 constexpr char traced_calls[] =
     "?open,?creat,openat,write,pwrite64,ftruncate,?ftruncate64,lseek,?unlink,unlinkat,?rename,?renameat,renameat2,"
-    "fsync,fdatasync,syncfs,sync,copy_file_range";
+    "?link,linkat,fsync,fdatasync,syncfs,sync,copy_file_range";
 
 /// One call, as "4<...>" and "\"...\"" say it; texts are in hexadecimal, so that only their ends look like ends.
 struct TracedCall {
@@ -98,7 +98,7 @@ public:
             if (counts(path_of(call.arguments[0]))) {
                 disk_.resize(path_of(call.arguments[0]), number_of(call.arguments[1]));
             }
-        } else if (starts_with(name, "unlink") || starts_with(name, "rename")) {
+        } else if (starts_with(name, "unlink") || starts_with(name, "rename") || starts_with(name, "link")) {
             change_name(call);
         } else {
             sync(call);
@@ -167,7 +167,9 @@ private:
         if (!counts(paths.front())) {
             return;
         }
-        if (paths.size() == 2) {
+        if (starts_with(call.name, "link")) {
+            disk_.link(paths[0], paths[1]);
+        } else if (paths.size() == 2) {
             disk_.rename(paths[0], paths[1]);
         } else {
             disk_.remove(paths[0]);

@@ -44,7 +44,7 @@ extern const Command commands[] = {
      0, 0, 0, restore},
     {"db", "reset", "", "puts the factory's database in its place, after showing what changes",
      0, 0, 0, reset},
-    {"db", "upgrade", "", "brings the rows into the schema of the firmware's factory copies, after showing what changes",
+    {"db", "upgrade", "", "brings the rows into the factory copies' schema, after showing what changes",
      option_check | option_from | option_to, 0, 0, upgrade_databases},
     {"db", "exec", "SQL", "executes statements",
      0, 1, 1, execute_sql},

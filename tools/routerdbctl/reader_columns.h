@@ -39,9 +39,11 @@ inline constexpr RecordTable record_tables[] = {
     {"WlanZeroCfgGroupInfo", "WlanGroup_", false, 11, 16, 2, 126},
 };
 
+// Before the other columns of DevInfo.
 inline constexpr ReaderColumn others_of_main[] = {
-    {"DevInfo", "Dev_Sn", 0, 0},     {"DevInfo", "Dev_IPSUM", -1, 0}, {"DevUpgradeInfo", "Dev_SwName", -1, 0},
-    {"App_Info", "Class_Id", -1, 0}, {"App_Info", "Features", -1, 0},
+    {"DevUpgradeInfo", "Dev_SwName", -1, 0}, {"App_Info", "Class_Id", -1, 0},
+    {"App_Info", "Features", -1, 0},         {"DevInfo", "Dev_Sn", 0, 0},
+    {"DevInfo", "Dev_IPSUM", -1, 0},
 };
 
 inline constexpr ReaderColumn of_catalogue[] = {
@@ -111,7 +113,7 @@ void each_of_records(Visit visit) {
 
 }  // namespace reader_columns
 
-/// Calls visit(column) for each of them.
+/// Calls visit(column) for each of them, table by table.
 template <typename Visit>
 void each_reader_column(RouterDatabase which, Visit visit) {
     if (which == RouterDatabase::catalogue) {
@@ -121,10 +123,10 @@ void each_reader_column(RouterDatabase which, Visit visit) {
         return;
     }
     reader_columns::each_of_rules(visit);
-    reader_columns::each_of_records(visit);
     for (const ReaderColumn &column : reader_columns::others_of_main) {
         visit(column);
     }
+    reader_columns::each_of_records(visit);
 }
 
 }  // namespace ctl

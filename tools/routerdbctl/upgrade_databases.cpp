@@ -77,14 +77,17 @@ Status UpgradeDatabases::open_live(const UpgradeWay &way, Hold hold, unsigned se
     }
     Sql uri;
     const Status status = database_.open_to_write(add_uri(uri, way.live, "rw").text(), seconds);
-    if (status != Status::done || hold == Hold::look) {
+    if (status != Status::done) {
         return status;
     }
-    // What has been written ahead would not be in the file that is kept. The lock lasts beyond transactions.
-    constexpr char hold_it[] = "PRAGMA main.journal_mode = delete; PRAGMA main.locking_mode = exclusive";
-    return sqlite3_exec(database_.handle(), hold_it, nullptr, nullptr, nullptr) == SQLITE_OK
-               ? Status::done
-               : fail_with(database_, "have the database alone");
+    // A journal that was left is undone by who may write, now.
+    const int code = sqlite3_exec(database_.handle(), "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+    if (code != SQLITE_OK) {
+        return fail(code == SQLITE_NOTADB || code == SQLITE_CORRUPT ? Status::refused : Status::unreachable,
+                    "cannot read %s: %s", way.live, sqlite3_errmsg(database_.handle()));
+    }
+    // What has been written ahead would not be in the file that is kept.
+    return hold == Hold::look ? Status::done : write("PRAGMA main.journal_mode = delete");
 }
 
 /// The new one begins as the target, with the rows of the factory.
@@ -134,23 +137,25 @@ Status UpgradeDatabases::open(const UpgradeWay &way, const char *new_file, unsig
     status = status != Status::done ? status : attach(way.to, "ro", target);
     if (status == Status::done && !way.keeps_rows()) {
         old_ = "old";
-        status = attach(way.from, "rw", old_);  // a journal that was left beside it is undone
-        const Status settled = status != Status::done ? status : check_old();
-        status = settled != Status::done ? settled : write("PRAGMA old.synchronous = off");  // and nothing else written
+        status = attach(way.from, "ro", old_);
     }
     status = status != Status::done ? status : copy_target(way, new_file, seconds);
     if (status != Status::done) {
         return status;
     }
-    status = write("PRAGMA temp_store = memory");
-    if (status != Status::done) {
-        return status;
-    }
-    const char *const begin = hold == Hold::exclusive ? "BEGIN EXCLUSIVE" : "BEGIN; SELECT count(*) FROM sqlite_master";
-    if (sqlite3_exec(database_.handle(), begin, nullptr, nullptr, nullptr) != SQLITE_OK) {
-        return fail_with(database_, "read the database");
-    }
-    return check_old();
+    status = begin(hold);
+    return status != Status::done ? status : check_old();
+}
+
+/// From here on the rows stay as they are. Who waits for the lock keeps nobody from committing; who has it keeps it
+/// when the new database is written, until the live one has been replaced.
+Status UpgradeDatabases::begin(Hold hold) {
+    constexpr char alone[] = "PRAGMA temp_store = memory; BEGIN EXCLUSIVE; PRAGMA main.locking_mode = exclusive";
+    constexpr char beside[] = "PRAGMA temp_store = memory; BEGIN; SELECT count(*) FROM sqlite_master";
+    const char *const sql = hold == Hold::exclusive ? alone : beside;
+    return sqlite3_exec(database_.handle(), sql, nullptr, nullptr, nullptr) == SQLITE_OK
+               ? Status::done
+               : fail_with(database_, "have the database");
 }
 
 Status UpgradeDatabases::finish() {

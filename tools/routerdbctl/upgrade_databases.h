@@ -40,6 +40,7 @@ private:
     Status open_live(const UpgradeWay &way, Hold hold, unsigned seconds);
     Status attach(const char *path, const char *mode, const char *schema);
     Status copy_target(const UpgradeWay &way, const char *new_file, unsigned seconds);
+    Status begin(Hold hold);
     Status check_old() const;
 
     Database database_;

@@ -21,13 +21,15 @@ const char *base_of(const char *path) {
     return slash != nullptr ? slash + 1 : path;
 }
 
-/// Only the catalogue has classes of applications, and no access points.
+/// Looks which database a file is: only the catalogue has classes of applications, and no access points. A journal that
+/// was left beside it is undone by that.
 Status recognize(const char *path, RouterDatabase &which) {
     if (access(path, R_OK) != 0) {
         return fail(Status::not_found, "there is no such file (%s)", path);
     }
     Database database;
-    const Status status = database.open(path, seconds_for_a_look);
+    Status status = database.open(path, seconds_for_a_look);
+    status = status != Status::done ? status : database.run("PRAGMA query_only = 0; PRAGMA journal_mode = delete");
     if (status != Status::done) {
         return status;
     }

@@ -25,6 +25,7 @@
     db backup                             copies the database to its backup
     db restore                            puts the backup in the database's place, after showing what changes
     db reset                              puts the factory's database in its place, after showing what changes
+    db upgrade                            brings the rows into the factory copies' schema, after showing what changes
     db exec SQL                           executes statements
     db query SQL                          prints the rows of a query
     db count SQL                          prints the number that a query has
@@ -61,6 +62,9 @@
   
   usage: routerdbctl db reset
     puts the factory's database in its place, after showing what changes
+  
+  usage: routerdbctl db upgrade [OPTION]...
+    brings the rows into the factory copies' schema, after showing what changes
   
   usage: routerdbctl db exec SQL
     executes statements
