@@ -58,12 +58,9 @@ void each_of_rules(Visit visit) {
     for (const Table &table : tables) {
         const bool has_places = table.rules->fields[0].position != routerdb::by_name;
         visit(ReaderColumn{table.in_sql(), "id", has_places ? 0 : -1, 0});
-        int day = 0;
-        const Field *last = nullptr;
         for (const Column &column : Columns(table)) {
             const Field &field = *column.field;
-            day = last == &field ? day + 1 : 0;
-            last = &field;
+            const int day = field.kind == Kind::weekdays ? column.name[std::strlen(column.name) - 1] - '1' : 0;
             visit(ReaderColumn{table.in_sql(), column.name,
                                field.position == routerdb::by_name ? -1 : field.position + day,
                                field.kind == Kind::text ? field.width : 0U});

@@ -135,8 +135,10 @@ Status show_changes(const Invocation &invocation, const UpgradeWay &way, Upgrade
     Sql statements;
     Upgrade upgrade(way, lines, statements);
     const Status status = upgrade.make(nullptr, invocation.seconds());
-    if (status == Status::done) {
-        std::fputs(invocation.options.is_dry_run ? statements.text() : lines.text(), stdout);
+    if (status == Status::done && invocation.options.is_dry_run) {
+        std::fputs(statements.text(), stdout);
+    } else if (status == Status::done) {
+        lines.print();
     }
     return status;
 }

@@ -37,6 +37,10 @@ bool is_same_file(const char *one, const char *other) {
            first.st_ino == second.st_ino;
 }
 
+Status fail_with(const char *what, const char *path) {
+    return fail(Status::unreachable, "cannot %s %s: %s", what, path, std::strerror(errno));
+}
+
 }  // namespace
 
 UpgradeLock::~UpgradeLock() {
@@ -50,6 +54,7 @@ Status UpgradeLock::acquire(unsigned seconds) {
     struct sigaction action {};
     action.sa_handler = end_overdue;
     sigaction(SIGALRM, &action, nullptr);
+    std::fflush(stdout);  // the handler does not
     alarm(seconds);
     handle_ = get_db_lock();
     alarm(0);
@@ -62,10 +67,6 @@ UpgradeFile::UpgradeFile(const char *live) {
     live_.add("%s", path);
     new_.add("%s.upgrade", path);
     directory_.add("%.*s", static_cast<int>(std::strrchr(path, '/') - path), path);
-}
-
-Status UpgradeFile::fail_with(const char *what, const char *path) const {
-    return fail(Status::unreachable, "cannot %s %s: %s", what, path, std::strerror(errno));
 }
 
 bool UpgradeFile::is_left_over() const {
@@ -131,7 +132,7 @@ Status UpgradeFile::put_in_place(const char *from, Sql &kept) const {
     if (std::rename(path(), live_.text()) != 0) {
         return fail_with("replace", live_.text());
     }
-    return sync_directory();
+    return sync_directory() == Status::done ? Status::done : Status::unknown;
 }
 
 }  // namespace ctl

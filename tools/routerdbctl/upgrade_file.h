@@ -37,14 +37,13 @@ public:
     /// Gives the new database the live one's name, mode and owner.
     /// @param from  whose mode and owner it gets without a live one
     /// @param kept  receives where the old one is now; empty without one
-    /// @return done; unreachable, with nothing changed
+    /// @return done; unreachable, with nothing changed; unknown when a power loss may still undo it
     Status put_in_place(const char *from, Sql &kept) const;
 
 private:
     Status finish_new(const char *like) const;
     Status keep_old(Sql &kept) const;
     Status sync_directory() const;
-    Status fail_with(const char *what, const char *path) const;
 
     Sql live_;
     Sql new_;

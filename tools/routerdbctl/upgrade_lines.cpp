@@ -1,6 +1,10 @@
 #include "upgrade_lines.h"
 
 #include <cstdarg>
+#include <cstdio>
+#include <cstring>
+
+#include "output.h"
 
 namespace ctl {
 
@@ -12,6 +16,16 @@ void UpgradeLines::add(const char *format, ...) {
     text_.add("%s: %s\n", name_, line);
     sqlite3_free(line);
     ++count_;
+}
+
+void UpgradeLines::print() const {
+    const char *line = text_.text();
+    while (*line != '\0') {
+        const std::size_t length = std::strcspn(line, "\n");
+        print_shown({line, length});
+        std::putchar('\n');
+        line += length + 1;
+    }
 }
 
 }  // namespace ctl

@@ -23,6 +23,9 @@ public:
     bool loses() const { return loses_; }
     const char *text() const { return text_.text(); }
 
+    /// Prints them, as a terminal may be shown them.
+    void print() const;
+
 private:
     const char *name_;
     Sql text_;

@@ -126,3 +126,26 @@ Nobody else has the files open for long; a name with signs in it is a name:
   $ routerdbctl db upgrade --check --to '/tmp/a?b#c%20/new.db'
   myrouter.db: user_urlinfo.extra is new: NULL
   [1]
+
+Names are shown as a terminal may have them:
+
+  $ sqlite3 $database "CREATE TABLE \"a'b; \"\"$(printf '\033')[31m%s\"(\"$(printf '\033')'\"\"c\", d); INSERT INTO \"a'b; \"\"$(printf '\033')[31m%s\" VALUES(1, 2)"
+  $ routerdbctl db upgrade --check
+  myrouter.db: a'b; "?[31m%s is gone, with its 1 rows
+  [1]
+  $ sqlite3 $factory "CREATE TABLE \"a'b; \"\"$(printf '\033')[31m%s\"(\"$(printf '\033')'\"\"c\", e)"
+  $ routerdbctl --yes db upgrade
+  myrouter.db: a'b; "?[31m%s.e is new: NULL
+  myrouter.db: a'b; "?[31m%s.d is gone, with its values in 1 rows
+  myrouter.db: upgraded; the old one is /etc/config/systemconf/database/myrouter.db.before-3
+  $ sqlite3 $database "SELECT * FROM \"a'b; \"\"$(printf '\033')[31m%s\""
+  1|
+
+No trigger runs meanwhile:
+
+  $ sqlite3 $factory "CREATE TRIGGER louder AFTER INSERT ON user_urlinfo BEGIN UPDATE user_urlinfo SET name = upper(name); END"
+  $ routerdbctl db upgrade
+  myrouter.db: trigger louder is new
+  myrouter.db: upgraded; the old one is /etc/config/systemconf/database/myrouter.db.before-4
+  $ sqlite3 $database "SELECT name FROM user_urlinfo"
+  mine

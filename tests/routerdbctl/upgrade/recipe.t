@@ -67,6 +67,7 @@ A busy database is left to the next start:
   [143]
   $ start
   myrouter.db: version 2 becomes 3
+  myrouter.db: wifi0acl.mac has texts of more than 19 bytes in 1 rows
   myrouter.db: upgraded; the old one is /etc/config/systemconf/database/myrouter.db.before-2
 
 An old database that cannot be brought over stays beside the factory's:
