@@ -46,6 +46,7 @@ Status Database::open_to_write(const char *uri, unsigned seconds) {
         return fail_with(db_, uri);
     }
     sqlite3_busy_timeout(db_, static_cast<int>(seconds) * 1000);
+    refuse_unknown_columns(db_);
     sqlite3_db_config(db_, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     return Status::done;
 }
