@@ -64,6 +64,7 @@ TEST_F(UpgradePowerLoss, at_any_moment_leaves_the_old_or_the_new_database) {
         support::put_files(directories, files);
         const std::string content = content_of(support::main_database);
         ASSERT_TRUE(content == old_rows || content == new_rows) << content;
+        ASSERT_TRUE(content == old_rows || files.count("/etc/config/systemconf/database/myrouter.db.before-1") == 1);
         (content == old_rows ? old : renewed) += 1;
         if (++taken_up % 8 == 0 || content == new_rows) {  // the next start
             ASSERT_TRUE(upgrade());
