@@ -30,18 +30,18 @@ bool is_there(const char *path) {
     return lstat(path, &file) == 0;
 }
 
+Status fail_with(const char *what, const char *path) {
+    return fail(Status::unreachable, "cannot %s %s: %s", what, path, std::strerror(errno));
+}
+
+}  // namespace
+
 bool is_same_file(const char *one, const char *other) {
     struct stat first {};
     struct stat second {};
     return stat(one, &first) == 0 && stat(other, &second) == 0 && first.st_dev == second.st_dev &&
            first.st_ino == second.st_ino;
 }
-
-Status fail_with(const char *what, const char *path) {
-    return fail(Status::unreachable, "cannot %s %s: %s", what, path, std::strerror(errno));
-}
-
-}  // namespace
 
 UpgradeLock::~UpgradeLock() {
     if (handle_ >= 0) {

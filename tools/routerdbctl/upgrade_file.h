@@ -7,6 +7,9 @@
 
 namespace ctl {
 
+/// Whether two paths lead to one file.
+bool is_same_file(const char *one, const char *other);
+
 /// The lock file, which everybody who writes through the library holds.
 class UpgradeLock {
 public:

@@ -1,12 +1,12 @@
 #include "upgrade_way.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstring>
 
 #include "core/paths.h"
 #include "database.h"
+#include "upgrade_file.h"
 
 namespace ctl {
 
@@ -37,13 +37,6 @@ Status recognize(const char *path, RouterDatabase &which) {
     const auto devices = number_of(database, "SELECT count(*) FROM sqlite_master WHERE name = 'DevInfo'");
     which = classes != 0 && devices == 0 ? RouterDatabase::catalogue : RouterDatabase::main;
     return Status::done;
-}
-
-bool is_same_file(const char *one, const char *other) {
-    struct stat first {};
-    struct stat second {};
-    return stat(one, &first) == 0 && stat(other, &second) == 0 && first.st_dev == second.st_dev &&
-           first.st_ino == second.st_ino;
 }
 
 }  // namespace
