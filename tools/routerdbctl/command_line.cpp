@@ -84,7 +84,7 @@ Status choose(const char *what, const char *word, const char (&words)[count][10]
     }
     const char *found = nullptr;
     const Status status = choices.decide(found);
-    number = status == Status::done ? static_cast<unsigned>((found - words[0]) / sizeof(words[0])) : 0;
+    number = status == Status::done ? static_cast<unsigned>(found - words[0]) / unsigned{sizeof(words[0])} : 0;
     return status;
 }
 

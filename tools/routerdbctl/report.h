@@ -29,7 +29,8 @@ public:
     bool is_pending() const { return is_pending_; }
 
 private:
-    void add(Health health, const char *advice, const char *format, std::va_list arguments);
+    [[gnu::format(printf, 4, 0)]] void add(Health health, const char *advice, const char *format,
+                                           std::va_list arguments);
     void start(Health health, const char *advice);
 
     Health health_;
