@@ -57,7 +57,9 @@ update WlanZeroCfgGroupInfo set WlanGroup_Id = 4, WlanGroup_Name = 'Group 4' whe
 insert into WlanZeroCfgGroupInfo select * from WlanZeroCfgGroupInfo where WlanGroup_Id <= 4;
 update WlanZeroCfgGroupInfo set WlanGroup_Id = rowid, WlanGroup_Name = 'Group ' || rowid where rowid > 4;
 
--- Rules. Every other one references one of eight time groups.
+-- Rules, in place of the page's. Every other one references one of eight time groups.
+delete from filter_url;
+delete from user_timegroup;
 insert into user_timegroup(id, name, weekday1, weekday2, weekday3, weekday4, weekday5, weekday6, weekday7,
     start_time, end_time, mark)
 select n, 'School nights 上学日 ' || n, 1, 1, 1, 1, 1, 0, 0, '20:30', '23:' || (50 + n), '' from digit where n <= 8;
