@@ -144,8 +144,13 @@ TEST(SqldWorkers, that_die_without_a_request_are_replaced_and_told) {
     ASSERT_TRUE(service.has_children(2));
     const std::vector<pid_t> workers = service.children();
     kill(workers.front(), SIGKILL);
-    EXPECT_TRUE(support::eventually([&] { return service.children().size() == 2 && service.children() != workers; }));
-    EXPECT_EQ(log.lines(), std::vector<std::string>{"28 signal 9 has ended a worker"});
+    std::vector<std::string> lines;
+    EXPECT_TRUE(support::eventually([&] { return !(lines = log.lines()).empty(); }));
+    EXPECT_EQ(lines, std::vector<std::string>{"28 signal 9 has ended a worker"});
+    EXPECT_TRUE(support::eventually([&] {
+        const std::vector<pid_t> now = service.children();
+        return now.size() == 2 && now != workers;
+    }));
     EXPECT_EQ(exchange(question()), answer());
 }
 
