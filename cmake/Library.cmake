@@ -45,18 +45,23 @@ add_library(
     src/core/elf_note.cpp
     src/core/execute.cpp
     src/core/journal.cpp
+    src/core/kept_connection.cpp
+    src/core/kept_statements.cpp
     src/core/list_room.cpp
     src/core/lock_file.cpp
     src/core/lock_holder.cpp
     src/core/maintenance.cpp
+    src/core/open_file.cpp
     src/core/query.cpp
     src/core/random.cpp
     src/core/reading.cpp
     src/core/remembered.cpp
     src/core/report.cpp
     src/core/row.cpp
+    src/core/schema_digest.cpp
     src/core/shell.cpp
     src/core/statement.cpp
+    src/core/statement_shape.cpp
     src/core/transaction.cpp
     src/dhcp/doors.cpp
     src/dhcp/host_name.cpp

@@ -32,7 +32,11 @@
 ///    whichever thread; closing another descriptor of the file drops nothing, and a child of fork() has to wait for its
 ///    parent's. Functions with a random first delay, and GetApDevStaList(), reseed the process-wide generator of rand()
 ///    in the exact profile.
-/// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache.
+/// 8. State. Nothing outlives a call except what a comment names: no connection, handle, thread or cache. In modern a
+///    connection to each database stays open for later readings, on a descriptor that reads alone and is closed on
+///    exec, with statements of the library's own. It holds no lock, no transaction and no content of the file in
+///    between. A child of fork() leaves it alone; programs may close its descriptor, and delete, replace or overwrite
+///    the file, whose content at the time is what is read. It is closed with the library.
 /// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
 ///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
 /// 10. Missing databases. A function that opens a database, be it only to read, leaves an empty file behind where

@@ -14,6 +14,9 @@ struct BuildProfile {
     /// The readings of one call go through one connection instead of a fresh one each.
     bool shares_connection = spares;
 
+    /// One connection to each database stays open between calls, for reading, with a few statements.
+    bool keeps_connection = spares;
+
     /// What one call has looked up (groups, names, applications, leases) is not looked up again.
     bool remembers_lookups = spares;
 

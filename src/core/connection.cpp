@@ -1,5 +1,7 @@
 #include "core/connection.h"
 
+#include "build_profile.h"
+#include "core/kept_connection.h"
 #include "core/paths.h"
 #include "core/retry.h"
 
@@ -22,8 +24,7 @@ int Connection::open_file(const char *path, int flags) {
 }
 
 void Connection::adopt(Connection &other) {
-    close();
-    handle_ = other.handle_;
+    take(other.handle_);
     other.handle_ = nullptr;
 }
 
@@ -31,7 +32,8 @@ int Connection::close() {
     if (handle_ == nullptr) {
         return SQLITE_OK;
     }
-    const int code = sqlite3_close(handle_);
+    const bool taken_back = build_profile.keeps_connection && kept_connection::take_back(handle_);
+    const int code = taken_back ? SQLITE_OK : sqlite3_close(handle_);
     handle_ = nullptr;
     return code;
 }

@@ -14,7 +14,7 @@ enum class Database : std::uint8_t { main, catalogue };
 /// The file of a database.
 const char *path_of(Database database);
 
-/// Owns one connection and closes it.
+/// Owns one connection and closes it, or gives it back where it is one that is kept.
 class Connection {
 public:
     Connection() = default;
@@ -36,6 +36,12 @@ public:
 
     /// Takes over what another owner has, which is empty then.
     void adopt(Connection &other);
+
+    /// Owns a connection that is open.
+    void take(sqlite3 *handle) {
+        close();
+        handle_ = handle;
+    }
 
     /// Gives the handle up without closing it.
     void abandon() { handle_ = nullptr; }

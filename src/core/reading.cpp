@@ -1,5 +1,9 @@
 #include "core/reading.h"
 
+#include <cstring>
+
+#include "core/kept_connection.h"
+
 namespace routerdb {
 
 Reading::Reading(const ReadProfile &profile, SharedConnection *shared)
@@ -20,7 +24,7 @@ Start Reading::start(SqlView sql) {
     if (shared() != nullptr) {
         access_.backoff().patience() = shared()->patience();
     }
-    if (start_on_shared(sql.narrow() != nullptr ? sql.narrow() : sql.text())) {
+    if (start_on_borrowed(sql)) {
         return Start::ready;
     }
     if (!access_.open_database()) {
@@ -36,17 +40,43 @@ Start Reading::start(SqlView sql) {
     return Start::ready;
 }
 
-/// Starts on the connection of earlier readings. It remembers tables: that they are still there shows at the first step
-/// only. What fails there is tried on a connection of its own.
-bool Reading::start_on_shared(const char *sql) {
-    if (shared() == nullptr || !shared()->lend(access_.connection())) {
+/// Borrows the connection of earlier readings of the call, or the one that is kept. On that one no text of a caller's
+/// runs, nor one with the name of a table that a caller gave: such names stand between double quotes.
+bool Reading::borrow(SqlView sql) {
+    if (shared() != nullptr && shared()->lend(access_.connection())) {
+        return true;
+    }
+    return build_profile.keeps_connection && (profile_.access.texts == Texts::own || sql.is_own()) &&
+           std::strchr(sql.text(), '"') == nullptr &&
+           kept_connection::lend(profile_.access.database, access_.connection());
+}
+
+/// A borrowed connection remembers tables: that they are still there shows at the first step only. What fails there is
+/// tried on a connection of its own.
+bool Reading::start_on_borrowed(SqlView sql) {
+    if (!borrow(sql)) {
         return false;
     }
-    if (!start_silently(sql)) {
+    if (!start_pinned(sql.narrow() != nullptr ? sql.narrow() : sql.text())) {
         access_.close_connection();
         return false;
     }
     return true;
+}
+
+bool Reading::start_pinned(const char *sql) {
+    if (!build_profile.keeps_connection) {
+        return start_silently(sql);
+    }
+    kept_connection::Pin pin(access_.db(), access_.backoff());
+    if (!pin.holds()) {
+        return false;
+    }
+    const bool started = start_silently(sql);
+    if (!started) {
+        pin.give_up();
+    }
+    return started;
 }
 
 /// Prepares a query that another stands in for when it fails, and takes its first step, which may fail as well.

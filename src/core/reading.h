@@ -54,7 +54,9 @@ private:
     /// Null where each reading has a connection of its own.
     SharedConnection *shared() const { return build_profile.shares_connection ? shared_ : nullptr; }
 
-    bool start_on_shared(const char *sql);
+    bool borrow(SqlView sql);
+    bool start_on_borrowed(SqlView sql);
+    bool start_pinned(const char *sql);
     bool start_silently(const char *sql);
 
     const ReadProfile &profile_;

@@ -13,17 +13,21 @@ public:
     constexpr SqlView(const char *text, const char *narrow = nullptr) : text_(text), narrow_(narrow) {}
     SqlView(const Text &text) : text_(text.complete() ? text.c_str() : nullptr) {}
 
+    /// A text of a caller's that is, letter by letter, one of the library's own.
+    static constexpr SqlView recognised(const char *text) { return {text, text}; }
+    constexpr bool is_own() const { return narrow_ == text_; }
+
     /// False for a text that memory ran out for. It is not to be run.
     constexpr bool complete() const { return text_ != nullptr; }
 
     constexpr const char *text() const { return text_; }
 
     /// Null for none, and in build profiles that do not name the columns they need.
-    constexpr const char *narrow() const { return build_profile.names_needed_columns ? narrow_ : nullptr; }
+    constexpr const char *narrow() const { return build_profile.names_needed_columns && !is_own() ? narrow_ : nullptr; }
 
 private:
     const char *text_;
-    const char *narrow_ = nullptr;
+    const char *narrow_ = nullptr;  // the text itself for one that was recognised
 };
 
 }  // namespace routerdb

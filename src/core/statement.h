@@ -9,7 +9,8 @@
 
 namespace routerdb {
 
-/// Owns one statement on a connection that outlives it, and finalises it.
+/// Owns one statement on a connection that outlives it, and finalises it, unless it stays with a connection that is
+/// kept.
 class Statement {
 public:
     Statement() = default;

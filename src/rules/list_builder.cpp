@@ -7,6 +7,8 @@
 #include "rules/field_reader.h"
 #include "rules/record.h"
 #include "rules/references.h"
+#include "rules/sql_builder.h"
+#include "text/number.h"
 
 namespace routerdb {
 
@@ -47,12 +49,28 @@ std::size_t read_rows(const RuleTable &table, Reading &reading, void *list, Deri
     return count;
 }
 
+/// Whether a query is one of those that the client operations of a table send: all of it, or one record.
+bool is_own_query(const RuleTable &table, const char *sql) {
+    StackText<80> own;
+    append_list_query(own, table);
+    const char *const value = std::strchr(sql, '\'');
+    if (value != nullptr) {
+        own.clear();
+        append_select(own, table, to_number(value + 1));
+    }
+    return own.complete() && std::strcmp(sql, own.c_str()) == 0;
+}
+
+SqlView view_of(const RuleTable &table, const char *sql) {
+    return build_profile.keeps_connection && is_own_query(table, sql) ? SqlView::recognised(sql) : SqlView(sql);
+}
+
 }  // namespace
 
 int build_item_list(const RuleTable &table, void *list, const char *sql, Derive derive) {
     std::memset(list, 0, table.list_size());
     Reading reading(table.messages == BuilderMessages::detailed ? detailed : common);
-    if (reading.start(sql) == Start::ready) {
+    if (reading.start(view_of(table, sql)) == Start::ready) {
         put_number(list, 0, static_cast<std::int32_t>(read_rows(table, reading, list, derive)));
     }
     return reading.close().lock_file;

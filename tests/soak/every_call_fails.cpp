@@ -21,18 +21,32 @@ using soak::Call;
 using support::WrappedCalls;
 using Fault = WrappedCalls::Fault;
 
+/// What a process holds.
+struct Holdings {
+    int descriptors;
+    sqlite3_int64 memory;
+};
+
+Holdings now() {
+    open_standard_input();
+    return {support::open_descriptors(), sqlite3_memory_used()};
+}
+
+/// Where a connection to each database is kept, what the process holds beside them stays the same over all calls.
+constexpr int kept_descriptors = support::build_profile.keeps_connection ? 2 : 0;
+constexpr sqlite3_int64 kept_memory = support::build_profile.keeps_connection ? 320 * 1024 : 0;
+
 /// One call whose n-th call fails.
 class Point {
 public:
-    Point(const Call &call, int n, const Fault &fault) : call_(call) {
+    /// @param first  what the process held before its first call
+    Point(const Call &call, int n, const Fault &fault, const Holdings &first) : call_(call) {
         soak::put_router_back();
-        open_standard_input();
-        const int descriptors = support::open_descriptors();
-        const sqlite3_int64 memory = sqlite3_memory_used();
+        const Holdings before = support::build_profile.keeps_connection ? first : now();
         make(n, fault);
-        open_standard_input();
-        descriptors_left_ = support::open_descriptors() - descriptors;
-        memory_left_ = sqlite3_memory_used() - memory;
+        const Holdings after = now();
+        descriptors_left_ = after.descriptors - before.descriptors;
+        memory_left_ = after.memory - before.memory;
     }
 
     bool came_up() const { return came_up_; }
@@ -42,10 +56,11 @@ public:
         // Of the service's processes one may still be about to give its lock back.
         const bool free = support::eventually(support::lock_file_is_free);
         const long streams = support::build_profile.closes_its_own ? 0 : call_.left.streams;
-        const bool promised = descriptors_left_ >= 0 && descriptors_left_ <= streams;
+        const bool promised = descriptors_left_ >= 0 && descriptors_left_ <= streams + kept_descriptors;
+        const bool released = memory_left_ >= 0 && memory_left_ <= kept_memory;
         return std::string(free ? "" : ", a lock is held") + (mutex_is_free() ? "" : ", the mutex is held") +
                (promised ? "" : ", descriptors left: " + std::to_string(descriptors_left_)) +
-               (memory_left_ == 0 ? "" : ", bytes of SQLite left: " + std::to_string(memory_left_)) +
+               (released ? "" : ", bytes of SQLite left: " + std::to_string(memory_left_)) +
                (blocks_ == 0 ? "" : ", blocks left: " + std::to_string(blocks_));
     }
 
@@ -80,8 +95,9 @@ protected:
     /// Fails the calls of one function in turn, in a process of its own, up to the first complaint.
     /// @return whether there was none
     static bool fail_each(const Call &call, const Fault &fault, long &points) {
+        const Holdings first = now();
         for (int n = 1;; n += soak::among_ordinary_tests() ? 7 : 1) {
-            const Point point(call, n, fault);
+            const Point point(call, n, fault, first);
             if (const std::string complaint = point.complaint(); !complaint.empty()) {
                 std::printf("%s, call %d fails, of %s%s\n", call.name.c_str(), n, point.function().c_str(),
                             complaint.c_str());

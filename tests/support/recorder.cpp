@@ -31,6 +31,7 @@ struct Recording {
     std::map<std::string, std::deque<int>, std::less<>> answers;
     std::function<void(const std::string &)> watcher;
     bool run_commands = true;
+    bool keep_connections = false;
     int lock_file = -1;
     bool inside = false;  // one of the recorder's own calls, or one that a recorded call made
 };
@@ -117,6 +118,10 @@ void Recorder::answer(std::string_view function, std::initializer_list<int> resu
 
 void Recorder::watch(std::function<void(const std::string &)> watcher) {
     recording->watcher = std::move(watcher);
+}
+
+void Recorder::let_connections_be_kept() {
+    recording->keep_connections = true;
 }
 
 void Recorder::keep_commands_from_running() {
@@ -386,6 +391,10 @@ int sqlite3_open(const char *path, sqlite3 **db) {
 
 int sqlite3_open_v2(const char *path, sqlite3 **db, int flags, const char *vfs) {
     const Call call;
+    if (call && !recording->keep_connections && (flags & SQLITE_OPEN_NOMUTEX) != 0) {
+        *db = nullptr;
+        return SQLITE_CANTOPEN;
+    }
     call.note(std::string("sqlite3_open_v2 ") + path + " " + std::to_string(flags));
     int result = 0;
     if (call.answered("sqlite3_open_v2", result)) {

@@ -32,6 +32,10 @@ public:
     /// Shows `watcher` each line as it is noted, before the call is made. Nothing that the watcher calls is noted.
     void watch(std::function<void(const std::string &line)> watcher);
 
+    /// Lets connections be opened to be kept for later calls, which otherwise go without while a recorder lives: each
+    /// call then does what the first one of a program does, however many come after it.
+    void let_connections_be_kept();
+
     /// Commands for the shell, and programs started without one, are noted and not run.
     void keep_commands_from_running();
 

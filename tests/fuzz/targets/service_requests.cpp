@@ -7,6 +7,7 @@
 #include "fuzz/fuzz.h"
 #include "routerdb-sqld/answer.h"
 #include "routerdb-sqld/connections.h"
+#include "routerdb-sqld/database.h"
 #include "support/database.h"
 
 const char fuzz::what[] = "requests to routerdb-sqld: a reply that is whole, or none";
@@ -60,6 +61,7 @@ void fuzz::prepare() {
                   "insert into user_timegroup(id,name) values(1,'group'); insert into user_urlinfo(id,name,url) "
                   "values(1,'site','http://a'),(2,NULL,x'00');");
     untouched = support::file_content(support::main_database);
+    const sqld::Query scalar("select 1;");  // the connection that the service keeps is there from now on
 }
 
 void fuzz::run(Input input) {
