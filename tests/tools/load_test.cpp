@@ -4,12 +4,14 @@
 
 #include <algorithm>
 #include <csignal>
+#include <filesystem>
 #include <list>
 
 #include "routerdb.h"
 #include "support/database.h"
 #include "support/peer.h"
 #include "support/process.h"
+#include "support/profile.h"
 #include "support/service.h"
 #include "support/system_log.h"
 #include "tools/question.h"
@@ -198,6 +200,27 @@ TEST(SqldLoad, has_at_most_32_processes_wait_for_clients_that_do_not_read) {
     }));
     EXPECT_LT(most, 41U);  // with the worker, and those that are about to end
     EXPECT_EQ(exchange(question()), answer());
+}
+
+/// Whether a process has the main database open.
+bool reads_the_database(pid_t process) {
+    const auto leads_there = [](const std::filesystem::directory_entry &descriptor) {
+        std::error_code gone;
+        return std::filesystem::read_symlink(descriptor.path(), gone) == support::main_database;
+    };
+    const std::filesystem::directory_iterator descriptors("/proc/" + std::to_string(process) + "/fd");
+    return std::any_of(begin(descriptors), end(descriptors), leads_there);
+}
+
+TEST(SqldLoad, workers_keep_a_connection_for_lists_where_the_profile_does) {
+    const support::Service service({"--workers", "1"});
+    for (int times = 0; times < 5; ++times) {
+        for (const char *const sql :
+             {"select * from filter_url order by Id;", "select * from filter_url where id='7';"}) {
+            EXPECT_EQ(support::exchange(support::request(2, 1, sql)), support::words({2, 1, 0}));
+        }
+    }
+    EXPECT_EQ(reads_the_database(service.children().front()), support::build_profile.keeps_connection);
 }
 
 }  // namespace

@@ -22,8 +22,19 @@ struct Watched {
 Watched watched;
 
 bool is_watched(const char *sql) {
-    return watched.sql != nullptr && !watched.is_being_prepared && watched.statement == nullptr &&
-           std::strcmp(sql, watched.sql) == 0;
+    return watched.sql != nullptr && !watched.is_being_prepared && std::strcmp(sql, watched.sql) == 0;
+}
+
+/// Whether a statement is that of the query, which the library has prepared before, with values as parameters. It does
+/// so with its own texts alone, so that there is nothing to look at.
+bool is_kept_for_watched(sqlite3_stmt *statement) {
+    if (watched.sql == nullptr || watched.statement != nullptr || watched.is_being_prepared) {
+        return false;
+    }
+    char *const text = sqlite3_expanded_sql(statement);  // null for what SQLite prepares for itself
+    const bool is_query = text != nullptr && std::strcmp(text, watched.sql) == 0;
+    sqlite3_free(text);
+    return is_query;
 }
 
 /// SQLite's own function of a name.
@@ -46,6 +57,9 @@ int prepare_watched(sqlite3 *db, sqlite3_stmt **statement) {
     watched.failure = sqld::prepare_query(db, watched.sql, *statement);
     watched.is_being_prepared = false;
     watched.statement = *statement;
+    if (sqlite3_db_readonly(db, "main") == 1) {
+        sqlite3_set_authorizer(db, nullptr, nullptr);  // the library keeps it, and does more on it than queries may
+    }
     if (watched.failure == nullptr) {
         return SQLITE_OK;
     }
@@ -67,6 +81,9 @@ int sqlite3_prepare_v2(sqlite3 *db, const char *sql, int size, sqlite3_stmt **st
 
 int sqlite3_step(sqlite3_stmt *statement) {
     static decltype(&sqlite3_step) step = nullptr;
+    if (statement != nullptr && is_kept_for_watched(statement)) {
+        watched.statement = statement;
+    }
     const bool watches = statement != nullptr && statement == watched.statement;
     if (watches && watched.rows > watched.most_rows) {
         return SQLITE_DONE;
