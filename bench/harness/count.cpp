@@ -9,6 +9,7 @@
 #include <cstdlib>
 
 #include "harness/each.h"
+#include "harness/outcomes.h"
 
 namespace bench {
 
@@ -20,7 +21,10 @@ void mark(const char *what, const std::string &name) {
 }
 
 void count_runs(const Profiles &profiles, const Operation &operation, Variant variant, const std::string &name) {
-    if (!operation.is_long()) {
+    if (variant == Variant::modern && operation.prepare != outcomes::write_elsewhere) {
+        outcomes::let_settle();
+    }
+    for (int warming = 0; warming < 2 && !operation.is_long(); ++warming) {
         prepare(operation, variant);
         run(profiles, operation, variant);
     }

@@ -27,7 +27,7 @@ struct Operation {
 
     /// The library in either profile, then the other variants from `bare` on; null where there is none.
     void (*library)(const Library &);
-    std::array<void (*)(), 4> others;
+    std::array<void (*)(), 6> others;
 
     /// One that is timed in few rounds: counting it once tells enough, and nothing has to warm up.
     constexpr bool is_long() const { return rounds < 10; }

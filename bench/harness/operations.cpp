@@ -7,6 +7,7 @@
 #include "harness/requests.h"
 #include "harness/spawn.h"
 #include "peers/by_peer.h"
+#include "peers/kept.h"
 #include "peers/name.h"
 #include "peers/program.h"
 #include "peers/soci.h"
@@ -20,15 +21,25 @@ namespace {
 
 using namespace outcomes;
 
+#define PEERS(function) peers::function<peers::SqliteCpp>, peers::function<peers::Soci>, peers::function<peers::Program>
 #define VARIANTS(function) \
-    { bare::function, peers::function<peers::SqliteCpp>, peers::function<peers::Soci>, peers::function<peers::Program> }
+    { bare::function, PEERS(function), peers::function<peers::KeptSqlite>, peers::function<peers::KeptSqliteCpp> }
+#define NONE_KEPT(function) \
+    { bare::function, PEERS(function), nullptr, nullptr }
 #define BARE_ONLY(function) \
-    { bare::function, nullptr, nullptr, nullptr }
+    { bare::function }
+#define KEPT_ONLY(function)                                                            \
+    {                                                                                  \
+        bare::function, nullptr, nullptr, nullptr, peers::function<peers::KeptSqlite>, \
+            peers::function<peers::KeptSqliteCpp>                                      \
+    }
 
 // Name, preparation, outcome, rounds, clock, library, other variants.
 constexpr Operation table[] = {
     {"DB_getinfo", nullptr, device, 400, Clock::processor,
      [](const Library &library) { library.DB_getinfo(&desk.device, known_device, 0); }, VARIANTS(get_device)},
+    {"DB_getinfo, after a write", write_elsewhere, device, 400, Clock::processor,
+     [](const Library &library) { library.DB_getinfo(&desk.device, known_device, 0); }, KEPT_ONLY(get_device)},
     {"DB_getinfo, converted", nullptr, device, 400, Clock::processor,
      [](const Library &library) { library.DB_getinfo(&desk.device, known_device, 1); }, VARIANTS(get_device_converted)},
     {"GetApDevList", free_devices, devices, 200, Clock::processor,
@@ -44,16 +55,19 @@ constexpr Operation table[] = {
      },
      VARIANTS(list_behavior_rules)},
     {"DB_EXEC_SQL_CHAR", restore, device_rows, 200, Clock::processor,
-     [](const Library &library) { library.DB_EXEC_SQL_CHAR(update_sql); }, VARIANTS(execute_update)},
+     [](const Library &library) { library.DB_EXEC_SQL_CHAR(update_sql); }, NONE_KEPT(execute_update)},
     {"DB_UpdateInfo", restore_for_update, device_rows, 200, Clock::processor,
-     [](const Library &library) { library.DB_UpdateInfo(desk.device); }, VARIANTS(configure_device)},
+     [](const Library &library) { library.DB_UpdateInfo(desk.device); }, NONE_KEPT(configure_device)},
     {"DB_addinfo, new", restore_for_registration, device_rows, 50, Clock::processor,
-     [](const Library &library) { library.DB_addinfo(desk.device); }, VARIANTS(register_device)},
+     [](const Library &library) { library.DB_addinfo(desk.device); }, NONE_KEPT(register_device)},
     {"DB_addinfo, known", restore_for_report, device_rows, 100, Clock::processor,
      [](const Library &library) { library.DB_addinfo(desk.device); }, BARE_ONLY(register_device)},
     {"GetApDevList_cgi", forget_printed, printed, 200, Clock::processor,
      [](const Library &library) { library.GetApDevList_cgi(1, 0, 0, 0, nullptr, nullptr, 17); },
      VARIANTS(print_device_page)},
+    {"GetApDevList_cgi, after a write", write_elsewhere, printed, 200, Clock::processor,
+     [](const Library &library) { library.GetApDevList_cgi(1, 0, 0, 0, nullptr, nullptr, 17); },
+     KEPT_ONLY(print_device_page)},
     {"GetAppClassItemList", forget_printed, printed, 100, Clock::processor,
      [](const Library &library) { library.GetAppClassItemList(); }, VARIANTS(print_classes)},
     {"GetWlanZeroCfgGroupList", forget_printed, printed, 200, Clock::processor,
@@ -74,8 +88,11 @@ constexpr Operation table[] = {
       [] { spawn({beside("start-soci")}); }, peers::print_name<peers::Program>}},
 };
 
+#undef KEPT_ONLY
 #undef BARE_ONLY
+#undef NONE_KEPT
 #undef VARIANTS
+#undef PEERS
 
 }  // namespace
 

@@ -3,12 +3,15 @@
 #include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <ctime>
 
 #include "bare/by_hand.h"
 #include "harness/desk.h"
@@ -140,6 +143,34 @@ void restore_for_registration(Variant variant) {
     sqlite3_open(paths::main_database, &db);
     sqlite3_exec(db, "delete from DevInfo where Dev_Sn='218212544';", nullptr, nullptr, nullptr);
     sqlite3_close(db);
+}
+
+void write_elsewhere(Variant variant) {
+    static int writes = 0;  // a write that changes nothing would be none
+    forget_printed(variant);
+    const std::string sql = "pragma user_version = " + std::to_string(++writes) + ";";
+    const pid_t writer = fork();
+    if (writer == 0) {
+        sqlite3 *db = nullptr;
+        const bool written = sqlite3_open(paths::main_database, &db) == SQLITE_OK &&
+                             sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+        _exit(written ? 0 : 1);
+    }
+    int status = -1;
+    if (writer < 0 || waitpid(writer, &status, 0) != writer || status != 0) {
+        std::fputs("bench: a process could not write\n", stderr);
+        std::exit(1);
+    }
+}
+
+void let_settle() {
+    constexpr std::time_t settled = 4;
+    for (const Kept &database : kept) {
+        struct stat file {};
+        while (stat(database.path, &file) == 0 && std::time(nullptr) < file.st_ctim.tv_sec + settled) {
+            usleep(100000);
+        }
+    }
 }
 
 void forget_printed(Variant /*variant*/) {

@@ -43,6 +43,12 @@ void restore_for_report(Variant variant);
 /// The same, and deletes the known access point, whose record `desk` has as it would report itself.
 void restore_for_registration(Variant variant);
 
+/// Has another process write what is there already. Also forgets what was printed.
+void write_elsewhere(Variant variant);
+
+/// Waits until the last change of the databases is so long ago that readers can tell from the files that there is none.
+void let_settle();
+
 /// Also opens standard input again, which some functions close.
 void forget_printed(Variant variant);
 

@@ -6,10 +6,10 @@
 
 namespace bench {
 
-enum class Variant : unsigned char { exact, modern, bare, sqlitecpp, soci, program };
+enum class Variant : unsigned char { exact, modern, bare, sqlitecpp, soci, program, kept_sqlite, kept_sqlitecpp };
 
-inline constexpr std::array<std::string_view, 6> variant_names{"exact",     "modern", "bare",
-                                                               "SQLiteCpp", "SOCI",   "program"};
+inline constexpr std::array<std::string_view, 8> variant_names{"exact", "modern",  "bare",         "SQLiteCpp",
+                                                               "SOCI",  "program", "SQLite, kept", "SQLiteCpp, kept"};
 
 inline std::string_view name_of(Variant variant) {
     return variant_names[static_cast<std::size_t>(variant)];
