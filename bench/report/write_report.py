@@ -5,6 +5,7 @@
 """
 
 import pathlib
+import re
 import sys
 
 import readings
@@ -29,6 +30,13 @@ CONTENTION = """
 ## Processes that write at the same time
 
 The library's writers queue for the lock file; *busy timeout* is SQLite by hand with `sqlite3_busy_timeout`.
+
+"""
+SERVICE = """
+## Requests to the service in a second
+
+One client, written in Python, asks `routerdb-sqld` with as many workers as there are processors, and with a process for
+each request (`--fork`): the best of three measurements of a second.
 
 """
 TIMES = """
@@ -89,6 +97,15 @@ def contention(results: pathlib.Path) -> str:
                   "busy timeout, updates/s", "longest wait, ms"], rows)
 
 
+def service(results: pathlib.Path) -> str:
+    rows = []
+    for profile in ("exact", "modern"):
+        for line in (results / f"service-{profile}").read_text().splitlines()[1:]:
+            question, workers, forks, ratio, _ = re.split(r"  +", line)
+            rows.append([question, profile, workers, forks, ratio])
+    return table(["Question", "Profile", "Workers", "A process each", "Ratio"], rows)
+
+
 def load(results: pathlib.Path) -> str:
     rows = []
     for line in (results / "load").read_text().splitlines():
@@ -110,6 +127,7 @@ def main() -> None:
     print(TIMES)
     print(f"\n## Instructions by number of rows, in millions\n\n{curves(results)}")
     print(CONTENTION + contention(results))
+    print(SERVICE + service(results))
     print(f"\n## Loading the library\n\n{load(results)}")
 
 
