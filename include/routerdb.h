@@ -202,8 +202,9 @@ ROUTERDB_API int reset_sqlite_db(void);
 /// @defgroup statement_helpers Database core: statement helpers
 ///
 /// Each runs one SQL text on a connection of its own (GET_DB_SQLITE_SQL_STR_N() on the caller's). Database, lock,
-/// messages and the meaning of the rows differ from one to the next and are stated with each. Only
-/// DB_EXEC_SQL_CHAR() excludes other threads; the others are safe in any thread because they share nothing.
+/// messages and the meaning of the rows differ from one to the next and are stated with each. In exact only
+/// DB_EXEC_SQL_CHAR() excludes other threads, in modern whatever takes the lock file. The others may run in any thread:
+/// they share nothing but, where they take it, the lock file.
 /// @{
 
 /// Executes SQL on the main database under db_mutex and the lock file, and discards any rows. No copy follows. What is
@@ -258,7 +259,7 @@ ROUTERDB_API int DB_EXEC_SQL_CHAR_CHAR(const char *sql, char *out);
 /// @return the sum; -1 if the lock file or the database cannot be opened or the query cannot be prepared
 /// @note Errors: "cannot open %s!\n" and "cannot open %s, ErrorCode: %d!\n" on standard error, "cannot exec sql
 ///       cmdline, Error: (null)\n" on standard output. Random first delay.
-/// @note Takes the lock file, not db_mutex: a thread that returns drops the lock of the others.
+/// @note Takes the lock file, not db_mutex: a thread that returns drops the lock of the others, but in modern.
 /// @remark errno: as DbSqlExec(), and ETIMEDOUT for a database that is busy behind a row
 ROUTERDB_API int GET_DB_SQL_INT_COUNT(const char *sql);
 
@@ -363,8 +364,8 @@ ROUTERDB_API int utf8togb2312(const char *in, size_t inlen, char *out, size_t ou
 ///                     shorter, and room for the whole of `in`
 /// @param      outlen  bytes of `out` that are set to zero first; they supply the terminator
 /// @return 0; -1 if the text cannot be converted or its conversion takes more than ROUTERDB_CONVERSION_ROOM bytes,
-///         `out` then holding the whole input. In the exact profile the converter of a failed
-///         conversion stays allocated
+///         `out` then holding the whole input. In the exact profile the converter of a failed conversion stays
+///         allocated
 /// @note Where the C library has no such converter, which it says by (iconv_t)-1, the conversion fails without a word.
 ///       A null converter is logged as "gb2312toutf8 error1\n", `out` then being untouched. Thread-safe.
 /// @remark errno, in exact too: as utf8togb2312()
@@ -545,7 +546,7 @@ typedef struct UrlFilterItem {
     char name[150];              ///< what people call it
     char url[1030];              ///< address that the rule is about
     TimeGroupItemCut timegroup;  ///< derived: the referenced group
-    int32_t time_valid;          ///< derived: 1 when the rule's time span is known
+    int32_t time_valid;          ///< derived: 1 with times of its own or a group's, even one that is missing
     int32_t timecontrol;         ///< ROUTERDB_TIME_OWN or ROUTERDB_TIME_GROUP
     int32_t timegroup_id;        ///< of the time group; read with ROUTERDB_TIME_GROUP only
     char timegroup_name[152];    ///< derived: name of the referenced group
@@ -790,7 +791,8 @@ typedef struct DomainIpItemList {
 /// a row ends the list there. Columns are read by position, where a comment does not say by name. Messages, unless
 /// said otherwise: "cannot open %s!\n" (lock file) and "Error: %s" on standard output. A lookup that fails writes the
 /// message of its own function and leaves its members clear; of the lookups errno tells of those of groups alone.
-/// Random first delay. Threads of one process must take turns, since a builder that returns drops the process's lock.
+/// Random first delay. Threads of one process must take turns, since a builder that returns drops the process's lock,
+/// but in modern.
 /// @{
 
 /// Builds the list of static DHCP bindings.
@@ -878,8 +880,8 @@ ROUTERDB_API int GetPortFwItemListInServer(PortFwItemList *list, const char *sql
 ROUTERDB_API int GetQosItemListInServer(QosItemList *list, const char *sql);
 
 /// Builds the list of behaviour rules. Columns are found by name. Looks up the referenced time groups and IP groups
-/// (whose range replaces the rule's own), each host name with get_hostname_by_mac(), which leaves a stream of the
-/// lease file open, and the names of classes and applications with GetBehaviorItemInfoTypeName().
+/// (whose range replaces the rule's own), each host name with get_hostname_by_mac(), which in the exact profile leaves
+/// a stream of the lease file open, and the names of classes and applications with GetBehaviorItemInfoTypeName().
 /// @param[out] list  the list to fill
 /// @param      sql   the query, normally "select * from behavior_rule order by id;"
 /// @return no meaning
@@ -1553,7 +1555,7 @@ ROUTERDB_API void FreeApDevList(ApDevList *list);
 /// DB_EXEC_SQL_CHAR(), DB_EXEC_SQL_CHAR_INT() and DB_EXEC_SQL_CHAR_LONG(), with their locks and messages.
 ///
 /// After a power loss each statement is there as after DB_EXEC_SQL_CHAR(): of a new access point in exact perhaps a row
-/// without its report, in modern all or nothing.
+/// without its report, in modern, where the registration is one transaction, all or nothing.
 /// @{
 
 /// Looks an access point up by its MAC address, up to sixteen times, 100 microseconds apart.
@@ -1568,7 +1570,7 @@ ROUTERDB_API int DB_findinfo2(DevInfo dev, unsigned long *sn);
 /// The text "00:00:00:00:00", five pairs of zeros, counts as no MAC address.
 /// @param      dev  its `Dev_MAC` and `Dev_Ipaddress` are read
 /// @param[out] sn   receives the serial number: that of the row, 0 when several rows have the MAC address, or the IP
-///                  address as a number in network order, all bits set for a text that is none
+///                  address as a number in network order, 0xffffffff for a text that is none
 /// @return 1 when it is known, 0 when it is new, also when the lookup cannot be prepared, -1 when the database cannot
 ///         be opened for it
 /// @remark errno: as DB_UpdateInfo()
@@ -1583,7 +1585,7 @@ ROUTERDB_API int DB_findinfo(DevInfo dev, unsigned long *sn);
 /// @return the serial number as an int, or -1. Compare with -1 only: an address whose last octet is 128 or more gives a
 ///         negative number on success, and an empty address gives -1 although the row was written
 /// @note In the modern profile it is one transaction, tried again as a whole while the database is busy, with one
-/// lookup.
+///       lookup. Where that fails for another reason, it goes on as in exact.
 /// @note Copies the database as DbSqlExec() does when the text of its update contains "insert".
 /// @note Errors: "not have enough mem" in the system log.
 /// @remark errno: as DB_UpdateInfo(), and EOVERFLOW for a new one when the table is full
@@ -1626,13 +1628,13 @@ ROUTERDB_API void SetDevStatusbyIP(const char *ip, const char *status);
 
 /// Reads the status of an access point.
 /// @param      mac  the address
-/// @param[out] out  room for 5 bytes, at which the text is cut; "0" when there is no such row
+/// @param[out] out  room for 5 bytes, at which the text is cut; "0" when there is no such row or it cannot be read
 /// @remark errno: EOVERFLOW for a text that is too long for SQLite; EACCES, ENOMEM, EIO
 ROUTERDB_API void GetDevStatus(const char *mac, char *out);
 
 /// Reads the upgrade status of an access point.
 /// @param      mac  the address
-/// @param[out] out  room for 25 bytes, at which the text is cut; "0" when there is no such row
+/// @param[out] out  room for 25 bytes, at which the text is cut; "0" when there is no such row or it cannot be read
 /// @remark errno: as GetDevStatus()
 ROUTERDB_API void GetDevUpgradeStatus(const char *mac, char *out);
 
@@ -1672,7 +1674,7 @@ ROUTERDB_API int GetTableCount(const char *table);
 /// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int get_devinfo_count(void);
 
-/// Counts the access points that are online.
+/// Counts the access points whose status is "1".
 /// @return their number, as GET_DB_SQL_INT_COUNT_ROUTE() gives it
 /// @remark errno: EACCES, ENOMEM, EIO
 ROUTERDB_API int GetApDevList_count(void);
@@ -1829,19 +1831,20 @@ ROUTERDB_API char *SetDevInfoFromWlanZeroCfgGroupInfo(DevInfo *dev, const DevInf
 /// counted. Texts of the catalogue are cut behind 199 bytes, those of zero-configuration groups behind 99, of stations
 /// behind 49, of access points at the width of their members. Then the exact profile prints them as stored: nothing is
 /// escaped. The modern one escapes them as RFC 8259 asks for, and prints U+FFFD for bytes that are no UTF-8. When the
-/// database cannot be opened or asked for a list that has begun, or memory runs out for an element, the object stays
-/// unfinished; a failure behind a row ends the list there. Thread-safe as far as the stream is.
+/// database cannot be opened, or the query not be prepared, for a list that has begun, or memory runs out for an
+/// element, the object stays unfinished; a failure while rows are read ends the list there. Thread-safe as far as the
+/// stream is.
 ///
 /// An element goes to the stream in one call, one of GetWlanZeroCfgGroupList() in five; what other threads print does
-/// not come between. The last one is one call with all that follows it; in the lists of the catalogue and of the
-/// groups, where it is four, what follows is a call of its own. So a page of two access points is five writes on a
-/// stream without a buffer.
+/// not come between. The last element is one call with all that follows it. In the lists of the catalogue what follows
+/// is a call of its own, and in that of the groups, too, where the last element takes four. So a page of two access
+/// points is five writes on a stream without a buffer.
 /// @{
 
 /// The feature texts of one application class.
 typedef struct AppFeatureList {
     uint32_t count;           ///< number of texts
-    char features[128][225];  ///< more rows than that run past the record: the caller's buffer has to hold them
+    char features[128][225];  ///< in exact more rows than that run past the record: the buffer has to hold them
 } AppFeatureList;
 
 /// Room that the joined names of a class take, in bytes.
@@ -1912,9 +1915,9 @@ ROUTERDB_API int GetAppItemListByClassId(AppFeatureList *list, int classId);
 
 /// Prints one page of the access points, with totals.
 /// @param page      number of the page, from 1
-/// @param mode      0 all with an address, 1 the online ones of them, 2 the offline ones, 3 search by address and MAC
-///                  address: without both texts it counts all rows and shows those with an address; another mode finds
-///                  nothing
+/// @param mode      0 all with an address, 1 those of them with status "1", 2 those with status "0", 3 search by
+///                  address and MAC address: without both texts it counts all rows and shows those with an address;
+///                  another mode finds nothing
 /// @param groupId   above 0: those of this WLAN group, whatever the mode
 /// @param flag      1: those not in that group, 14 a page; 2: 14 a page
 /// @param ip        part of an address to search for; may be null; put into the statement as given, cut at 254 bytes
@@ -2040,8 +2043,8 @@ ROUTERDB_API int get_hostname_by_mac_from_lease(const char *mac, char *hostname,
 /// @param      mac       the address; null or empty does nothing
 /// @param[out] hostname  room for 128 bytes; null does nothing
 /// @param      flag      not read
-/// @note Errors: "could not open input file" through perror. Thread-safe. Each call leaves one stream of the lease file
-///       open.
+/// @note Errors: "could not open input file" through perror. Thread-safe. In the exact profile each call leaves one
+///       stream of the lease file open.
 /// @remark errno: as get_hostname_by_mac_from_lease()
 ROUTERDB_API void get_hostname_by_mac(const char *mac, char *hostname, int flag);
 
