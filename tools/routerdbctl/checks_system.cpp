@@ -26,7 +26,7 @@ struct Program {
 constexpr Program programs[] = {
     {"/bin/sh", true, Health::bad, "for all other programs"},
     {"cp", false, Health::bad, "for backups"},
-    {"mkdir", false, Health::bad, "for backups"},
+    {"mkdir", true, Health::bad, "for backups"},
     {"rm", false, Health::bad, "for resetting"},
     {"/bin/send_event", true, Health::doubtful, "for upgrades"},
     {"capwapmanage", true, Health::doubtful, "for lists of stations"},
