@@ -40,7 +40,8 @@
 /// 9. Own functions in front. Calls of the platform and of SQLite are made under their plain names, so that a
 ///    program may put its own usleep, system, syslog, sqlite3_open and so on in front of them.
 /// 10. Missing databases. A function that opens a database, be it only to read, leaves an empty file behind where
-///     there was none. A script that copies the factory file "if there is none" does so before the first call.
+///     there was none; backup, restore and reset do not. A script that copies the factory file "if there is none" does
+///     so before the first call.
 /// 11. Profiles. The library is built in one of two: `exact`, whose behaviour these comments tell, and `modern`, which
 ///     does the same for callers and data that mean well and refuses the rest. What they say of modern holds there
 ///     alone.
