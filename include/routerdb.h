@@ -95,8 +95,8 @@ typedef struct sqlite3 sqlite3;
 /// @defgroup guarded_execution Database core: lock file, guarded execution, maintenance
 /// @{
 
-/// The mutex that DB_EXEC_SQL_CHAR() holds, before the lock file, for its whole duration. A program that holds it
-/// keeps its own threads from writing that way.
+/// The mutex that DB_EXEC_SQL_CHAR() holds, before the lock file, for its whole duration (in modern not while it waits
+/// for the lock file). A program that holds it keeps its own threads from writing that way.
 extern ROUTERDB_API pthread_mutex_t db_mutex;
 
 /// Applies a record lock to a descriptor with fcntl.
