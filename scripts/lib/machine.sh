@@ -44,7 +44,7 @@ prepare_system() {
 # shellcheck disable=SC2317 # a trap calls it
 clean_up() {
     [[ -z $machine ]] || kill -KILL "$machine" 2>/dev/null || true
-    wait
+    wait 2>/dev/null
     [[ -z $work ]] || rm -rf --one-file-system -- "$work"
 }
 
