@@ -47,7 +47,7 @@ public:
     KeptStatements &statements() { return statements_; }
 
 private:
-    bool is_usable(Database database);
+    bool is_usable(Database database) const;
     bool open(Database database);
     void forget();
 
@@ -113,9 +113,8 @@ bool Kept::is_ready(Database database) {
     return db() != nullptr || open(database);
 }
 
-bool Kept::is_usable(Database database) {
-    FileState now;
-    return file_.is_open() && file_.is_at(path_of(database)) && file_.look(now);
+bool Kept::is_usable(Database database) const {
+    return file_.is_open() && file_.is_at(path_of(database));
 }
 
 bool Kept::open(Database database) {

@@ -101,6 +101,15 @@ TEST_F(Statements, that_are_in_use_are_not_lent_again) {
     kept_.put_back(statement, plenty);
 }
 
+TEST_F(Statements, that_are_in_use_stay_whatever_others_take) {
+    sqlite3_stmt *statement = nullptr;
+    run("select 'first';");
+    ASSERT_EQ(kept_.prepare(database_.handle(), "select 'second';", &statement), SQLITE_OK);
+    run("select 2;", 1);
+    EXPECT_EQ(there(), Lines{"select ?;"});
+    kept_.put_back(statement, plenty);
+}
+
 TEST_F(Statements, hold_no_value_and_no_row_while_they_are_kept) {
     run("select 'first' from sqlite_master;");
     sqlite3_stmt *const statement = sqlite3_next_stmt(database_.handle(), nullptr);
