@@ -54,6 +54,11 @@ bool serve(int fd) {
     return answered;
 }
 
+/// The service keeps one, and closes it now and then: it is there before every input.
+void open_scalar_connection() {
+    const sqld::Query scalar("select 1;");
+}
+
 }  // namespace
 
 void fuzz::prepare() {
@@ -61,7 +66,7 @@ void fuzz::prepare() {
                   "insert into user_timegroup(id,name) values(1,'group'); insert into user_urlinfo(id,name,url) "
                   "values(1,'site','http://a'),(2,NULL,x'00');");
     untouched = support::file_content(support::main_database);
-    const sqld::Query scalar("select 1;");  // the connection that the service keeps is there from now on
+    open_scalar_connection();
 }
 
 void fuzz::run(Input input) {
@@ -88,4 +93,5 @@ void fuzz::run(Input input) {
     require(answered ? size == static_cast<ssize_t>(sizeof(header) + header[2]) : size <= 0, "half a reply");
     require(!answered || std::memcmp(reply.data(), request.data(), 8) == 0, "a reply to another request");
     put_file(support::main_database, untouched);
+    open_scalar_connection();
 }
