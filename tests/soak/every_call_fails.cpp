@@ -6,11 +6,10 @@
 #include <cerrno>
 
 #include "core/helpers.h"
-#include "core/holdings.h"
 #include "soak/calls/calls.h"
+#include "soak/left_over.h"
 #include "soak/soak.h"
 #include "support/process.h"
-#include "support/profile.h"
 #include "support/service.h"
 #include "support/streams.h"
 #include "support/wrapped_calls.h"
@@ -18,35 +17,20 @@
 namespace {
 
 using soak::Call;
+using soak::Held;
 using support::WrappedCalls;
 using Fault = WrappedCalls::Fault;
-
-/// What a process holds.
-struct Holdings {
-    int descriptors;
-    sqlite3_int64 memory;
-};
-
-Holdings now() {
-    open_standard_input();
-    return {support::open_descriptors(), sqlite3_memory_used()};
-}
-
-/// Where a connection to each database is kept, what the process holds beside them stays the same over all calls.
-constexpr int kept_descriptors = support::build_profile.keeps_connection ? 2 : 0;
-constexpr sqlite3_int64 kept_memory = support::build_profile.keeps_connection ? 320 * 1024 : 0;
 
 /// One call whose n-th call fails.
 class Point {
 public:
     /// @param first  what the process held before its first call
-    Point(const Call &call, int n, const Fault &fault, const Holdings &first) : call_(call) {
+    Point(const Call &call, int n, const Fault &fault, const Held &first) : call_(call) {
         soak::put_router_back();
-        const Holdings before = support::build_profile.keeps_connection ? first : now();
+        open_standard_input();
+        before_ = support::build_profile.keeps_connection ? first : soak::held_now();
         make(n, fault);
-        const Holdings after = now();
-        descriptors_left_ = after.descriptors - before.descriptors;
-        memory_left_ = after.memory - before.memory;
+        after_ = soak::held_now();
     }
 
     bool came_up() const { return came_up_; }
@@ -55,12 +39,7 @@ public:
     std::string complaint() const {
         // Of the service's processes one may still be about to give its lock back.
         const bool free = support::eventually(support::lock_file_is_free);
-        const long streams = support::build_profile.closes_its_own ? 0 : call_.left.streams;
-        const bool promised = descriptors_left_ >= 0 && descriptors_left_ <= streams + kept_descriptors;
-        const bool released = memory_left_ >= 0 && memory_left_ <= kept_memory;
-        return std::string(free ? "" : ", a lock is held") + (mutex_is_free() ? "" : ", the mutex is held") +
-               (promised ? "" : ", descriptors left: " + std::to_string(descriptors_left_)) +
-               (released ? "" : ", bytes of SQLite left: " + std::to_string(memory_left_)) +
+        return std::string(free ? "" : ", a lock is held") + soak::left_over(call_, before_, after_) +
                (blocks_ == 0 ? "" : ", blocks left: " + std::to_string(blocks_));
     }
 
@@ -81,8 +60,8 @@ private:
     }
 
     const Call &call_;
-    int descriptors_left_ = 0;
-    sqlite3_int64 memory_left_ = 0;
+    Held before_{};
+    Held after_{};
     std::size_t blocks_ = 0;
     bool came_up_ = false;
     std::string function_;
@@ -95,7 +74,7 @@ protected:
     /// Fails the calls of one function in turn, in a process of its own, up to the first complaint.
     /// @return whether there was none
     static bool fail_each(const Call &call, const Fault &fault, long &points) {
-        const Holdings first = now();
+        const Held first = soak::held_now();
         for (int n = 1;; n += soak::among_ordinary_tests() ? 7 : 1) {
             const Point point(call, n, fault, first);
             if (const std::string complaint = point.complaint(); !complaint.empty()) {

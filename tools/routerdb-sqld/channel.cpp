@@ -59,8 +59,12 @@ int take_over(int channel, Request &request) {
     return connection;
 }
 
-void say(int channel, Report report) {
-    send(channel, &report, sizeof(report), MSG_NOSIGNAL);
+bool say(int channel, Report report) {
+    ssize_t size = 0;
+    do {
+        size = send(channel, &report, sizeof(report), MSG_NOSIGNAL);
+    } while (size < 0 && errno == EINTR);
+    return size >= 0;
 }
 
 Heard hear(int channel, Report &report) {

@@ -31,7 +31,8 @@ bool hand_over(int channel, int connection, const Request &request, std::size_t 
 int take_over(int channel, Request &request);
 
 /// Says something to the service.
-void say(int channel, Report report);
+/// @return whether it will hear it
+bool say(int channel, Report report);
 
 enum class Heard { report, nothing, end };
 

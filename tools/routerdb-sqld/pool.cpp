@@ -44,13 +44,16 @@ bool is_ready(const Process &process) {
     return is_idle(process) || process.state == Process::serving;
 }
 
+/// One that ends by itself has answered what it was asked.
 void tell_end(const Process &process, int status) {
+    if (!WIFSIGNALED(status)) {
+        return;
+    }
     if (is_busy(process)) {
         char outcome[64];
-        std::snprintf(outcome, sizeof(outcome), "ended, signal %d has ended its process",
-                      WIFSIGNALED(status) ? WTERMSIG(status) : 0);
+        std::snprintf(outcome, sizeof(outcome), "ended, signal %d has ended its process", WTERMSIG(status));
         tell(process.client, outcome);
-    } else if (process.state == Process::idle && WIFSIGNALED(status)) {
+    } else if (process.state == Process::idle) {
         syslog(LOG_WARNING, "signal %d has ended a worker", WTERMSIG(status));
     }
 }

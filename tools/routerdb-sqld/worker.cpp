@@ -98,8 +98,8 @@ void work(int channel, unsigned requests, const Settings &settings) {
         close(connection);
         std::fflush(stdout);  // what the library prints
         const bool is_last = serving.waits || served == requests || growth.is_too_large();
-        say(channel, {outcome == Outcome::refused ? Report::refused : Report::answered, is_last});
-        if (is_last) {
+        const bool said = say(channel, {outcome == Outcome::refused ? Report::refused : Report::answered, is_last});
+        if (is_last || !said) {  // who is not heard would count as busy until its time is over
             _exit(0);
         }
     }
