@@ -93,8 +93,9 @@ Ranges read_all_calls(const std::string &trace) {
     return ranges;
 }
 
-std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random) {
-    const auto every = static_cast<unsigned>(30 / std::clamp(setting("SOAK_MINUTES", 0), 1L, 30L));
+std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random, unsigned among_tests) {
+    const long minutes = std::min(setting("SOAK_MINUTES", 0), 30L);
+    const auto every = among_ordinary_tests() ? among_tests : static_cast<unsigned>(30 / minutes);
     std::vector<Point> points;
     unsigned left_out = draw(random, every);
     for (const auto &[name, range] : ranges) {

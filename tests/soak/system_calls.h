@@ -39,7 +39,8 @@ struct Point {
 };
 
 /// Those of a run: all that can fail so in half an hour, one of several in less.
-std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random);
+/// @param among_tests  one of so many, among the ordinary tests
+std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random, unsigned among_tests);
 
 /// The option that makes strace let it fail.
 std::string fault(const Point &point, How how);
