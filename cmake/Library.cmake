@@ -107,8 +107,12 @@ target_link_libraries(routerdb_objects PUBLIC SQLite::SQLite3 Threads::Threads P
 # knows malloc makes calloc of it where the block is cleared.
 target_compile_options(
     routerdb_objects
-    PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=
-            -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=0 -fno-builtin-malloc)
+    PRIVATE -fno-exceptions -fno-rtti -fno-threadsafe-statics -ffunction-sections -fdata-sections -U_FORTIFY_SOURCE
+            -D_FORTIFY_SOURCE=0 -fno-builtin-malloc)
+# The library does not tell where it was built; counters have to.
+if(NOT ROUTERDB_COVERAGE)
+    target_compile_options(routerdb_objects PRIVATE -ffile-prefix-map=${PROJECT_SOURCE_DIR}/=)
+endif()
 
 # What each profile is built with beyond that. The modern one notices when a buffer on the stack is overrun, and no address
 # in it can be written once it is loaded. It is not fortified either. -fstack-protector-strong would guard three times as
