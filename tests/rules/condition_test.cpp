@@ -30,6 +30,8 @@ TEST(Condition, that_compares_columns_with_values_is_plain) {
              "id in (1)",
              "id IN ('1', 2,\n'3') and name>'m'",
              "(id=1 or (id=2)) and _col9<=7",
+             "\tAZ_09\r=\f'x'",
+             "z=1",
          }) {
         EXPECT_TRUE(is_plain_condition(condition)) << condition;
     }
@@ -67,6 +69,19 @@ TEST(Condition, that_does_more_is_not) {
              "id=x'31'",
              "id=--1",
              "id=+",
+             "id=-",
+             "id=",
+             "id=1_",
+             "id=1Z",
+             "@id=1",
+             "id[=1",
+             "`id`=1",
+             "id{=1",
+             "id/=1",
+             "id:=1",
+             "id in",
+             "id in (1 2)",
+             "(",
              "id in ()",
              "id in (1,)",
              "id in (1",

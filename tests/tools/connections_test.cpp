@@ -23,6 +23,8 @@ using support::told;
 
 using Clock = std::chrono::steady_clock;
 
+constexpr char endless[] = "with recursive n(i) as (select 1 union all select i+1 from n) select count(*) from n;";
+
 TEST(SqldConnections, of_a_process_are_64_and_the_oldest_goes) {
     const support::Service service;
     const support::SystemLog log;
@@ -40,6 +42,24 @@ TEST(SqldConnections, of_a_process_are_64_and_the_oldest_goes) {
         EXPECT_EQ(peer.receive(), answer());
     }
     EXPECT_EQ(log.lines().front(), told("refused, its process has too many connections"));
+}
+
+TEST(SqldConnections, of_a_process_that_all_wait_leave_no_room_for_another) {
+    const support::Service service({"--workers", "1", "--request-seconds", "60"});
+    const support::SystemLog log;
+    const Peer busy;
+    busy.send(request(100, 1, endless));
+    ASSERT_TRUE(support::eventually([] { return !support::lock_file_is_free(); }));
+    std::list<Peer> waiting(64);
+    for (const Peer &peer : waiting) {
+        peer.send(question());
+    }
+    const Peer another;
+    EXPECT_EQ(another.receive(), "");
+    for (const Peer &peer : waiting) {
+        EXPECT_FALSE(peer.hung_up());
+    }
+    EXPECT_EQ(log.lines(), std::vector<std::string>{told("refused, its process has too many connections")});
 }
 
 TEST(SqldConnections, in_all_are_256_and_the_oldest_goes) {

@@ -34,7 +34,7 @@ TEST_F(Permission, to_query_is_to_read_with_one_statement) {
           "attach '/var/made.db' as made;", "attach char(47)||'var/made.db' as made;", "vacuum into '/var/made.db';",
           "vacuum;", "pragma user_version;", "pragma journal_mode=wal;", "begin;", "detach main;",
           "select 1; delete from user_timegroup;", "select 1; select 2;", "select 1; nonsense",
-          "/* a comment */ vacuum into '/var/made.db';"}) {
+          "/* a comment */ vacuum into '/var/made.db';", "analyze;", "savepoint a;"}) {
         EXPECT_EQ(exchange(request(100, 1, text)), "") << text;
         EXPECT_EQ(exchange(request(groups_table, 1, text)), "") << text;
     }
@@ -64,7 +64,8 @@ TEST_F(Permission, to_execute_is_to_change_rows) {
     EXPECT_FALSE(file_was_made());
     for (const char *text :
          {"insert into user_timegroup(name) values('vacuum into');", "vacuum;", "pragma foreign_keys=1; select 1;",
-          "begin; delete from user_timegroup where name='group'; commit;", "select 1;", ""}) {
+          "begin; delete from user_timegroup where name='group'; commit;", "savepoint a; release a;", "select 1;",
+          ""}) {
         EXPECT_EQ(exchange(request(groups_table, 2, text)), words({groups_table, 2, 0})) << text;
     }
     EXPECT_EQ(names(), "vacuum into");
@@ -72,7 +73,7 @@ TEST_F(Permission, to_execute_is_to_change_rows) {
 
 TEST_F(Permission, to_change_the_schema_is_given_at_the_start) {
     const support::Service service({"--allow-schema"});
-    for (const char *text : {"attach '/var/made.db' as made;", "vacuum into '/var/made.db';",
+    for (const char *text : {"attach '/var/made.db' as made;", "detach main;", "vacuum into '/var/made.db';",
                              "pragma writable_schema=1; update sqlite_master set sql='';"}) {
         EXPECT_EQ(exchange(request(groups_table, 2, text)), "") << text;
     }

@@ -67,6 +67,14 @@ TEST(SqldSocket, is_open_to_owner_and_group_whatever_the_umask) {
     }
 }
 
+TEST(SqldSocket, belongs_to_the_group_that_is_named) {
+    const support::Service service({"--group", "root"});  // the only one there is where nobody has rights
+    struct stat status {};
+    stat(service_socket, &status);
+    EXPECT_EQ(status.st_gid, gid_t{0});
+    EXPECT_TRUE(serves());
+}
+
 TEST(SqldSocket, left_by_a_killed_service_is_replaced) {
     {
         support::Service service;
