@@ -48,7 +48,7 @@ using Work = std::function<bool(long n)>;
 /// A line of the table that scripts/soak prints, if all has held so far.
 inline void figure(long times, const std::string &what) {
     if (!::testing::Test::HasFailure()) {
-        std::printf("FIGURE %ld %s\n", times, what.c_str());
+        std::printf("\nFIGURE %ld %s\n", times, what.c_str());  // after what others have printed without an end
         std::fflush(stdout);
     }
 }
