@@ -31,7 +31,7 @@ constexpr std::size_t record_size = sizeof(UserUrlItem);
 [[maybe_unused]] constexpr rlim_t memory_limit = 8UL * 1024 * 1024;
 
 void limit_memory() {
-#ifndef __SANITIZE_ADDRESS__  // which reserves more than any limit
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // which reserve more than any limit
     unsigned long pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
     const rlim_t limit = pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE)) + memory_limit;
@@ -135,7 +135,7 @@ TEST_F(Peers, that_hang_up_at_every_byte) {
 TEST_F(Peers, that_announce_what_they_do_not_send) {
     for (const std::int32_t size :
          {1, 64 * 1024, 64 * 1024 + 1, 1024 * 1024, 1024 * 1024 + 1, INT_MAX, -1, -12, INT_MIN}) {
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
         if (size == INT_MAX && !build_profile.checks_replies) {
             continue;  // without a limit all of that would be taken
         }

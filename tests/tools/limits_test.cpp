@@ -139,7 +139,7 @@ TEST(SqldLimits, of_rows_refuse_longer_lists_unless_lists_are_capped) {
                         : told("refused, it has more rows than a list takes")});
 }
 
-#ifndef __SANITIZE_ADDRESS__  // which needs more memory than any limit allows
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // which need more memory than any limit allows
 TEST(SqldLimits, of_memory_refuse_what_takes_more) {
     const std::string large = request(100, 1, "select length(hex(zeroblob(20000000)));");
     {

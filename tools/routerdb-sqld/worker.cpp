@@ -22,7 +22,7 @@ constexpr rlim_t mebibyte = rlim_t{1024} * 1024;
 constexpr rlim_t spare_descriptors = 32;
 
 void limit_memory([[maybe_unused]] const Settings &settings) {
-#ifndef __SANITIZE_ADDRESS__  // which reserves more than any limit
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // which reserve more than any limit
     const rlim_t most = settings.memory_mib * mebibyte + list_space_size(longest_list(settings));
     const rlimit limit{most, most};
     setrlimit(RLIMIT_AS, &limit);
