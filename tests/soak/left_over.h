@@ -1,10 +1,8 @@
 // What a process holds, and what a call that failed may have left of it.
 #pragma once
 
-#include <fcntl.h>
 #include <poll.h>
 #include <sqlite3.h>
-#include <unistd.h>
 
 #include <array>
 #include <string>
@@ -20,11 +18,12 @@ struct Held {
     sqlite3_int64 memory;
 };
 
-/// Of descriptors up to 255. Nothing is opened for it, so that it can be asked where nothing can be opened.
+/// Of descriptors up to 255, without standard input, which the exact profile may close. Nothing is opened for it, so
+/// that it can be asked where nothing can be opened.
 inline int open_descriptors() {
-    std::array<pollfd, 256> descriptors{};
+    std::array<pollfd, 255> descriptors{};
     for (std::size_t i = 0; i < descriptors.size(); ++i) {
-        descriptors[i].fd = static_cast<int>(i);
+        descriptors[i].fd = static_cast<int>(i) + 1;
     }
     poll(descriptors.data(), descriptors.size(), 0);
     int open = 0;
@@ -34,10 +33,8 @@ inline int open_descriptors() {
     return open;
 }
 
-/// Standard input is counted whether the exact profile has closed it or not.
 inline Held held_now() {
-    const bool has_input = fcntl(STDIN_FILENO, F_GETFD) >= 0;
-    return {open_descriptors() + (has_input ? 0 : 1), sqlite3_memory_used()};
+    return {open_descriptors(), sqlite3_memory_used()};
 }
 
 /// Where a connection to each database is kept, what the process holds beside them stays the same over all calls.
