@@ -1,10 +1,8 @@
 // Each system call that the service makes fails, one after the other, in every process of it: it ends with a word
 // before it serves, or it goes on serving.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <csignal>
-#include <cstdio>
 
 #include "soak/soak.h"
 #include "soak/system_calls.h"
@@ -56,9 +54,7 @@ protected:
     static bool run(const std::vector<std::string> &options, const std::vector<std::string> &arguments) {
         // The tracer is the grandchild, so that the service is the process that is known. Commands are not traced: a
         // "cp" that cannot look at its files copies one onto itself.
-        const bool redirected = std::freopen("/tmp/output", "w", stdout) != nullptr && dup2(1, 2) == 2;
-        return redirected && support::become(soak::traced(trace_file, joined({"-f", "-D", "-b", "execve"}, options),
-                                                          support::sqld(arguments)));
+        return soak::become_traced(joined({"-f", "-D", "-b", "execve"}, options), support::sqld(arguments));
     }
 
     /// Starts the service with a fault, asks it, and stops it.
@@ -77,9 +73,9 @@ protected:
     soak::Ranges calls() const {
         Process helper([] { return run({}, {"--version"}); });
         EXPECT_EQ(helper.wait(), 0);
-        const soak::Ranges loading = soak::read_all_calls(trace_file);
+        const soak::Ranges loading = soak::read_all_calls();
         EXPECT_EQ(complaint_about({}), "");
-        soak::Ranges calls = soak::read_all_calls(trace_file);
+        soak::Ranges calls = soak::read_all_calls();
         for (const auto &[name, range] : loading) {
             calls[name].before = range.end;
         }
@@ -92,7 +88,7 @@ protected:
         for (const Point &point : soak::draw_points(calls(), how, random, 20)) {
             EXPECT_EQ(complaint_about({"-e", "trace=" + point.name, "-e", soak::fault(point, how)}), "")
                 << soak::fault(point, how);
-            failed += soak::has_failed(trace_file) ? 1 : 0;
+            failed += soak::has_failed() ? 1 : 0;
         }
         EXPECT_GT(failed, 0);
         soak::figure(failed, what);

@@ -3,17 +3,20 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <fstream>
 #include <functional>
 #include <set>
 
 #include "soak/soak.h"
 #include "support/database.h"
+#include "support/process.h"
 
 namespace soak {
 
 namespace {
 
+constexpr char trace_file[] = "/tmp/system-calls";
 constexpr char mark_name[] = "getpgid";
 
 /// Those that cannot fail, or whose failure would not be a real one: a descriptor that was not closed is left, a
@@ -48,9 +51,8 @@ bool can_fail(const std::string &name, How how) {
 
 /// Gives the process, if it is told, and the name of each call to `take`. Signals, ends, and second halves are no
 /// calls.
-void read_calls(const std::string &trace,
-                const std::function<void(const std::string &process, const std::string &name)> &take) {
-    std::ifstream lines(trace);
+void read_calls(const std::function<void(const std::string &process, const std::string &name)> &take) {
+    std::ifstream lines(trace_file);
     for (std::string line; std::getline(lines, line);) {
         const std::size_t begin = std::min(line.find_first_not_of("0123456789 "), line.size());
         const std::size_t end =
@@ -67,10 +69,10 @@ void mark() {
     getpgid(0);
 }
 
-Ranges read_marked_calls(const std::string &trace) {
+Ranges read_marked_calls() {
     Ranges ranges;
     long marks = 0;
-    read_calls(trace, [&](const std::string &, const std::string &name) {
+    read_calls([&](const std::string &, const std::string &name) {
         if (name == mark_name) {
             ++marks;
         } else if (marks < 2) {
@@ -83,10 +85,10 @@ Ranges read_marked_calls(const std::string &trace) {
     return ranges;
 }
 
-Ranges read_all_calls(const std::string &trace) {
+Ranges read_all_calls() {
     std::map<std::string, long> counts;
     Ranges ranges;
-    read_calls(trace, [&](const std::string &process, const std::string &name) {
+    read_calls([&](const std::string &process, const std::string &name) {
         long &most = ranges[name].end;
         most = std::max(most, ++counts[process + name]);
     });
@@ -115,16 +117,16 @@ std::string fault(const Point &point, How how) {
            std::to_string(last);
 }
 
-std::vector<std::string> traced(const std::string &trace, const std::vector<std::string> &options,
-                                const std::vector<std::string> &program) {
-    std::vector<std::string> command = {"strace", "-qq", "-E", "ASAN_OPTIONS=detect_leaks=0", "-o", trace};
+bool become_traced(const std::vector<std::string> &options, const std::vector<std::string> &program) {
+    std::vector<std::string> command = {"strace", "-qq", "-E", "ASAN_OPTIONS=detect_leaks=0", "-o", trace_file};
     command.insert(command.end(), options.begin(), options.end());
     command.insert(command.end(), program.begin(), program.end());
-    return command;
+    return std::freopen(traced_output, "w", stdout) != nullptr && dup2(STDOUT_FILENO, STDERR_FILENO) >= 0 &&
+           support::become(command);
 }
 
-bool has_failed(const std::string &trace) {
-    return support::file_content(trace).find("(INJECTED)") != std::string::npos;
+bool has_failed() {
+    return support::file_content(trace_file).find("(INJECTED)") != std::string::npos;
 }
 
 }  // namespace soak

@@ -25,11 +25,11 @@ using Ranges = std::map<std::string, Range>;
 /// A system call that nothing else makes: between two of them are those that are looked at.
 void mark();
 
-/// Reads what strace has written of one process: the calls between its marks.
-Ranges read_marked_calls(const std::string &trace);
+/// Reads what strace has written last, of one process: the calls between its marks.
+Ranges read_marked_calls();
 
 /// Reads what "strace -f" has written: all calls, of the process that makes most of a name.
-Ranges read_all_calls(const std::string &trace);
+Ranges read_all_calls();
 
 /// One system call that is to fail: the n-th of its name.
 struct Point {
@@ -45,12 +45,14 @@ std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &rand
 /// The option that makes strace let it fail.
 std::string fault(const Point &point, How how);
 
-/// strace before the words of a program, of which it writes the calls to a file. Sanitizers, which cannot look for
-/// leaks in a process that is traced, do not.
-std::vector<std::string> traced(const std::string &trace, const std::vector<std::string> &options,
-                                const std::vector<std::string> &program);
+/// What a traced program prints, on both streams.
+inline constexpr char traced_output[] = "/tmp/traced-output";
 
-/// Whether a call has failed in such a trace.
-bool has_failed(const std::string &trace);
+/// Becomes strace, which runs a program and writes its calls to a file. Sanitizers, which cannot look for leaks in a
+/// process that is traced, do not. Returns only when there is no strace: false.
+bool become_traced(const std::vector<std::string> &options, const std::vector<std::string> &program);
+
+/// Whether a call has failed in the program that was traced last.
+bool has_failed();
 
 }  // namespace soak

@@ -1,9 +1,7 @@
 // Each system call that an exported function makes fails, one after the other: no crash, no lock, nothing left, a sound
 // database.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <cstdio>
 #include <map>
 
 #include "soak/calls/calls.h"
@@ -19,16 +17,10 @@ using soak::Call;
 using soak::How;
 using soak::Point;
 
-constexpr char trace_file[] = "/tmp/system-calls";
-constexpr char output_file[] = "/tmp/output";
-
 /// Runs the program that makes one call, traced.
 /// @return its exit status
 int run(const Call &call, const std::vector<std::string> &options) {
-    support::Process process([&] {
-        const bool redirected = std::freopen(output_file, "w", stdout) != nullptr && dup2(1, 2) == 2;
-        return redirected && support::become(soak::traced(trace_file, options, {ONE_CALL, call.name}));
-    });
+    support::Process process([&] { return soak::become_traced(options, {ONE_CALL, call.name}); });
     return process.wait();
 }
 
@@ -49,7 +41,7 @@ std::string complaint_about(const Call &call, const Point &point, How how) {
     const bool is_well = status == 0 && free && sound;
     return is_well ? ""
                    : soak::fault(point, how) + ": status " + std::to_string(status) + (free ? "" : ", a lock is held") +
-                         (sound ? "" : ", a database is broken") + "\n" + support::file_content(output_file);
+                         (sound ? "" : ", a database is broken") + "\n" + support::file_content(soak::traced_output);
 }
 
 struct Way {
@@ -66,8 +58,8 @@ constexpr Way ways[] = {
 /// What a call does when nothing fails.
 soak::Ranges system_calls_of(const Call &call) {
     soak::put_router_back();
-    EXPECT_EQ(run(call, {}), 0) << call.name << ": " << support::file_content(output_file);
-    return soak::read_marked_calls(trace_file);
+    EXPECT_EQ(run(call, {}), 0) << call.name << ": " << support::file_content(soak::traced_output);
+    return soak::read_marked_calls();
 }
 
 TEST(SystemCallsThatFail, leave_nothing_behind) {
@@ -80,7 +72,7 @@ TEST(SystemCallsThatFail, leave_nothing_behind) {
         for (const Way &way : ways) {
             for (const Point &point : soak::draw_points(ranges, way.how, random, 200)) {
                 EXPECT_EQ(complaint_about(call, point, way.how), "") << call.name;
-                failed[way.how] += soak::has_failed(trace_file) ? 1 : 0;
+                failed[way.how] += soak::has_failed() ? 1 : 0;
             }
         }
     }
