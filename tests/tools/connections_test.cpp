@@ -23,8 +23,6 @@ using support::told;
 
 using Clock = std::chrono::steady_clock;
 
-constexpr char endless[] = "with recursive n(i) as (select 1 union all select i+1 from n) select count(*) from n;";
-
 TEST(SqldConnections, of_a_process_are_64_and_the_oldest_goes) {
     const support::Service service;
     const support::SystemLog log;

@@ -18,6 +18,7 @@
 #include "support/service.h"
 #include "support/streams.h"
 #include "support/system_log.h"
+#include "tools/question.h"
 
 namespace {
 
@@ -30,8 +31,6 @@ using support::told;
 using support::words;
 
 using Lines = std::vector<std::string>;
-
-constexpr char endless[] = "with recursive n(i) as (select 1 union all select i+1 from n) select count(*) from n;";
 
 using Arguments = std::vector<std::string>;
 

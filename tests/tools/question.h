@@ -14,6 +14,9 @@ inline std::string answer() {
     return support::words({100, 1, 7}) + std::string("answer\0", 7);
 }
 
+/// A question without end.
+constexpr char endless[] = "with recursive n(i) as (select 1 union all select i+1 from n) select count(*) from n;";
+
 /// More rows than one connection holds at a time.
 constexpr char url_rows[] =
     "with recursive numbers(n) as (select 1 union all select n + 1 from numbers where n < 128)"
