@@ -6,6 +6,7 @@
 #include "json/json_list.h"
 #include "routerdb.h"
 #include "support/database.h"
+#include "support/left_errno.h"
 #include "support/streams.h"
 #include "support/wrapped_calls.h"
 
@@ -45,6 +46,31 @@ TEST(LongElements, leave_the_list_unfinished_without_memory) {
     EXPECT_EQ(applications(1), R"({"ItemList":{"count":"0"}})");  // for the count
     EXPECT_EQ(applications(2), R"({"ItemList":{"data":[)");       // for the query
     EXPECT_EQ(applications(3), R"({"ItemList":{"data":[)");       // for the first element
+}
+
+/// A list that is printed without the first block of memory that it needs. In the exact profile no element of records
+/// outgrows the stack.
+void expect_reason_without_memory(void (*print)()) {
+    support::expect_errno(ENOMEM, [print] {
+        WrappedCalls calls;
+        calls.fail("malloc", 1, ENOMEM);
+        print();
+        EXPECT_EQ(calls.failed(), support::build_profile.escapes_json);
+    });
+    support::expect_errno(support::found_errno, print);
+}
+
+TEST(LongElements, of_escaped_values_tell_the_reason_without_memory) {
+    const std::string value = "=replace(hex(zeroblob(500)), '0', char(1))";  // six characters each
+    support::Database(support::main_database)
+        .execute("insert into DevInfo(Dev_Ipaddress) values('1.1.1.1'); update DevInfo set Dev_Name" + value +
+                 ", Dev_SwName" + value + ", Dev_SwVer" + value + ", Dev_Model_Name" + value +
+                 "; insert into WlanZeroCfgGroupInfo(WlanGroup_Id) values(1); update WlanZeroCfgGroupInfo set "
+                 "WlanGroup_Name" +
+                 value + ", WlanGroup_Wlan1_Ssid" + value + ", WlanGroup_Wlan1_Wep_Value" + value +
+                 ", WlanGroup_Wlan1_Psk_Value" + value + ", WlanGroup_Wlan5_Psk_Value" + value + ";");
+    expect_reason_without_memory([] { GetApDevList_cgi(1, 0, 0, 0, nullptr, nullptr, 17); });
+    expect_reason_without_memory([] { GetWlanZeroCfgGroupList(); });
 }
 
 constexpr json::Key keys[] = {{"first", json::given(0)}, {"second", json::given(1)}};
