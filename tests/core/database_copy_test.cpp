@@ -243,6 +243,19 @@ TEST_P(CopyToMain, replaces_a_main_database_that_is_gone) {
     expect_source_in_place();
 }
 
+// They would be taken for those of the new one.
+TEST_P(CopyToMain, removes_the_journals_of_a_main_database_that_is_gone) {
+    ASSERT_EQ(unlink(support::main_database), 0);
+    for (const char *const suffix : {"-journal", "-wal", "-shm"}) {
+        support::write_file(support::main_database + std::string(suffix), garbage);
+    }
+    ASSERT_EQ(GetParam().run(), 0);
+    for (const char *const suffix : {"-journal", "-wal", "-shm"}) {
+        EXPECT_FALSE(support::file_exists(support::main_database + std::string(suffix))) << suffix;
+    }
+    expect_source_in_place();
+}
+
 TEST_P(CopyToMain, fills_a_main_database_that_is_empty) {
     support::write_file(support::main_database, "");
     ASSERT_EQ(GetParam().run(), 0);
