@@ -18,7 +18,8 @@ using soak::How;
 using soak::Point;
 using support::Process;
 
-constexpr char trace_file[] = "/tmp/system-calls";
+constexpr soak::Share share{20, 1};
+
 std::string list() {
     return support::exchange(url_list());
 }
@@ -85,7 +86,7 @@ protected:
     void fail_all(How how, const char *what) const {
         std::mt19937 random = soak::random_numbers(static_cast<long>(how));
         long failed = 0;
-        for (const Point &point : soak::draw_points(calls(), how, random, 20)) {
+        for (const Point &point : soak::draw_points(calls(), how, random, share)) {
             EXPECT_EQ(complaint_about({"-e", "trace=" + point.name, "-e", soak::fault(point, how)}), "")
                 << soak::fault(point, how);
             failed += soak::has_failed() ? 1 : 0;

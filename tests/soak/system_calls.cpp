@@ -95,9 +95,10 @@ Ranges read_all_calls() {
     return ranges;
 }
 
-std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random, unsigned among_tests) {
-    const long minutes = std::min(setting("SOAK_MINUTES", 0), 30L);
-    const auto every = among_ordinary_tests() ? among_tests : static_cast<unsigned>(30 / minutes);
+std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random, Share share) {
+    const long minutes = setting("SOAK_MINUTES", 0);
+    const long every_nth = among_ordinary_tests() ? share.among_tests : share.in_half_an_hour * 30 / minutes;
+    const auto every = static_cast<unsigned>(std::max(every_nth, 1L));
     std::vector<Point> points;
     unsigned left_out = draw(random, every);
     for (const auto &[name, range] : ranges) {

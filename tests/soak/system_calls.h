@@ -38,9 +38,14 @@ struct Point {
     long last;  // of that name
 };
 
-/// Those of a run: all that can fail so in half an hour, one of several in less.
-/// @param among_tests  one of so many, among the ordinary tests
-std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random, unsigned among_tests);
+/// One of how many points a run takes; in a longer one it takes more of them, to all that there are.
+struct Share {
+    long among_tests;
+    long in_half_an_hour;
+};
+
+/// Those of a run that can fail so.
+std::vector<Point> draw_points(const Ranges &ranges, How how, std::mt19937 &random, Share share);
 
 /// The option that makes strace let it fail.
 std::string fault(const Point &point, How how);
