@@ -138,6 +138,18 @@ TEST_P(ServerSignal, is_sent_by_a_file_that_others_may_write_in_one_profile_only
     server.wait();
 }
 
+// Its files have the descriptor that is free then.
+TEST_P(ServerSignal, is_sent_by_a_program_without_standard_input) {
+    const support::Process server([] { return pause() == 0; });
+    support::write_file(leases::pid_file, std::to_string(server.id()) + "\n");
+    const int input = dup(STDIN_FILENO);
+    ASSERT_EQ(close(STDIN_FILENO), 0);
+    const Lines sent = signals_sent(GetParam());
+    dup2(input, STDIN_FILENO);
+    close(input);
+    EXPECT_EQ(sent, Lines{"kill " + std::to_string(server.id()) + " 10"});
+}
+
 TEST_P(ServerSignal, is_not_waited_for_behind_a_pipe_nor_sent_to_whom_it_names) {
     if (build_profile.checks_pid_file) {  // the other one waits for a writer
         ASSERT_EQ(mkfifo(leases::pid_file, 0600), 0);
