@@ -6,6 +6,7 @@
 #include "apinventory/device_statements.h"
 #include "apinventory/tables.h"
 #include "support/database.h"
+#include "support/left_errno.h"
 #include "support/profile.h"
 #include "support/recorder.h"
 
@@ -142,6 +143,14 @@ TEST(DbAddinfo, refuses_the_twenty_first_access_point) {
     EXPECT_EQ(DB_addinfo(device(mac, "192.168.1.20")), -1);
     EXPECT_EQ(recorder.calls({"sqlite3_exec delete", "sqlite3_exec insert", "sqlite3_exec update", "system"}), Lines());
     EXPECT_EQ(rows(), before);
+}
+
+TEST(DbAddinfo, tells_that_there_are_too_many_access_points) {
+    insert_devices(20);
+    Recorder recorder;
+    recorder.keep_commands_from_running();
+    support::expect_errno(EOVERFLOW, [] { DB_addinfo(device(mac, "192.168.1.20")); });
+    support::expect_errno(support::found_errno, [] { DB_addinfo(device("30", "192.168.1.20")); });
 }
 
 TEST(DbAddinfo, refreshes_a_known_one_in_a_full_table) {

@@ -1,4 +1,5 @@
 // The request and the calls that carry it: sqlclient_cmd against a service that answers.
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <pthread.h>
 #include <unistd.h>
@@ -99,6 +100,19 @@ TEST(SqlclientCmd, success_leaves_no_descriptor_and_no_message) {
     EXPECT_EQ(recorder.calls({"perror", "syslog"}), Lines{});
     service.requests();  // its own descriptors are closed again
     EXPECT_EQ(support::open_descriptors(), descriptors);
+}
+
+TEST(SqlclientCmd, leaves_no_descriptor_in_a_program_without_standard_input) {
+    FakeService service(reply_of("data"));
+    const int input = dup(STDIN_FILENO);
+    ASSERT_EQ(close(STDIN_FILENO), 0);
+    Exchange exchange;
+    const int result = exchange.send();
+    const bool is_closed = fcntl(STDIN_FILENO, F_GETFD) == -1;
+    dup2(input, STDIN_FILENO);
+    close(input);
+    EXPECT_EQ(result, 0);
+    EXPECT_TRUE(is_closed);
 }
 
 TEST(SqlclientCmd, any_number_of_threads_may_call_it_at_once) {
