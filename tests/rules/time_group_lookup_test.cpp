@@ -6,6 +6,7 @@
 
 #include "routerdb.h"
 #include "support/database.h"
+#include "support/left_errno.h"
 #include "support/profile.h"
 #include "support/record.h"
 #include "support/recorder.h"
@@ -72,6 +73,15 @@ TEST(GetTimeControlById, without_the_table_says_so_and_leaves_the_record_zero) {
         support::streams_of([&] { EXPECT_EQ(difference(std::string(380, '\0'), found(3, database)), ""); });
     EXPECT_EQ(streams.output, "cannot prepare sql cmdline, Error: no such table: user_timegroup\n");
     EXPECT_EQ(streams.error, "");
+}
+
+TEST(GetTimeControlById, tells_why_nothing_was_read) {
+    const support::Database database;
+    database.execute(three_groups);
+    support::expect_errno(support::found_errno, [&] { found(3, database); });
+    support::expect_errno(support::found_errno, [&] { found(5, database); });
+    database.execute("drop table user_timegroup;");
+    support::expect_errno(EIO, [&] { found(3, database); });
 }
 
 TEST(GetTimeControlById, sleeps_grow_by_five_through_prepare_and_first_step) {
