@@ -48,7 +48,11 @@ TEST(LongElements, are_printed_whole) {
 TEST(LongElements, leave_the_list_unfinished_without_memory) {
     EXPECT_EQ(applications(1), R"({"ItemList":{"count":"0"}})");  // for the count
     EXPECT_EQ(applications(2), R"({"ItemList":{"data":[)");       // for the query
-    EXPECT_EQ(applications(3), R"({"ItemList":{"data":[)");       // for the first element
+}
+
+// By itself: which block is the element's depends on what was asked before.
+TEST(LongElements, leave_the_list_unfinished_where_the_first_one_has_no_memory) {
+    EXPECT_EQ(applications(3), R"({"ItemList":{"data":[)");
 }
 
 /// A list that is printed without the first block of memory that it needs. In the exact profile no element of records
