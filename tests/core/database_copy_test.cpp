@@ -245,13 +245,15 @@ TEST_P(CopyToMain, replaces_a_main_database_that_is_gone) {
 
 // They would be taken for those of the new one.
 TEST_P(CopyToMain, removes_the_journals_of_a_main_database_that_is_gone) {
+    const std::string main = support::main_database;
+    const std::string journals[] = {main + "-journal", main + "-wal", main + "-shm"};
     ASSERT_EQ(unlink(support::main_database), 0);
-    for (const char *const suffix : {"-journal", "-wal", "-shm"}) {
-        support::write_file(support::main_database + std::string(suffix), garbage);
+    for (const std::string &journal : journals) {
+        support::write_file(journal, garbage);
     }
     ASSERT_EQ(GetParam().run(), 0);
-    for (const char *const suffix : {"-journal", "-wal", "-shm"}) {
-        EXPECT_FALSE(support::file_exists(support::main_database + std::string(suffix))) << suffix;
+    for (const std::string &journal : journals) {
+        EXPECT_FALSE(support::file_exists(journal)) << journal;
     }
     expect_source_in_place();
 }

@@ -15,6 +15,7 @@
 #include "support/profile.h"
 #include "support/recorder.h"
 #include "support/streams.h"
+#include "support/without_standard_input.h"
 
 namespace {
 
@@ -142,12 +143,8 @@ TEST_P(ServerSignal, is_sent_by_a_file_that_others_may_write_in_one_profile_only
 TEST_P(ServerSignal, is_sent_by_a_program_without_standard_input) {
     const support::Process server([] { return pause() == 0; });
     support::write_file(leases::pid_file, std::to_string(server.id()) + "\n");
-    const int input = dup(STDIN_FILENO);
-    ASSERT_EQ(close(STDIN_FILENO), 0);
-    const Lines sent = signals_sent(GetParam());
-    dup2(input, STDIN_FILENO);
-    close(input);
-    EXPECT_EQ(sent, Lines{"kill " + std::to_string(server.id()) + " 10"});
+    const support::WithoutStandardInput closed;
+    EXPECT_EQ(signals_sent(GetParam()), Lines{"kill " + std::to_string(server.id()) + " 10"});
 }
 
 TEST_P(ServerSignal, is_not_waited_for_behind_a_pipe_nor_sent_to_whom_it_names) {

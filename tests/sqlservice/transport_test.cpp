@@ -18,6 +18,7 @@
 #include "support/record.h"
 #include "support/recorder.h"
 #include "support/streams.h"
+#include "support/without_standard_input.h"
 
 namespace {
 
@@ -104,15 +105,10 @@ TEST(SqlclientCmd, success_leaves_no_descriptor_and_no_message) {
 
 TEST(SqlclientCmd, leaves_no_descriptor_in_a_program_without_standard_input) {
     FakeService service(reply_of("data"));
-    const int input = dup(STDIN_FILENO);
-    ASSERT_EQ(close(STDIN_FILENO), 0);
+    const support::WithoutStandardInput closed;
     Exchange exchange;
-    const int result = exchange.send();
-    const bool is_closed = fcntl(STDIN_FILENO, F_GETFD) == -1;
-    dup2(input, STDIN_FILENO);
-    close(input);
-    EXPECT_EQ(result, 0);
-    EXPECT_TRUE(is_closed);
+    EXPECT_EQ(exchange.send(), 0);
+    EXPECT_EQ(fcntl(STDIN_FILENO, F_GETFD), -1);
 }
 
 TEST(SqlclientCmd, any_number_of_threads_may_call_it_at_once) {
