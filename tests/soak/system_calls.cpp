@@ -36,8 +36,8 @@ const std::set<std::string> interruptible = {
 /// What a call says when it fails; the others say that of a broken disk.
 const std::map<std::string, std::string> reasons = {
     {"clone", "EAGAIN"},  {"clone3", "EAGAIN"}, {"connect", "ECONNREFUSED"}, {"mmap", "ENOMEM"},
-    {"mremap", "ENOMEM"}, {"openat", "EMFILE"}, {"pwrite64", "ENOSPC"},      {"socket", "EMFILE"},
-    {"unlink", "EACCES"}, {"vfork", "EAGAIN"},  {"write", "ENOSPC"},
+    {"mmap2", "ENOMEM"},  {"mremap", "ENOMEM"}, {"openat", "EMFILE"},        {"pwrite64", "ENOSPC"},
+    {"socket", "EMFILE"}, {"unlink", "EACCES"}, {"vfork", "EAGAIN"},         {"write", "ENOSPC"},
 };
 
 std::string reason_of(const std::string &name, How how) {
